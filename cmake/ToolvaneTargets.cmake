@@ -1,0 +1,56 @@
+# The few shapes of target that this project has. A library's own folder is its only include root,
+# so code that reaches for a folder which its target does not link fails to compile.
+
+# toolvane_library(NAME SOURCES file… [PUBLIC lib…] [PRIVATE lib…] [INTERFACES ui-name…])
+# A static library over Qt. INTERFACES names files of resources/interface (without ".ui") that are
+# compiled to ui_<name>.h for this library.
+function(toolvane_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE;INTERFACES")
+    add_library(${name} STATIC ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC Qt6::Core ${arg_PUBLIC}
+        PRIVATE toolvane_qt_settings ${arg_PRIVATE})
+    foreach(interface IN LISTS arg_INTERFACES)
+        toolvane_compile_interface(${name} ${interface})
+    endforeach()
+endfunction()
+
+# Texts in interface descriptions carry an id of the localisation tables, hence -idbased.
+function(toolvane_compile_interface target interface)
+    set(input "${PROJECT_SOURCE_DIR}/resources/interface/${interface}.ui")
+    set(output "${CMAKE_CURRENT_BINARY_DIR}/interface/ui_${interface}.h")
+    file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/interface")
+    add_custom_command(OUTPUT "${output}"
+        COMMAND Qt6::uic -idbased -o "${output}" "${input}"
+        DEPENDS "${input}" VERBATIM)
+    target_sources(${target} PRIVATE "${output}")
+    target_include_directories(${target} SYSTEM PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/interface")
+endfunction()
+
+# toolvane_standin(NAME SOURCES file… [PRIVATE lib…])
+# A stand-in program: plain C++ without Qt, placed where the command runner looks for it.
+function(toolvane_standin name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PRIVATE")
+    add_executable(standin_${name} ${arg_SOURCES})
+    set_target_properties(standin_${name} PROPERTIES OUTPUT_NAME ${name}
+        RUNTIME_OUTPUT_DIRECTORY "${TOOLVANE_LIBEXEC_OUTPUT_DIRECTORY}")
+    target_link_libraries(standin_${name} PRIVATE toolvane_settings ${arg_PRIVATE})
+    install(TARGETS standin_${name} DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/toolvane")
+endfunction()
+
+# toolvane_test(NAME SOURCES file… [LINK lib…] [LABELS label…])
+# One Qt Test program under CTest. It runs through tests/support/isolated, which gives it a user
+# database, a home folder and settings of its own: no test can reach the real ones.
+function(toolvane_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;LABELS")
+    add_executable(${name} ${arg_SOURCES})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON
+        RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    target_link_libraries(${name} PRIVATE toolvane_qt_settings Qt6::Test ${arg_LINK})
+    target_compile_definitions(${name} PRIVATE
+        TOOLVANE_BUILD_DIR="${CMAKE_BINARY_DIR}" TOOLVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    add_test(NAME ${name}
+        COMMAND "${PROJECT_SOURCE_DIR}/tests/support/isolated" $<TARGET_FILE:${name}>)
+    set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
+endfunction()
