@@ -16,13 +16,13 @@ function(toolvane_library name)
     endforeach()
 endfunction()
 
-# Texts in interface descriptions carry an id of the localisation tables, hence -idbased.
+# Texts in interface descriptions carry an id of the localisation tables (idbasedtr="true").
 function(toolvane_compile_interface target interface)
     set(input "${PROJECT_SOURCE_DIR}/resources/interface/${interface}.ui")
     set(output "${CMAKE_CURRENT_BINARY_DIR}/interface/ui_${interface}.h")
     file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/interface")
     add_custom_command(OUTPUT "${output}"
-        COMMAND Qt6::uic -idbased -o "${output}" "${input}"
+        COMMAND Qt6::uic -o "${output}" "${input}"
         DEPENDS "${input}" VERBATIM)
     target_sources(${target} PRIVATE "${output}")
     target_include_directories(${target} SYSTEM PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/interface")

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "AppDelegate.h"
+#include "JobList.h"
+#include "MainWindow.h"
+
+#include <memory>
+
+class HoverTableAppDelegate;
+
+/// Everything that the main interface description stands for, made and connected in the right
+/// order: the windows, the delegate, the sidebar with its pages, and the list of what runs.
+class Application
+{
+public:
+    Application();
+    ~Application();
+
+    /// Names the program to Qt, so that settings and window titles are Toolvane's, and installs the
+    /// texts of the user's language. Call once, before any window is made.
+    static void prepare();
+
+    void start() { m_delegate.applicationDidFinishLaunching(); }
+
+    MainWindow &window() { return m_window; }
+    HoverTableAppDelegate &tools() { return *m_tools; }
+    JobList &jobs() { return m_jobs; }
+    AppDelegate &delegate() { return m_delegate; }
+
+private:
+    JobList m_jobs;
+    AppDelegate m_delegate;
+    MainWindow m_window;
+    std::unique_ptr<QWidget> m_loginWindow;
+    std::unique_ptr<HoverTableAppDelegate> m_tools;
+};

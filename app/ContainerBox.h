@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QStackedWidget>
+
+/// The main window's page area: a frame with one replaceable content view. A view that is replaced
+/// stays alive, hidden, with everything that was typed into it.
+class ContainerBox : public QStackedWidget
+{
+    Q_OBJECT
+
+public:
+    using QStackedWidget::QStackedWidget;
+
+    QWidget *contentView() const { return currentWidget(); }
+    void setContentView(QWidget *view);
+};

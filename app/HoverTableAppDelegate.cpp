@@ -1,0 +1,92 @@
+#include "HoverTableAppDelegate.h"
+
+#include "ContainerBox.h"
+#include "ElidedLabel.h"
+#include "HoverTableRowView.h"
+#include "HoverTableView.h"
+#include "JobList.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QSet>
+
+HoverTableAppDelegate::HoverTableAppDelegate(const QList<Tool> &tools, JobList &jobs,
+                                             AppDelegate &appDelegate, HoverTableView &tableView,
+                                             QObject *parent)
+    : QAbstractListModel(parent), m_appDelegate(appDelegate), m_tableView(tableView), m_jobs(jobs)
+{
+    for (const Tool &tool : tools)
+        m_naviItems += getNaviItem(qtTrId(tool.nameKey), QString::fromLatin1(tool.imageName));
+    for (const Tool &tool : tools) {
+        QWidget *page = tool.makePage(jobs, appDelegate.container);
+        page->hide(); // a child of a window that is yet to be shown would appear with it
+        m_viewItems += page;
+    }
+    m_tableView.setModel(this);
+    connect(m_tableView.selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &HoverTableAppDelegate::tableViewSelectionDidChange);
+    connect(&m_jobs, &JobList::changed, this, &HoverTableAppDelegate::showRunningJobs);
+}
+
+HoverTableAppDelegate::NaviItem HoverTableAppDelegate::getNaviItem(const QString &name,
+                                                                   const QString &image)
+{
+    return {image, qtTrId(name.toUtf8().constData())};
+}
+
+void HoverTableAppDelegate::tableViewSelectionDidChange()
+{
+    for (int row = 0; row < numberOfRowsInTableView(); ++row) {
+        const HoverTableRowView *rowView = m_tableView.rowView(row);
+        if (!rowView)
+            continue;
+        QFont font = QApplication::font();
+        font.setPointSize(static_cast<int>(QFontInfo(rowView->textField()->font()).pointSizeF()));
+        font.setBold(rowView->isSelected());
+        rowView->textField()->setFont(font);
+        if (rowView->isSelected())
+            m_appDelegate.container->setContentView(m_viewItems.at(row));
+    }
+}
+
+void HoverTableAppDelegate::selectTool(int row)
+{
+    m_tableView.setCurrentIndex(index(row));
+}
+
+int HoverTableAppDelegate::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : numberOfRowsInTableView();
+}
+
+QVariant HoverTableAppDelegate::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const NaviItem item = objectValueForTableColumn(index.row());
+    switch (role) {
+    case Qt::DisplayRole:
+        return item.name;
+    case HoverTableView::ImageNameRole:
+        return item.icon;
+    default:
+        return {};
+    }
+}
+
+void HoverTableAppDelegate::closePages()
+{
+    qDeleteAll(m_viewItems);
+    m_viewItems.clear();
+}
+
+void HoverTableAppDelegate::showRunningJobs()
+{
+    QSet<QString> busyPages;
+    for (const RunningJob &job : m_jobs.running())
+        busyPages += job.description.page;
+    for (int row = 0; row < m_viewItems.size(); ++row) {
+        if (HoverTableRowView *rowView = m_tableView.rowView(row))
+            rowView->setRunning(busyPages.contains(m_viewItems.at(row)->objectName()));
+    }
+}

@@ -1,0 +1,112 @@
+#include "HoverTableView.h"
+
+#include "FadingGradient.h"
+#include "HoverTableRowView.h"
+
+#include <QPainter>
+#include <QResizeEvent>
+#include <QStyledItemDelegate>
+
+namespace
+{
+
+constexpr int smallestRowHeight = 44;
+constexpr int roomAroundText = 24;
+
+// The row views draw everything; the list only has to know how high a row is.
+class RowHeightDelegate : public QStyledItemDelegate
+{
+public:
+    explicit RowHeightDelegate(HoverTableView *view) : QStyledItemDelegate(view), m_view(view) { }
+
+    void paint(QPainter *, const QStyleOptionViewItem &, const QModelIndex &) const override { }
+    QSize sizeHint(const QStyleOptionViewItem &, const QModelIndex &) const override
+    {
+        return {0, m_view->rowHeight()};
+    }
+
+private:
+    HoverTableView *m_view;
+};
+
+} // namespace
+
+HoverTableView::HoverTableView(QWidget *parent) : QListView(parent)
+{
+    setItemDelegate(new RowHeightDelegate(this));
+    setUniformItemSizes(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSelectionMode(SingleSelection);
+    setEditTriggers(NoEditTriggers);
+    viewport()->setBackgroundRole(QPalette::Window);
+}
+
+int HoverTableView::rowHeight() const
+{
+    return qMax(smallestRowHeight, fontMetrics().height() + roomAroundText);
+}
+
+double HoverTableView::yPositionPastLastRow() const
+{
+    const int rows = model() ? model()->rowCount() : 0;
+    if (rows == 0)
+        return 0;
+    const QRect last = visualRect(model()->index(rows - 1, 0));
+    return last.y() + last.height();
+}
+
+HoverTableRowView *HoverTableView::rowView(int row) const
+{
+    return qobject_cast<HoverTableRowView *>(indexWidget(model()->index(row, 0)));
+}
+
+void HoverTableView::setModel(QAbstractItemModel *newModel)
+{
+    QListView::setModel(newModel);
+    insertRowViews();
+}
+
+void HoverTableView::insertRowViews()
+{
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        const QModelIndex index = model()->index(row, 0);
+        setIndexWidget(index,
+                       new HoverTableRowView(index.data(ImageNameRole).toString(),
+                                             index.data(Qt::DisplayRole).toString()));
+    }
+}
+
+void HoverTableView::paintEvent(QPaintEvent *event)
+{
+    QListView::paintEvent(event);
+    drawGridInClipRect();
+}
+
+void HoverTableView::resizeEvent(QResizeEvent *event)
+{
+    QListView::resizeEvent(event);
+    const int pastLastRow = qRound(yPositionPastLastRow());
+    if (viewport()->height() > pastLastRow)
+        viewport()->update(0, pastLastRow, viewport()->width(), viewport()->height() - pastLastRow);
+}
+
+void HoverTableView::selectionChanged(const QItemSelection &selected,
+                                      const QItemSelection &deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        if (HoverTableRowView *view = rowView(row))
+            view->setSelected(selectionModel()->isRowSelected(row));
+    }
+}
+
+void HoverTableView::drawGridInClipRect()
+{
+    QPainter painter(viewport());
+    double y = yPositionPastLastRow() + rowHeight();
+    while (y < viewport()->height()) {
+        FadingGradient::separator().draw(painter, QRectF(0, y, viewport()->width(), 1.0));
+        y += rowHeight();
+    }
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QListView>
+
+class HoverTableRowView;
+
+/// The sidebar's list. Each row is a HoverTableRowView that stands over the model's index, so that
+/// selection, keyboard and accessibility are those of any list; below the last row the list draws
+/// separator lines where the bottoms of further rows would be.
+class HoverTableView : public QListView
+{
+    Q_OBJECT
+
+public:
+    /// What the model tells of a row beside its name (Qt::DisplayRole).
+    enum Role {
+        ImageNameRole = Qt::UserRole ///< Name of one of the application's own images.
+    };
+
+    explicit HoverTableView(QWidget *parent = nullptr);
+
+    /// Bottom edge of the last row in the viewport's coordinates; 0 without rows.
+    double yPositionPastLastRow() const;
+    int rowHeight() const;
+    /// None where the list has no such row.
+    HoverTableRowView *rowView(int row) const;
+
+    void setModel(QAbstractItemModel *model) override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
+
+private:
+    void insertRowViews();
+    void drawGridInClipRect();
+};

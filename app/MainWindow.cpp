@@ -1,0 +1,105 @@
+#include "MainWindow.h"
+
+#include "AppDelegate.h"
+#include "HoverTableAppDelegate.h"
+#include "JobList.h"
+#include "NamedImage.h"
+#include "ToolbarTitle.h"
+#include "ui_MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr auto geometryKey = "MainWindow/Geometry"_L1;
+
+} // namespace
+
+MainWindow::MainWindow(JobList &jobs) : ui(std::make_unique<Ui::MainWindow>()), m_jobs(jobs)
+{
+    ui->setupUi(this);
+    fillToolbar();
+    connect(ui->quitItem, &QAction::triggered, this, &QWidget::close);
+    restoreGeometry(QSettings().value(geometryKey).toByteArray());
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::fillToolbar()
+{
+    ui->websiteItem->setIcon(namedImage(u"website"_s));
+    ui->toolbar->addWidget(new ToolbarTitle(ui->appNameItem, ui->toolbar));
+    auto *spacer = new QWidget(ui->toolbar);
+    spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    ui->toolbar->addWidget(spacer);
+    ui->toolbar->addAction(ui->websiteItem);
+}
+
+void MainWindow::connectOutlets(AppDelegate &delegate)
+{
+    delegate.window = this;
+    delegate.toolbar = ui->toolbar;
+    delegate.appNameItem = ui->appNameItem;
+    delegate.container = ui->container;
+    connect(ui->websiteItem, &QAction::triggered, &delegate, &AppDelegate::goWebsite);
+}
+
+void MainWindow::connectTools(HoverTableAppDelegate &tools)
+{
+    for (int row = 0; row < tools.numberOfRowsInTableView(); ++row) {
+        const auto [icon, name] = tools.objectValueForTableColumn(row);
+        QAction *item = ui->toolsMenu->addAction(name);
+        item->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + row)));
+        connect(item, &QAction::triggered, &tools, [&tools, row] { tools.selectTool(row); });
+    }
+}
+
+HoverTableView &MainWindow::tableView() const
+{
+    return *ui->tableView;
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_jobs.isEmpty()) {
+        event->ignore();
+        askBeforeClosing();
+        return;
+    }
+    QSettings().setValue(geometryKey, saveGeometry());
+    event->accept();
+}
+
+void MainWindow::askBeforeClosing()
+{
+    if (findChild<QMessageBox *>(u"quitQuestion"_s))
+        return;
+    auto *question = new QMessageBox(QMessageBox::Question, windowTitle(), qtTrId("Quit.Question"),
+                                     QMessageBox::NoButton, this);
+    question->setObjectName(u"quitQuestion"_s);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setInformativeText(qtTrId("Quit.Consequence"));
+    QPushButton *quit = question->addButton(qtTrId("Quit.Quit"), QMessageBox::DestructiveRole);
+    QPushButton *stay = question->addButton(qtTrId("Quit.KeepWorking"), QMessageBox::RejectRole);
+    question->setDefaultButton(stay);
+    question->setEscapeButton(stay);
+    connect(quit, &QPushButton::clicked, this, &MainWindow::quitWithoutFinishing);
+    // Once the last run has ended there is nothing left to ask.
+    connect(&m_jobs, &JobList::allEnded, question, &QWidget::close);
+    question->open();
+}
+
+void MainWindow::quitWithoutFinishing()
+{
+    QSettings().setValue(geometryKey, saveGeometry());
+    connect(&m_jobs, &JobList::allEnded, qApp, &QCoreApplication::quit);
+    hide();
+    Q_EMIT abandonRuns();
+}

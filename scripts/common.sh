@@ -1,0 +1,55 @@
+# Sourced by the other scripts: the project's root, packages, configuring and building.
+
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+cd "$root"
+
+say() { printf '%s\n' "toolvane: $*"; }
+
+# packages_of SECTION…: the package names in these sections of the one list.
+packages_of() {
+    awk -v wanted=" $* " '
+        /^\[/ { section = substr($0, 2, index($0, "]") - 2); next }
+        { sub(/#.*/, ""); if (NF && index(wanted, " " section " ")) print $1 }
+    ' packaging/debian-packages.txt
+}
+
+# install_packages SECTION…: installs what is missing, through sudo when not root.
+install_packages() {
+    local missing=() package
+    for package in $(packages_of "$@"); do
+        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed \
+            || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    say "installing ${#missing[@]} packages that are missing: ${missing[*]}"
+    local become=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            say "run this as root, or install sudo, so that the packages can be installed" >&2
+            exit 69
+        }
+        become=(sudo)
+    fi
+    "${become[@]}" apt-get update -q
+    "${become[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+# build PRESET [TARGET…]
+build() {
+    local preset=$1
+    shift
+    say "building ($preset)"
+    cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+        cat "build-$preset.log" >&2
+        exit 1
+    }
+    rm -f "build-$preset.log"
+    cmake --build --preset "$preset" ${1:+--target "$@"}
+}
+
+# on_virtual_display COMMAND…: runs it on an X server of its own, which ends with it.
+on_virtual_display() {
+    xvfb-run --auto-servernum --server-args '-screen 0 1600x1000x24' "$@"
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStringList>
+#include <QTimer>
+
+#include <functional>
+
+/// Stands for the user in front of message boxes: notes what each says and presses its OK button,
+/// so that a test goes on. Lives on the interface thread, for as long as a test expects boxes.
+class MessageBoxes : public QObject
+{
+public:
+    MessageBoxes()
+    {
+        m_look.setInterval(5);
+        connect(&m_look, &QTimer::timeout, this, &MessageBoxes::look);
+        m_look.start();
+    }
+
+    QStringList texts; ///< Each box's message, in order.
+    QStringList informativeTexts;
+    /// Called while a box is still shown: what the program looks like behind it.
+    std::function<void()> whileShown;
+
+private:
+    void look()
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || box->objectName() != QLatin1String("messageBox"))
+            return;
+        m_look.stop();
+        texts += box->text();
+        informativeTexts += box->informativeText();
+        if (whileShown)
+            whileShown();
+        box->button(QMessageBox::Ok)->click();
+        m_look.start();
+    }
+
+    QTimer m_look;
+};
