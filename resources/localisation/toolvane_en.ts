@@ -1,0 +1,567 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <message id="AppName">
+        <source>Toolvane</source>
+        <translation>Toolvane</translation>
+    </message>
+    <message id="Authorization Failed">
+        <source>Access was not granted.</source>
+        <translation>Access was not granted.</translation>
+    </message>
+    <message id="Authorize">
+        <source>Authorize</source>
+        <translation>Authorize</translation>
+    </message>
+    <message id="AV Convert">
+        <source>AV Convert</source>
+        <translation>AV Convert</translation>
+    </message>
+    <message id="AVConvert.Format.Name">
+        <source>Output format</source>
+        <translation>Output format</translation>
+    </message>
+    <message id="AVConvert.Output.Name">
+        <source>Video to make</source>
+        <translation>Video to make</translation>
+    </message>
+    <message id="AVConvert.Output.Placeholder">
+        <source>The video to make, ending in .m4v</source>
+        <translation>The video to make, ending in .m4v</translation>
+    </message>
+    <message id="AVConvert.OutputSelect.Name">
+        <source>Select the video to make</source>
+        <translation>Select the video to make</translation>
+    </message>
+    <message id="AVConvert.Source.Name">
+        <source>Video to convert</source>
+        <translation>Video to convert</translation>
+    </message>
+    <message id="AVConvert.Source.Placeholder">
+        <source>The video to convert</source>
+        <translation>The video to convert</translation>
+    </message>
+    <message id="AVConvert.SourceSelect.Name">
+        <source>Select the video to convert</source>
+        <translation>Select the video to convert</translation>
+    </message>
+    <message id="AVConvert.Subtitle">
+        <source>Converts a video into a format that suits the device that is to play it.</source>
+        <translation>Converts a video into a format that suits the device that is to play it.</translation>
+    </message>
+    <message id="Better">
+        <source>Better (smallest)</source>
+        <translation>Better (smallest)</translation>
+    </message>
+    <message id="Caches">
+        <source>Caches </source>
+        <translation>Caches </translation>
+    </message>
+    <message id="Check">
+        <source>Check</source>
+        <translation>Check</translation>
+    </message>
+    <message id="Clean">
+        <source>Clean</source>
+        <translation>Clean</translation>
+    </message>
+    <message id="Clear">
+        <source>&amp;Clear</source>
+        <translation>&amp;Clear</translation>
+    </message>
+    <message id="CompressRatio">
+        <source>Com&amp;pression</source>
+        <translation>Com&amp;pression</translation>
+    </message>
+    <message id="Convert">
+        <source>Con&amp;vert</source>
+        <translation>Con&amp;vert</translation>
+    </message>
+    <message id="Convert is completed.">
+        <source>The video was converted. You find it in the file that you chose.</source>
+        <translation>The video was converted. You find it in the file that you chose.</translation>
+    </message>
+    <message id="Convert is failed.">
+        <source>The video could not be converted. Check that the source is a complete video and that there is enough free space, then try again.</source>
+        <translation>The video could not be converted. Check that the source is a complete video and that there is enough free space, then try again.</translation>
+    </message>
+    <message id="DMG">
+        <source>Disk Image</source>
+        <translation>Disk Image</translation>
+    </message>
+    <message id="DMG.Subtitle">
+        <source>Makes a disk image (DMG) of everything in a folder.</source>
+        <translation>Makes a disk image (DMG) of everything in a folder.</translation>
+    </message>
+    <message id="Downloads">
+        <source>Downloads </source>
+        <translation>Downloads </translation>
+    </message>
+    <message id="Faster">
+        <source>Faster</source>
+        <translation>Faster</translation>
+    </message>
+    <message id="FreeDisk">
+        <source>Free space</source>
+        <translation>Free space</translation>
+    </message>
+    <message id="General">
+        <source>General</source>
+        <translation>General</translation>
+    </message>
+    <message id="Generate">
+        <source>&amp;Generate</source>
+        <translation>&amp;Generate</translation>
+    </message>
+    <message id="Image.Output.Name">
+        <source>Image file to make</source>
+        <translation>Image file to make</translation>
+    </message>
+    <message id="Image.Output.Placeholder">
+        <source>The image to make, ending in .%1</source>
+        <translation>The image to make, ending in .%1</translation>
+    </message>
+    <message id="Image.OutputSelect.Name">
+        <source>Select the image file to make</source>
+        <translation>Select the image file to make</translation>
+    </message>
+    <message id="Image.Source.Name">
+        <source>Source folder</source>
+        <translation>Source folder</translation>
+    </message>
+    <message id="Image.Source.Placeholder">
+        <source>The folder to put into the image</source>
+        <translation>The folder to put into the image</translation>
+    </message>
+    <message id="Image.SourceSelect.Name">
+        <source>Select the source folder</source>
+        <translation>Select the source folder</translation>
+    </message>
+    <message id="Image.Volume.Name">
+        <source>Volume name</source>
+        <translation>Volume name</translation>
+    </message>
+    <message id="Image.Volume.Placeholder">
+        <source>The name that the image shows when it is opened</source>
+        <translation>The name that the image shows when it is opened</translation>
+    </message>
+    <message id="ISO">
+        <source>CD Image</source>
+        <translation>CD Image</translation>
+    </message>
+    <message id="ISO.Subtitle">
+        <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
+        <translation>Makes a CD image (ISO) of a folder that every desktop system can read.</translation>
+    </message>
+    <message id="Login.Password.Name">
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message id="Login.Title">
+        <source>Log In</source>
+        <translation>Log In</translation>
+    </message>
+    <message id="Login.User.Name">
+        <source>User name</source>
+        <translation>User name</translation>
+    </message>
+    <message id="Logs">
+        <source>Logs </source>
+        <translation>Logs </translation>
+    </message>
+    <message id="Mail Download">
+        <source>Mail downloads </source>
+        <translation>Mail downloads </translation>
+    </message>
+    <message id="Menu.File">
+        <source>&amp;File</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message id="Menu.Help">
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message id="Menu.Quit">
+        <source>&amp;Quit</source>
+        <translation>&amp;Quit</translation>
+    </message>
+    <message id="Menu.Tools">
+        <source>&amp;Tools</source>
+        <translation>&amp;Tools</translation>
+    </message>
+    <message id="Not Authorized Error">
+        <source>Access to your home folder is not granted yet.</source>
+        <translation>Access to your home folder is not granted yet.</translation>
+    </message>
+    <message id="Operation">
+        <source>Operation</source>
+        <translation>Operation</translation>
+    </message>
+    <message id="Output">
+        <source>&amp;Output</source>
+        <translation>&amp;Output</translation>
+    </message>
+    <message id="Output file cannot be null.">
+        <source>There is no output file yet.</source>
+        <translation>There is no output file yet.</translation>
+    </message>
+    <message id="Output Options">
+        <source>Output For&amp;mat</source>
+        <translation>Output For&amp;mat</translation>
+    </message>
+    <message id="OutputFolderExists">
+        <source>The output folder already holds an item with the archive's name. Move it away or choose another output folder.</source>
+        <translation>The output folder already holds an item with the archive's name. Move it away or choose another output folder.</translation>
+    </message>
+    <message id="OutputNull">
+        <source>There is no image file to write to yet. Choose where the image goes.</source>
+        <translation>There is no image file to write to yet. Choose where the image goes.</translation>
+    </message>
+    <message id="Password">
+        <source>Password</source>
+        <translation>Password</translation>
+    </message>
+    <message id="Please authorize again">
+        <source>To check and clean, press Authorize again and choose your home folder.</source>
+        <translation>To check and clean, press Authorize again and choose your home folder.</translation>
+    </message>
+    <message id="Please authorize first">
+        <source>Press Authorize first and choose your home folder.</source>
+        <translation>Press Authorize first and choose your home folder.</translation>
+    </message>
+    <message id="Please authorize to ">
+        <source>Press Authorize again and choose </source>
+        <translation>Press Authorize again and choose </translation>
+    </message>
+    <message id="Please select m4v,mp4,mpg,mpeg or avi video file.">
+        <source>Choose a video that ends in .m4v, .mp4, .mpg, .mpeg or .avi.</source>
+        <translation>Choose a video that ends in .m4v, .mp4, .mpg, .mpeg or .avi.</translation>
+    </message>
+    <message id="Please specify the output file.">
+        <source>Choose where the converted video goes.</source>
+        <translation>Choose where the converted video goes.</translation>
+    </message>
+    <message id="Progress">
+        <source>Progress</source>
+        <translation>Progress</translation>
+    </message>
+    <message id="Quit.Consequence">
+        <source>What runs now is stopped, and nothing half-written is left behind.</source>
+        <translation>What runs now is stopped, and nothing half-written is left behind.</translation>
+    </message>
+    <message id="Quit.KeepWorking">
+        <source>Keep Working</source>
+        <translation>Keep Working</translation>
+    </message>
+    <message id="Quit.Question">
+        <source>Something is still running. Quit anyway?</source>
+        <translation>Something is still running. Quit anyway?</translation>
+    </message>
+    <message id="Quit.Quit">
+        <source>Quit</source>
+        <translation>Quit</translation>
+    </message>
+    <message id="Rate">
+        <source>&amp;Rate</source>
+        <translation>&amp;Rate</translation>
+    </message>
+    <message id="Read">
+        <source>Rea&amp;d</source>
+        <translation>Rea&amp;d</translation>
+    </message>
+    <message id="Reset">
+        <source>Back to the usual rate</source>
+        <translation>Back to the usual rate</translation>
+    </message>
+    <message id="Sample">
+        <source>Hear a sample</source>
+        <translation>Hear a sample</translation>
+    </message>
+    <message id="Save">
+        <source>&amp;Save…</source>
+        <translation>&amp;Save…</translation>
+    </message>
+    <message id="SaveFail">
+        <source>The speech could not be saved. Check the folder that you chose, or save a shorter text.</source>
+        <translation>The speech could not be saved. Check the folder that you chose, or save a shorter text.</translation>
+    </message>
+    <message id="SaveSuc">
+        <source>The speech was saved. You find it in the file that you chose.</source>
+        <translation>The speech was saved. You find it in the file that you chose.</translation>
+    </message>
+    <message id="Select">
+        <source>Select…</source>
+        <translation>Select…</translation>
+    </message>
+    <message id="Setting">
+        <source>Settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message id="Sidebar.Running">
+        <source>Working</source>
+        <translation>Working</translation>
+    </message>
+    <message id="Sidebar.Tools">
+        <source>Tools</source>
+        <translation>Tools</translation>
+    </message>
+    <message id="Source">
+        <source>&amp;Source</source>
+        <translation>&amp;Source</translation>
+    </message>
+    <message id="Source file cannot be null.">
+        <source>There is no video to convert yet.</source>
+        <translation>There is no video to convert yet.</translation>
+    </message>
+    <message id="Speech Synthesis">
+        <source>Speech Synthesis</source>
+        <translation>Speech Synthesis</translation>
+    </message>
+    <message id="Speech.Rate.Name">
+        <source>Rate in words per minute</source>
+        <translation>Rate in words per minute</translation>
+    </message>
+    <message id="Speech.Reset.Name">
+        <source>Back to the usual rate</source>
+        <translation>Back to the usual rate</translation>
+    </message>
+    <message id="Speech.Sample.Name">
+        <source>Hear a sample</source>
+        <translation>Hear a sample</translation>
+    </message>
+    <message id="Speech.Subtitle">
+        <source>Reads a text aloud, or saves the spoken text as a sound file.</source>
+        <translation>Reads a text aloud, or saves the spoken text as a sound file.</translation>
+    </message>
+    <message id="Speech.Text.Name">
+        <source>Text to read aloud</source>
+        <translation>Text to read aloud</translation>
+    </message>
+    <message id="Speech.Text.Placeholder">
+        <source>Type or paste the text to read aloud</source>
+        <translation>Type or paste the text to read aloud</translation>
+    </message>
+    <message id="Speech.Voice.Name">
+        <source>Voice</source>
+        <translation>Voice</translation>
+    </message>
+    <message id="SrcFolderNull">
+        <source>There is no source yet. Choose what to work on first.</source>
+        <translation>There is no source yet. Choose what to work on first.</translation>
+    </message>
+    <message id="Store">
+        <source>Store (no compression)</source>
+        <translation>Store (no compression)</translation>
+    </message>
+    <message id="Text">
+        <source>Te&amp;xt</source>
+        <translation>Te&amp;xt</translation>
+    </message>
+    <message id="TextNullAlert">
+        <source>There is no text to read yet. Type or paste one first.</source>
+        <translation>There is no text to read yet. Type or paste one first.</translation>
+    </message>
+    <message id="Toolbar.Name">
+        <source>Toolbar</source>
+        <translation>Toolbar</translation>
+    </message>
+    <message id="Toolbar.Website">
+        <source>&amp;Web Site</source>
+        <translation>&amp;Web Site</translation>
+    </message>
+    <message id="Toolbar.Website.Tip">
+        <source>Opens the maker's web site in your browser</source>
+        <translation>Opens the maker's web site in your browser</translation>
+    </message>
+    <message id="Total">
+        <source>Total space</source>
+        <translation>Total space</translation>
+    </message>
+    <message id="Trash">
+        <source>Trash </source>
+        <translation>Trash </translation>
+    </message>
+    <message id="Unzip">
+        <source>Unzip</source>
+        <translation>Unzip</translation>
+    </message>
+    <message id="Unzip.Open">
+        <source>Show Fol&amp;der</source>
+        <translation>Show Fol&amp;der</translation>
+    </message>
+    <message id="Unzip.Open.Name">
+        <source>Show the output folder in the file manager</source>
+        <translation>Show the output folder in the file manager</translation>
+    </message>
+    <message id="Unzip.Output.Name">
+        <source>Output folder</source>
+        <translation>Output folder</translation>
+    </message>
+    <message id="Unzip.Output.Placeholder">
+        <source>The folder in which the new folder is made</source>
+        <translation>The folder in which the new folder is made</translation>
+    </message>
+    <message id="Unzip.OutputSelect.Name">
+        <source>Select the output folder</source>
+        <translation>Select the output folder</translation>
+    </message>
+    <message id="Unzip.Source.Name">
+        <source>Archive to unpack</source>
+        <translation>Archive to unpack</translation>
+    </message>
+    <message id="Unzip.Source.Placeholder">
+        <source>The archive to unpack, ending in .zip</source>
+        <translation>The archive to unpack, ending in .zip</translation>
+    </message>
+    <message id="Unzip.SourceSelect.Name">
+        <source>Select the archive to unpack</source>
+        <translation>Select the archive to unpack</translation>
+    </message>
+    <message id="Unzip.Subtitle">
+        <source>Unpacks a zip archive into a new folder that is named after it.</source>
+        <translation>Unpacks a zip archive into a new folder that is named after it.</translation>
+    </message>
+    <message id="UnzipFail">
+        <source>The archive could not be unpacked completely. Check that it is a complete zip archive without a password. What was unpacked so far is in the new folder.</source>
+        <translation>The archive could not be unpacked completely. Check that it is a complete zip archive without a password. What was unpacked so far is in the new folder.</translation>
+    </message>
+    <message id="UnzipSuc">
+        <source>The archive was unpacked. The new folder is in the output folder.</source>
+        <translation>The archive was unpacked. The new folder is in the output folder.</translation>
+    </message>
+    <message id="Update">
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message id="Update.Installed">
+        <source>Toolvane %1 is installed.</source>
+        <translation>Toolvane %1 is installed.</translation>
+    </message>
+    <message id="User">
+        <source>User name</source>
+        <translation>User name</translation>
+    </message>
+    <message id="UserCache">
+        <source>User Cache</source>
+        <translation>User Cache</translation>
+    </message>
+    <message id="UserCache.Authorized">
+        <source>Access granted</source>
+        <translation>Access granted</translation>
+    </message>
+    <message id="UserCache.Check.Tip">
+        <source>Measures the ticked folders</source>
+        <translation>Measures the ticked folders</translation>
+    </message>
+    <message id="UserCache.Clean.Tip">
+        <source>Deletes the ticked folders for good, without asking again</source>
+        <translation>Deletes the ticked folders for good, without asking again</translation>
+    </message>
+    <message id="UserCache.Gauge.Format">
+        <source>%p% used</source>
+        <translation>%p% used</translation>
+    </message>
+    <message id="UserCache.Gauge.Name">
+        <source>Used disk space</source>
+        <translation>Used disk space</translation>
+    </message>
+    <message id="UserCache.Gauge.NearlyFull">
+        <source>Nearly full</source>
+        <translation>Nearly full</translation>
+    </message>
+    <message id="UserCache.Home.Name">
+        <source>Granted folder</source>
+        <translation>Granted folder</translation>
+    </message>
+    <message id="UserCache.Home.Placeholder">
+        <source>Your home folder, once you have granted access to it</source>
+        <translation>Your home folder, once you have granted access to it</translation>
+    </message>
+    <message id="UserCache.Subtitle">
+        <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
+        <translation>Measures the clutter in your home folder and deletes the folders that you tick.</translation>
+    </message>
+    <message id="UserCache.Unauthorized">
+        <source>Access not granted</source>
+        <translation>Access not granted</translation>
+    </message>
+    <message id="Voice">
+        <source>&amp;Voice</source>
+        <translation>&amp;Voice</translation>
+    </message>
+    <message id="Volume">
+        <source>&amp;Volume</source>
+        <translation>&amp;Volume</translation>
+    </message>
+    <message id="VolumeNameNull">
+        <source>The volume has no name yet. Enter the name that the image is to show.</source>
+        <translation>The volume has no name yet. Enter the name that the image is to show.</translation>
+    </message>
+    <message id="Welcome.Hint">
+        <source>Choose a tool on the left.</source>
+        <translation>Choose a tool on the left.</translation>
+    </message>
+    <message id="Welcome.Sentence">
+        <source>Everyday file and media tools in one place.</source>
+        <translation>Everyday file and media tools in one place.</translation>
+    </message>
+    <message id="Wrong Authorized Location">
+        <source>This is not your home folder.</source>
+        <translation>This is not your home folder.</translation>
+    </message>
+    <message id="Zip">
+        <source>Zip</source>
+        <translation>Zip</translation>
+    </message>
+    <message id="Zip.Output.Name">
+        <source>Archive to make</source>
+        <translation>Archive to make</translation>
+    </message>
+    <message id="Zip.Output.Placeholder">
+        <source>The archive to make, ending in .zip</source>
+        <translation>The archive to make, ending in .zip</translation>
+    </message>
+    <message id="Zip.OutputSelect.Name">
+        <source>Select the archive to make</source>
+        <translation>Select the archive to make</translation>
+    </message>
+    <message id="Zip.Ratio.Name">
+        <source>Compression</source>
+        <translation>Compression</translation>
+    </message>
+    <message id="Zip.Source.Name">
+        <source>Folder to pack</source>
+        <translation>Folder to pack</translation>
+    </message>
+    <message id="Zip.Source.Placeholder">
+        <source>The folder to pack</source>
+        <translation>The folder to pack</translation>
+    </message>
+    <message id="Zip.SourceSelect.Name">
+        <source>Select the folder to pack</source>
+        <translation>Select the folder to pack</translation>
+    </message>
+    <message id="Zip.Subtitle">
+        <source>Packs everything inside a folder into one zip archive.</source>
+        <translation>Packs everything inside a folder into one zip archive.</translation>
+    </message>
+    <message id="ZipFail">
+        <source>The archive could not be made. Check that the folder exists, is not empty and can be read, and that there is room on the disk.</source>
+        <translation>The archive could not be made. Check that the folder exists, is not empty and can be read, and that there is room on the disk.</translation>
+    </message>
+    <message id="ZipFileExist">
+        <source>Something with this name already exists. Choose another name for the archive.</source>
+        <translation>Something with this name already exists. Choose another name for the archive.</translation>
+    </message>
+    <message id="ZipFileNameNull">
+        <source>The archive has no name yet. Choose where to save it.</source>
+        <translation>The archive has no name yet. Choose where to save it.</translation>
+    </message>
+    <message id="ZipSuc">
+        <source>The archive is ready.</source>
+        <translation>The archive is ready.</translation>
+    </message>
+</context>
+</TS>

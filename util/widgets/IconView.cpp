@@ -1,0 +1,32 @@
+#include "IconView.h"
+
+#include "NamedImage.h"
+
+#include <QEvent>
+#include <QPainter>
+
+IconView::IconView(QWidget *parent) : QWidget(parent)
+{
+}
+
+void IconView::setImageName(const QString &name)
+{
+    if (m_imageName == name)
+        return;
+    m_imageName = name;
+    m_icon = namedImage(name);
+    update();
+}
+
+void IconView::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    m_icon.paint(&painter, rect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
+}
+
+void IconView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        update();
+    QWidget::changeEvent(event);
+}

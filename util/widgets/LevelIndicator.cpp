@@ -1,0 +1,88 @@
+#include "LevelIndicator.h"
+
+#include <QPainter>
+#include <QStyle>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int nearlyFull = 90;
+constexpr int barHeight = 10;
+constexpr int shortestBar = 80;
+constexpr int gap = 12;
+
+} // namespace
+
+LevelIndicator::LevelIndicator(QWidget *parent) : QProgressBar(parent)
+{
+    setRange(0, 100);
+    setValue(0);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+bool LevelIndicator::isNearlyFull() const
+{
+    return value() >= nearlyFull;
+}
+
+void LevelIndicator::setWarningText(const QString &text)
+{
+    m_warningText = text;
+    updateGeometry();
+    update();
+}
+
+QString LevelIndicator::text() const
+{
+    const QString percentage = QProgressBar::text();
+    return isNearlyFull() && !m_warningText.isEmpty() ? m_warningText + u"  "_s + percentage
+                                                      : percentage;
+}
+
+QSize LevelIndicator::minimumSizeHint() const
+{
+    const int textWidth = fontMetrics().horizontalAdvance(text());
+    return QSize(shortestBar + gap + textWidth, std::max(barHeight, fontMetrics().height() + 4));
+}
+
+QSize LevelIndicator::sizeHint() const
+{
+    return minimumSizeHint() + QSize(shortestBar, 0);
+}
+
+// The text's room is that of "100%" at least, so that the bar does not move with each value.
+QRect LevelIndicator::barRect() const
+{
+    const int textWidth = std::max(fontMetrics().horizontalAdvance(text()),
+                                   fontMetrics().horizontalAdvance(u"100%"_s));
+    const QRect bar(0, (height() - barHeight) / 2, width() - textWidth - gap, barHeight);
+    return QStyle::visualRect(layoutDirection(), rect(), bar);
+}
+
+void LevelIndicator::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const QRectF bar = barRect();
+    painter.setBrush(palette().color(QPalette::Midlight));
+    painter.drawRoundedRect(bar, barHeight / 2.0, barHeight / 2.0);
+
+    QRectF filled = bar;
+    filled.setWidth(std::max<qreal>(barHeight, bar.width() * value() / 100));
+    if (layoutDirection() == Qt::RightToLeft)
+        filled.moveRight(bar.right());
+    const QPalette::ColorRole tone = isNearlyFull() ? QPalette::BrightText : QPalette::Highlight;
+    if (value() > 0) {
+        painter.setBrush(palette().color(tone));
+        painter.drawRoundedRect(filled, barHeight / 2.0, barHeight / 2.0);
+    }
+    painter.setPen(palette().color(isNearlyFull() ? tone : QPalette::WindowText));
+    const int alignment = Qt::AlignRight | Qt::AlignVCenter;
+    painter.drawText(rect(), QStyle::visualAlignment(layoutDirection(), Qt::Alignment(alignment)),
+                     text());
+}

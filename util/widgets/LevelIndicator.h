@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QProgressBar>
+
+/// A level gauge: how full something is, 0 to 100, as a bar with the percentage beside it. To a
+/// screen reader it is a progress bar with this value. From 90 on the bar takes the palette's
+/// warning colour and the warning text stands before the percentage, so colour is not the only
+/// sign.
+class LevelIndicator : public QProgressBar
+{
+    Q_OBJECT
+    Q_PROPERTY(QString warningText READ warningText WRITE setWarningText)
+
+public:
+    explicit LevelIndicator(QWidget *parent = nullptr);
+
+    bool isNearlyFull() const;
+
+    QString warningText() const { return m_warningText; }
+    /// What to say when nearly full ("Nearly full"); empty for nothing.
+    void setWarningText(const QString &text);
+
+    QString text() const override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QRect barRect() const;
+
+    QString m_warningText;
+};

@@ -1,0 +1,83 @@
+#include "AlertSound.h"
+#include "FlashOverlay.h"
+#include "MiscTool.h"
+#include "WindowShake.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+
+#include <algorithm>
+
+namespace
+{
+
+// QMessageBox guesses the format of its second text; file names must never be read as markup.
+void showAsPlainText(QMessageBox &box)
+{
+    box.setTextFormat(Qt::PlainText);
+    const auto labels = box.findChildren<QLabel *>();
+    for (QLabel *label : labels)
+        label->setTextFormat(Qt::PlainText);
+}
+
+// A box belongs to the window that the user is in, or, while another program is in front, to the
+// one that is shown.
+QWidget *windowForBoxes()
+{
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    const auto windows = QApplication::topLevelWidgets();
+    const auto shown = std::ranges::find_if(windows, [](const QWidget *window) {
+        return window->isVisible() && window->windowType() == Qt::Window;
+    });
+    return shown == windows.end() ? nullptr : *shown;
+}
+
+} // namespace
+
+int MiscTool::showAlert(const QString &messageText, const QString &informativeText)
+{
+    QMessageBox box(QMessageBox::Information, QApplication::applicationDisplayName(), messageText,
+                    QMessageBox::Ok, windowForBoxes());
+    box.setObjectName(QStringLiteral("messageBox"));
+    box.setInformativeText(informativeText);
+    showAsPlainText(box);
+    return box.exec();
+}
+
+void MiscTool::showWindow(QWidget *window)
+{
+    if (!window)
+        return;
+    window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void MiscTool::hideWindow(QWidget *window)
+{
+    if (window)
+        window->hide();
+}
+
+void MiscTool::shakeWindow(QWidget *window)
+{
+    WindowShake::start(window);
+    playSystemSound();
+    flashScreen();
+}
+
+void MiscTool::playSystemSound()
+{
+    AlertSound::play();
+}
+
+void MiscTool::flashScreen()
+{
+    const auto windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->isVisible() && window->windowType() != Qt::Popup)
+            FlashOverlay::flash(window);
+    }
+}

@@ -1,0 +1,152 @@
+#include "NamedImage.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPalette>
+#include <QPicture>
+#include <QPixmapCache>
+#include <QWidget>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+// A drawing for the sizes at which the full one would blur, see DrawnImage::file().
+constexpr int largestSmallSize = 32;
+constexpr float disabledPictureOpacity = 0.4F;
+
+enum class Kind { None, Symbol, Picture };
+
+QString fileOf(Kind kind, const QString &name)
+{
+    return (kind == Kind::Symbol ? u":/images/symbols/%1.pic"_s : u":/images/pictures/%1.pic"_s)
+        .arg(name);
+}
+
+Kind kindOf(const QString &name)
+{
+    const bool wellFormed = std::all_of(name.begin(), name.end(), [](QChar c) {
+        return c == u'-' || c == u'_' || (c.unicode() < 128 && c.isLetterOrNumber());
+    });
+    if (name.isEmpty() || !wellFormed)
+        return Kind::None;
+    if (QFile::exists(fileOf(Kind::Symbol, name)))
+        return Kind::Symbol;
+    return QFile::exists(fileOf(Kind::Picture, name)) ? Kind::Picture : Kind::None;
+}
+
+QPalette::ColorGroup groupOf(QIcon::Mode mode)
+{
+    return mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+}
+
+// The widget's own palette counts, not the application's: the sidebar has one of its own.
+QColor textColor(const QPaintDevice *device, QIcon::Mode mode)
+{
+    if (device && device->devType() == QInternal::Widget) {
+        const auto *widget = static_cast<const QWidget *>(device);
+        return widget->palette().color(groupOf(mode),
+                                       mode == QIcon::Selected ? QPalette::HighlightedText
+                                                               : widget->foregroundRole());
+    }
+    return QApplication::palette().color(
+        groupOf(mode), mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::ButtonText);
+}
+
+class NamedImageEngine : public QIconEngine
+{
+public:
+    NamedImageEngine(Kind kind, QString name) : m_kind(kind), m_name(std::move(name)) { }
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const qreal scale = painter->device()->devicePixelRatio();
+        const QColor color = textColor(painter->device(), mode);
+        painter->drawPixmap(rect, rendered((QSizeF(rect.size()) * scale).toSize(), mode, color));
+    }
+
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
+    {
+        return rendered(size, mode, textColor(nullptr, mode));
+    }
+
+    // A window's icon is drawn in all of these before the window shows, so they are few.
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override
+    {
+        return {QSize(32, 32), QSize(64, 64)};
+    }
+
+    QString key() const override { return u"toolvane"_s; }
+    QString iconName() override { return m_name; }
+    QIconEngine *clone() const override { return new NamedImageEngine(*this); }
+
+private:
+    QPixmap rendered(const QSize &size, QIcon::Mode mode, const QColor &color) const
+    {
+        const QString key = u"toolvane-image:%1:%2x%3:%4:%5"_s.arg(
+            m_name, QString::number(size.width()), QString::number(size.height()),
+            m_kind == Kind::Symbol ? color.name(QColor::HexArgb) : QString(),
+            QString::number(mode == QIcon::Disabled));
+        QPixmap pixmap;
+        if (!QPixmapCache::find(key, &pixmap)) {
+            pixmap = drawn(size, mode, color);
+            QPixmapCache::insert(key, pixmap);
+        }
+        return pixmap;
+    }
+
+    QPixmap drawn(const QSize &size, QIcon::Mode mode, const QColor &color) const
+    {
+        QPicture picture;
+        picture.load(file(size));
+        const QRectF box = picture.boundingRect();
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        if (box.isEmpty() || size.isEmpty())
+            return pixmap;
+        QPainter painter(&pixmap);
+        const qreal side = std::min(size.width() / box.width(), size.height() / box.height());
+        painter.translate(QRectF({}, size).center());
+        painter.scale(side, side);
+        painter.translate(-box.center());
+        painter.drawPicture(0, 0, picture);
+        painter.resetTransform();
+        if (m_kind == Kind::Symbol) {
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(QRect({}, size), color);
+        } else if (mode == QIcon::Disabled) {
+            painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+            painter.fillRect(QRect({}, size), QColor::fromRgbF(0, 0, 0, disabledPictureOpacity));
+        }
+        return pixmap;
+    }
+
+    // A picture in full detail has a plainer sister for the smallest sizes.
+    QString file(const QSize &size) const
+    {
+        const QString small = fileOf(m_kind, m_name + u"-small"_s);
+        const bool isSmall = std::max(size.width(), size.height()) <= largestSmallSize;
+        return isSmall && QFile::exists(small) ? small : fileOf(m_kind, m_name);
+    }
+
+    Kind m_kind;
+    QString m_name;
+};
+
+} // namespace
+
+bool hasNamedImage(const QString &name)
+{
+    return kindOf(name) != Kind::None;
+}
+
+QIcon namedImage(const QString &name)
+{
+    const Kind kind = kindOf(name);
+    return kind == Kind::None ? QIcon() : QIcon(new NamedImageEngine(kind, name));
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <QIcon>
+#include <QString>
+
+/// The application's own images by name. Interface thread only.
+///
+/// Drawings of `resources/images/symbols` have no colour of their own: they are painted in the text
+/// colour of the widget that shows them (of the application's palette where no widget is known, as
+/// with a button's icon), dimmed when disabled, in the highlighted text's colour when selected.
+/// Drawings of `resources/images/pictures` keep their colours. Nothing is read or rendered before
+/// the first paint, and what follows a change of palette or scale is the next paint.
+
+/// Whether the application has an image of this name. Names come from a server, too: one that holds
+/// anything but letters, digits, "-" and "_" is simply unknown.
+bool hasNamedImage(const QString &name);
+
+/// The image of this name; a null icon when there is none.
+QIcon namedImage(const QString &name);
