@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+class QWidget;
+
+/// Choosers that a page shows as sheets on its window. They return at once; `chosen` is called on
+/// OK with an absolute path, `cancelled`, where given, on anything else. Neither is called once the
+/// page is gone; the sheet goes with it. Interface thread only.
+///
+/// The sheets' object names are `folderChooser`, `fileChooser` and `saveChooser`. An empty or
+/// missing start folder means the one that the desktop offers.
+namespace Chooser
+{
+
+using Chosen = std::function<void(const QString &path)>;
+using Cancelled = std::function<void()>;
+
+/// One existing folder.
+void chooseFolder(QWidget *page, Chosen chosen, const QString &startFolder = {},
+                  Cancelled cancelled = {});
+
+/// One existing file whose name ends in one of the suffixes ("zip", without the dot), in lower or
+/// upper case.
+void chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen,
+                const QString &startFolder = {});
+
+/// A file to write. The path that `chosen` gets always ends in the suffix: it is added to a name
+/// typed without it. Folders cannot be created in this chooser, nor anything be renamed or deleted.
+void chooseSaveFile(QWidget *page, const QString &suffix, Chosen chosen,
+                    const QString &startFolder = {});
+
+} // namespace Chooser

@@ -1,0 +1,38 @@
+#include "CommandRunner.h"
+
+#include "CommandRun.h"
+
+#include <algorithm>
+
+CommandRunner::CommandRunner(JobList &jobs) : m_jobs(&jobs)
+{
+}
+
+CommandRunner::~CommandRunner()
+{
+    for (const QPointer<CommandRun> &run : m_runs) {
+        if (run)
+            run->disown();
+    }
+}
+
+QFuture<CommandResult> CommandRunner::run(const Command &command, const JobDescription &description)
+{
+    std::erase_if(m_runs, [](const auto &run) { return !run || run->isSettled(); });
+    auto *run = new CommandRun(command, description, m_jobs); // owned by the list of jobs
+    m_runs.push_back(run);
+    return run->start();
+}
+
+bool CommandRunner::isRunning() const
+{
+    return std::ranges::any_of(m_runs, [](const auto &run) { return run && !run->isSettled(); });
+}
+
+void CommandRunner::stop()
+{
+    for (const QPointer<CommandRun> &run : m_runs) {
+        if (run)
+            run->stop();
+    }
+}

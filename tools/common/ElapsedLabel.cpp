@@ -1,0 +1,62 @@
+#include "ElapsedLabel.h"
+
+#include <algorithm>
+#include <chrono>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+ElapsedLabel::ElapsedLabel(QWidget *parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
+    setVisible(false);
+    m_everySecond.setInterval(1s);
+    connect(&m_everySecond, &QTimer::timeout, this, &ElapsedLabel::updateText);
+}
+
+QString ElapsedLabel::elapsedText(qint64 milliseconds)
+{
+    const qint64 seconds = std::max<qint64>(milliseconds, 0) / 1000;
+    const QString twoDigits = u"%1:%2"_s;
+    const auto padded = [](qint64 number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
+    if (seconds < 3600)
+        return twoDigits.arg(seconds / 60).arg(padded(seconds % 60));
+    return u"%1:%2:%3"_s.arg(seconds / 3600).arg(padded(seconds / 60 % 60), padded(seconds % 60));
+}
+
+QSize ElapsedLabel::sizeHint() const
+{
+    const QMargins margins = contentsMargins();
+    const int inner = fontMetrics().horizontalAdvance(u"00:00:00"_s) + 2 * margin();
+    return {inner + margins.left() + margins.right(), QLabel::sizeHint().height()};
+}
+
+void ElapsedLabel::setRunning(bool running)
+{
+    m_started.start();
+    updateText();
+    setVisible(running);
+}
+
+// Also sent when the page as a whole is shown or hidden: the time goes on, the timer need not.
+void ElapsedLabel::showEvent(QShowEvent *event)
+{
+    updateText();
+    m_everySecond.start();
+    QLabel::showEvent(event);
+}
+
+void ElapsedLabel::hideEvent(QHideEvent *event)
+{
+    m_everySecond.stop();
+    QLabel::hideEvent(event);
+}
+
+void ElapsedLabel::updateText()
+{
+    if (m_started.isValid())
+        setText(elapsedText(m_started.elapsed()));
+}

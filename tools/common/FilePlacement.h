@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QFuture>
+#include <QString>
+
+/// What became of a finished file on its way to its place.
+class FilePlacement
+{
+public:
+    enum class End {
+        Renamed, ///< Same file system: nothing was written twice.
+        Copied, ///< Written anew, flushed, and only then given its name.
+        AlreadyThere, ///< Both paths name the same file: nothing to do, nothing removed.
+        NotPlaced, ///< The target is as it was before; see error().
+    };
+
+    FilePlacement(End end, int error) : m_end(end), m_error(error) { }
+
+    End end() const { return m_end; }
+    bool succeeded() const { return m_end != End::NotPlaced; }
+    int error() const { return m_error; } ///< The `errno` of the failure, 0 for success.
+    /// In a few English words on one line, for the log.
+    QString description() const;
+
+private:
+    End m_end;
+    int m_error;
+};
+
+/// Moves a finished file to its place on a worker thread. Whatever stands at `to` stays byte for
+/// byte; nothing half-written is ever left at `to` or beside it. Afterwards `from` is gone, even
+/// when the file could not be placed. A failure also goes to the log. May be called on any thread;
+/// the future has exactly one result.
+QFuture<FilePlacement> placeFile(const QString &from, const QString &to);

@@ -1,0 +1,121 @@
+#include "ImageViewController.h"
+
+#include "Chooser.h"
+#include "FormCheck.h"
+#include "MiscTool.h"
+#include "PageAction.h"
+#include "PageStatus.h"
+#include "PathText.h"
+#include "ui_ImageForm.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+ImageViewController::ImageViewController(JobList &jobs, const Kind &kind, QWidget *parent)
+    : QWidget(parent), m_kind(kind), ui(std::make_unique<Ui::ImageForm>()), m_runner(jobs)
+{
+}
+
+ImageViewController::~ImageViewController() = default;
+
+void ImageViewController::awakeFromNib(QWidget &formPlace)
+{
+    ui->setupUi(&formPlace);
+    connectForm();
+    ui->srcBox->setTitle(qtTrId("Source"));
+    ui->srcSelectButton->setText(qtTrId("Select"));
+    ui->volumnBox->setTitle(qtTrId("Volume"));
+    ui->outputBox->setTitle(qtTrId("Output"));
+    ui->outputSelectButton->setText(qtTrId("Select"));
+    ui->progressBox->setTitle(qtTrId("Progress"));
+    ui->clearButton->setText(qtTrId("Clear"));
+    ui->generateButton->setText(qtTrId("Generate"));
+    ui->outputField->setPlaceholderText(qtTrId("Image.Output.Placeholder").arg(m_kind.suffix));
+    ui->outputField->setSuffixes({m_kind.suffix});
+}
+
+void ImageViewController::connectForm()
+{
+    connect(ui->srcSelectButton, &QPushButton::clicked, this,
+            &ImageViewController::srcSelectAction);
+    connect(ui->srcFolderField, &PathField::pathDropped, this,
+            &ImageViewController::setSourceFolder);
+    connect(ui->outputSelectButton, &QPushButton::clicked, this,
+            &ImageViewController::outputSelectAction);
+    connect(ui->clearButton, &QPushButton::clicked, this, &ImageViewController::clearAction);
+    connect(ui->generateButton, &QPushButton::clicked, this,
+            [this] { startPageAction(this, generateAction()); });
+    PageStatus::pressOnReturn(*this, *ui->generateButton);
+}
+
+void ImageViewController::setSourceFolder(const QString &path)
+{
+    ui->srcFolderField->setText(path);
+    ui->volumnNameField->setText(lastPathComponent(path));
+}
+
+void ImageViewController::srcSelectAction()
+{
+    Chooser::chooseFolder(this, [this](const QString &path) { setSourceFolder(path); });
+}
+
+void ImageViewController::outputSelectAction()
+{
+    Chooser::chooseSaveFile(this, m_kind.suffix,
+                            [this](const QString &path) { ui->outputField->setText(path); });
+}
+
+void ImageViewController::clearAction()
+{
+    ui->srcFolderField->clear();
+    ui->volumnNameField->clear();
+    ui->outputField->clear();
+}
+
+bool ImageViewController::verify()
+{
+    if (ui->srcFolderField->text().isEmpty())
+        return FormCheck::refuse("SrcFolderNull");
+    if (ui->volumnNameField->text().isEmpty())
+        return FormCheck::refuse("VolumeNameNull");
+    if (ui->outputField->text().isEmpty())
+        return FormCheck::refuse("OutputNull");
+    return true;
+}
+
+QCoro::Task<> ImageViewController::generateAction()
+{
+    if (!verify())
+        co_return;
+    setStatus(false);
+    const QPointer<ImageViewController> self(this);
+    const Command command =
+        ImageCommand::makeHybrid(m_kind.fileSystem, ui->outputField->text(),
+                                 ui->volumnNameField->text(), ui->srcFolderField->text());
+
+    const CommandResult result = co_await m_runner.run(command, job());
+    if (!self)
+        co_return;
+    setStatus(true);
+    // On purpose these two are shown as they stand, not looked up in the table of texts.
+    MiscTool::showAlert(result.succeeded() ? u"GenerateImageSuc"_s : u"GenerateImageFail"_s,
+                        QString());
+}
+
+JobDescription ImageViewController::job() const
+{
+    return {.page = objectName(),
+            .title = qtTrId(m_kind.nameKey),
+            .subject = ui->srcFolderField->text()};
+}
+
+void ImageViewController::setStatus(bool idle)
+{
+    ui->srcSelectButton->setEnabled(idle);
+    ui->volumnNameField->setReadOnly(!idle);
+    ui->outputSelectButton->setEnabled(idle);
+    ui->clearButton->setEnabled(idle);
+    ui->generateButton->setEnabled(idle);
+    PageStatus::setIdle(*ui->progressIndicator, idle);
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "CommandRunner.h"
+#include "ImageCommand.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class ImageForm;
+}
+
+/// What the pages that make an image file of a folder have in common, which is nearly everything.
+/// A page's own interface description holds its header and a place for the shared form.
+class ImageViewController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ~ImageViewController() override;
+
+    void srcSelectAction();
+    void outputSelectAction();
+    void clearAction();
+    QCoro::Task<> generateAction();
+
+    /// Idle (true) or working (false).
+    void setStatus(bool idle);
+    /// Whether the form may run; says in one message box what is missing first.
+    bool verify();
+
+protected:
+    /// What one page's images are.
+    struct Kind {
+        const char *nameKey; ///< The page's name in the table of texts.
+        QString suffix; ///< Of the image file, without the dot.
+        ImageCommand::FileSystem fileSystem;
+    };
+
+    ImageViewController(JobList &jobs, const Kind &kind, QWidget *parent);
+    /// Puts the form into its place on the page. A page calls it once, last in its constructor.
+    void awakeFromNib(QWidget &formPlace);
+
+private:
+    void connectForm();
+    void setSourceFolder(const QString &path);
+    JobDescription job() const;
+
+    const Kind m_kind;
+    std::unique_ptr<Ui::ImageForm> ui;
+    CommandRunner m_runner;
+};

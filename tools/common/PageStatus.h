@@ -1,0 +1,19 @@
+#pragma once
+
+class BusyIndicator;
+class QPushButton;
+class QWidget;
+
+/// How a page looks and behaves as a whole, for what the pages do alike. Interface thread only.
+namespace PageStatus
+{
+
+/// Hidden and still while the page is idle, shown and moving while it works.
+void setIdle(BusyIndicator &indicator, bool idle);
+
+/// Return presses the button from every control of the page that has no use of its own for the
+/// key; a disabled or hidden button is not pressed. The default button of a dialog does the same,
+/// but a page is none.
+void pressOnReturn(QWidget &page, QPushButton &button);
+
+} // namespace PageStatus
