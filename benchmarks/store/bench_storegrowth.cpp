@@ -1,0 +1,90 @@
+// How a select grows with the number of records: the time of each stays the same, and memory is
+// that of the records. Runs in a home folder of its own, see tests/support/isolated; ends with 1
+// when a limit is passed.
+
+#include "BLGeneral.h"
+#include "DBSession.h"
+#include "PlainUser.h"
+#include "Ratio.h"
+#include "SampleUsers.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+bool takesTheSameTimeForEach(BLGeneral &gateway)
+{
+    std::vector<double> perRow;
+    for (const int count : {1'000, 10'000, 100'000, 1'000'000}) {
+        fillUsers(count);
+        std::vector<double> times;
+        for (int i = 0; i < (count > 100'000 ? 5 : 15); ++i)
+            times.push_back(Ratio::seconds(
+                [&] { expect(gateway.select("1=1", UserSchema{})->size() == count, "select"); }));
+        perRow.push_back(Ratio::median(times) / count * 1e9);
+        std::printf("  %7d records: %.0f ns each\n", count, perRow.back());
+    }
+    const auto [least, most] = std::minmax_element(perRow.begin(), perRow.end());
+    return Ratio::report("time of a record, 1,000 to 1,000,000", *most / *least, 1.6,
+                         "dearest against cheapest");
+}
+
+/// Kilobytes behind a word of /proc/self/status.
+double memory(const char *word)
+{
+    QFile file(u"/proc/self/status"_s);
+    expect(file.open(QIODevice::ReadOnly), "status");
+    const QByteArray status = file.readAll();
+    return status.mid(status.indexOf(word)).simplified().split(' ').value(1).toDouble();
+}
+
+/// In a process of its own, as memory that was used once is there for the next: prints how far its
+/// peak is above what was in use before the select.
+int measurePeak(bool isOurs)
+{
+    DBSession::openDB();
+    const double before = memory("VmRSS:");
+    if (isOurs)
+        expect(DB::select(u"SELECT * FROM User"_s, UserSchema{}).has_value(), "select");
+    else
+        expect(!plainSelect(DB::getDatabase(), "SELECT * FROM User").isEmpty(), "plain select");
+    std::printf("%.0f\n", memory("VmHWM:") - before);
+    return 0;
+}
+
+double peakOf(const QString &who)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {who});
+    expect(process.waitForFinished() && process.exitCode() == 0, "peak");
+    return process.readAllStandardOutput().trimmed().toDouble();
+}
+
+bool takesTheMemoryOfTheRecords()
+{
+    const double ours = peakOf(u"ours"_s);
+    const double byHand = peakOf(u"hand"_s);
+    std::printf("  1,000,000 records: %.0f MB at the peak, %.0f MB by hand\n", ours / 1024,
+                byHand / 1024);
+    return Ratio::report("memory of a select", ours / byHand, 1.05, "peaks");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    expect(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"),
+           "run through tests/support/isolated");
+    if (argc > 1)
+        return measurePeak(QCoreApplication::arguments().value(1) == "ours"_L1);
+    DBSession::openDB();
+    BLGeneral gateway(u"User"_s);
+    const bool isFlat = takesTheSameTimeForEach(gateway);
+    return takesTheMemoryOfTheRecords() && isFlat ? 0 : 1;
+}

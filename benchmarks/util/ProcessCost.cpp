@@ -1,0 +1,84 @@
+#include "ProcessCost.h"
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
+namespace
+{
+
+double clockNow()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_MONOTONIC, &now);
+    return double(now.tv_sec) + double(now.tv_nsec) * 1e-9;
+}
+
+double secondsOf(const timeval &time)
+{
+    return double(time.tv_sec) + double(time.tv_usec) * 1e-6;
+}
+
+void beQuiet()
+{
+    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    dup2(nowhere, STDOUT_FILENO);
+}
+
+void run(const std::vector<std::string> &command)
+{
+    std::vector<char *> arguments;
+    for (const std::string &word : command)
+        arguments.push_back(const_cast<char *>(word.c_str()));
+    arguments.push_back(nullptr);
+    beQuiet();
+    execvp(arguments[0], arguments.data());
+}
+
+} // namespace
+
+ProcessCost ProcessCost::ofWork(const std::function<bool()> &work)
+{
+    std::fflush(stdout);
+    const double begin = clockNow();
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(work() ? 0 : 1);
+    int status = 0;
+    rusage usage = {};
+    if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
+        std::fprintf(stderr, "the work to be measured failed\n");
+        std::exit(2);
+    }
+    return {.processor = secondsOf(usage.ru_utime) + secondsOf(usage.ru_stime),
+            .wall = clockNow() - begin,
+            .memory = double(usage.ru_maxrss) / 1024};
+}
+
+ProcessCost ProcessCost::ofProgram(const std::vector<std::string> &command)
+{
+    return ofWork([&command] {
+        run(command);
+        return false;
+    });
+}
+
+ProcessCost ProcessCost::median(const std::vector<ProcessCost> &costs)
+{
+    const auto middle = [&costs](double ProcessCost::*figure) {
+        std::vector<double> figures;
+        for (const ProcessCost &cost : costs)
+            figures.push_back(cost.*figure);
+        std::ranges::sort(figures);
+        return figures[figures.size() / 2];
+    };
+    return {.processor = middle(&ProcessCost::processor),
+            .wall = middle(&ProcessCost::wall),
+            .memory = middle(&ProcessCost::memory)};
+}

@@ -1,0 +1,261 @@
+// What measuring and removing folders cost beside "du -slb" and "rm -rf" on the same trees, in the
+// same run and taking turns. Every figure is a median, less what the same costs on an empty folder.
+// Rows end with the ratio, its limit and "ok" or "PASSED"; the exit status is 1 when one is passed.
+//   bench_folders [--million] [--calls]    also a million files; also counts system calls by strace
+// Time by the clock counts only on a machine with two cores and nothing else to do.
+
+#include "FolderRemoval.h"
+#include "FolderSize.h"
+#include "ProcessCost.h"
+#include "Trees.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <thread>
+
+namespace
+{
+
+using Costs = std::vector<ProcessCost>;
+
+struct Limits {
+    double processor = 0;
+    double wall = 0; ///< 0 where more than one thread cannot help.
+};
+
+struct Tree {
+    const char *name;
+    std::function<void(const std::string &)> make;
+    int sizeRounds;
+    int removalRounds;
+    Limits size;
+    Limits removal;
+};
+
+class FolderBench
+{
+public:
+    explicit FolderBench(std::string folder) : m_folder(std::move(folder))
+    {
+        Trees::makeFlat(m_folder + "/empty", 0);
+        double load = 0;
+        m_quiet =
+            getloadavg(&load, 1) == 1 && load < 0.5 && std::thread::hardware_concurrency() >= 2;
+    }
+
+    void compareSize(const char *name, const std::string &path, int rounds, const Limits &limits);
+    void compareRemoval(const Tree &tree);
+    void run(const Tree &tree);
+    void removalMemory(int files);
+    void countCalls();
+    void limitMemory(const char *name, double megabytes, double limit);
+    double sizeMemory() const { return m_sizeMemory; }
+    bool passed() const { return m_passed; }
+
+private:
+    void report(const char *work, const char *name, const Costs &ours, const Costs &peer,
+                const Limits &limits);
+    void row(const std::string &name, const char *remark, double value, double limit, bool counts);
+
+    std::string m_folder;
+    bool m_quiet = false;
+    bool m_passed = false;
+    double m_sizeMemory = 0;
+};
+
+ProcessCost sizeCost(const std::string &path)
+{
+    return ProcessCost::ofWork(
+        [&path] { return folderSize(QByteArray::fromStdString(path)) >= 0; });
+}
+
+ProcessCost removalCost(const std::string &base, const std::string &name)
+{
+    return ProcessCost::ofWork([&] {
+        return removeBelow(QByteArray::fromStdString(base), QByteArray::fromStdString(name)).refused
+            == 0;
+    });
+}
+
+std::string outputOf(const std::string &command)
+{
+    std::string text;
+    FILE *const pipe = popen(command.c_str(), "r");
+    for (int c = 0; pipe && (c = std::getc(pipe)) != EOF;)
+        text += char(c);
+    if (!pipe || pclose(pipe) != 0)
+        throw std::runtime_error(command + " failed");
+    return text;
+}
+
+void requireSameSum(const std::string &path)
+{
+    struct stat own = {};
+    const long long ours = folderSize(QByteArray::fromStdString(path));
+    const long long peer = std::atoll(outputOf("du -slb -- '" + path + "'").c_str());
+    if (stat(path.c_str(), &own) != 0 || ours != peer - own.st_size)
+        throw std::runtime_error("the sizes of " + path + " differ: " + std::to_string(ours)
+                                 + " is not " + std::to_string(peer - own.st_size));
+}
+
+void FolderBench::row(const std::string &name, const char *remark, double value, double limit,
+                      bool counts)
+{
+    const bool within = value <= limit;
+    m_passed = m_passed || (counts && !within);
+    std::printf("%-36s %-44s %6.2f %5.2f %s\n", name.c_str(), remark, value, limit,
+                !counts ? "busy" : (within ? "ok" : "PASSED"));
+    std::fflush(stdout);
+}
+
+void FolderBench::report(const char *work, const char *name, const Costs &ours, const Costs &peer,
+                         const Limits &limits)
+{
+    const ProcessCost our = ProcessCost::median(ours);
+    const ProcessCost their = ProcessCost::median(peer);
+    const std::string title = std::string(work) + ", " + name;
+    char remark[80];
+    std::snprintf(remark, sizeof remark, "processor %.1f ms against %.1f ms", our.processor * 1e3,
+                  their.processor * 1e3);
+    row(title, remark, our.processor / their.processor, limits.processor, true);
+    if (limits.wall == 0)
+        return;
+    std::snprintf(remark, sizeof remark, "wall %.1f ms against %.1f ms", our.wall * 1e3,
+                  their.wall * 1e3);
+    row(title, remark, our.wall / their.wall, limits.wall, m_quiet);
+}
+
+void FolderBench::compareSize(const char *name, const std::string &path, int rounds,
+                              const Limits &limits)
+{
+    requireSameSum(path);
+    Costs ours, peer;
+    const std::string empty = m_folder + "/empty";
+    for (int i = 0; i < rounds; ++i) {
+        ours.push_back(sizeCost(path) - sizeCost(empty));
+        peer.push_back(ProcessCost::ofProgram({"du", "-slb", "--", path})
+                       - ProcessCost::ofProgram({"du", "-slb", "--", empty}));
+    }
+    m_sizeMemory = ProcessCost::median(ours).memory;
+    report("size", name, ours, peer, limits);
+}
+
+void FolderBench::compareRemoval(const Tree &tree)
+{
+    Costs ours, peer;
+    const auto make = [&] {
+        tree.make(m_folder + "/gone");
+        Trees::makeFlat(m_folder + "/nothing", 0);
+    };
+    for (int i = 0; i < tree.removalRounds; ++i) {
+        make();
+        const ProcessCost our = removalCost(m_folder, "gone");
+        ours.push_back(our - removalCost(m_folder, "nothing"));
+        make();
+        const ProcessCost their = ProcessCost::ofProgram({"rm", "-rf", "--", m_folder + "/gone"});
+        peer.push_back(their - ProcessCost::ofProgram({"rm", "-rf", "--", m_folder + "/nothing"}));
+    }
+    report("removal", tree.name, ours, peer, tree.removal);
+}
+
+void FolderBench::run(const Tree &tree)
+{
+    const std::string path = m_folder + "/tree";
+    tree.make(path);
+    compareSize(tree.name, path, tree.sizeRounds, tree.size);
+    removalCost(m_folder, "tree");
+    compareRemoval(tree);
+}
+
+void FolderBench::limitMemory(const char *name, double megabytes, double limit)
+{
+    row(name, "memory in MB", megabytes, limit, true);
+}
+
+void FolderBench::removalMemory(int files)
+{
+    Trees::makeFlat(m_folder + "/gone", files);
+    Trees::makeFlat(m_folder + "/nothing", 0);
+    const ProcessCost cost = removalCost(m_folder, "gone") - removalCost(m_folder, "nothing");
+    limitMemory("removal, 100,000 names", cost.memory, 10);
+}
+
+// Both walks and both peers on one tree; strace's own table shows what they ask of the system.
+void FolderBench::countCalls()
+{
+    const std::string self = std::filesystem::read_symlink("/proc/self/exe");
+    for (const std::string &command :
+         {self + " --size " + m_folder + "/tree", "du -slb " + m_folder + "/tree",
+          self + " --remove " + m_folder + " tree", "rm -rf " + m_folder + "/tree"}) {
+        if (!std::filesystem::exists(m_folder + "/tree"))
+            Trees::makeNested(m_folder + "/tree", 10'000);
+        const std::string table = outputOf("strace -f -c -U calls,name " + command
+                                           + " 2>&1 >/dev/null | sed -n '/total/p'");
+        std::printf("system calls of %s: %s", command.substr(0, 60).c_str(), table.c_str());
+    }
+}
+
+int benchmarkAll(bool million, bool calls)
+{
+    std::string folder = (std::filesystem::temp_directory_path() / "bench.XXXXXX").string();
+    if (!mkdtemp(folder.data()))
+        throw std::runtime_error("no temporary folder");
+    FolderBench bench(folder);
+    const Limits nestedSize = {.processor = 0.98, .wall = 0.60};
+    const Limits nestedRemoval = {.processor = 1.0, .wall = 0.70};
+    const auto nested = [](int files) {
+        return [files](const std::string &top) { Trees::makeNested(top, files); };
+    };
+    bench.run({"10,000 nested", nested(10'000), 15, 7, nestedSize, nestedRemoval});
+    const double memoryOfFew = bench.sizeMemory();
+    bench.run({"100,000 nested", nested(100'000), 7, 3, nestedSize, nestedRemoval});
+    if (million) {
+        bench.run({"1,000,000 nested", nested(1'000'000), 3, 1, nestedSize, nestedRemoval});
+        bench.limitMemory("size, a million against 10,000", bench.sizeMemory() - memoryOfFew, 2);
+    }
+    bench.run({"200,000 flat",
+               [](const std::string &top) { Trees::makeFlat(top, 200'000); },
+               7,
+               3,
+               {.processor = 0.65},
+               {.processor = 1.0}});
+    bench.run({"chain of 1,000",
+               [](const std::string &top) { Trees::makeChain(top, 1'000); },
+               15,
+               7,
+               {.processor = 0.98},
+               {.processor = 1.0}});
+    bench.compareSize("/usr", "/usr", 5, nestedSize);
+    bench.removalMemory(100'000);
+    if (calls)
+        bench.countCalls();
+    std::filesystem::remove_all(folder);
+    return bench.passed() ? 1 : 0;
+}
+
+} // namespace
+
+int main(int count, char **words)
+{
+    const std::vector<std::string> arguments(words + 1, words + count);
+    const auto given = [&](const char *option) {
+        return std::ranges::count(arguments, option) > 0;
+    };
+    try {
+        if (given("--size") && count == 3)
+            return folderSize(words[2]) >= 0 ? 0 : 1;
+        if (given("--remove") && count == 4)
+            return removeBelow(words[2], words[3]).refused == 0 ? 0 : 1;
+        return benchmarkAll(given("--million"), given("--calls"));
+    } catch (const std::exception &error) {
+        std::fprintf(stderr, "bench_folders: %s\n", error.what());
+        return 2;
+    }
+}

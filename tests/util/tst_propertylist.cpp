@@ -1,0 +1,202 @@
+// Proves that property lists of both forms are read whole and that hostile ones are refused within
+// the limits.
+
+#include "PropertyList.h"
+
+#include <QDateTime>
+#include <QTemporaryFile>
+#include <QTest>
+#include <QtEndian>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray xml(const QByteArray &value)
+{
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+           "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
+           "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">"
+        + value + "</plist>\n";
+}
+
+/// A list of the binary form: object 0 is the top, offsets and references are one byte wide.
+QByteArray binary(const QList<QByteArray> &objects)
+{
+    QByteArray bytes = "bplist00";
+    QByteArray offsets;
+    for (const QByteArray &object : objects) {
+        offsets.append(char(bytes.size()));
+        bytes.append(object);
+    }
+    const auto tableOffset = qToBigEndian(quint64(bytes.size()));
+    const auto count = qToBigEndian(quint64(objects.size()));
+    bytes.append(offsets).append(QByteArray(6, '\0')).append("\x01\x01", 2);
+    bytes.append(reinterpret_cast<const char *>(&count), 8).append(QByteArray(8, '\0'));
+    return bytes.append(reinterpret_cast<const char *>(&tableOffset), 8);
+}
+
+const QDateTime day({2024, 3, 7}, {9, 5, 3}, Qt::UTC);
+
+} // namespace
+
+class TestPropertyList : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsEveryKind_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QVariant>("value");
+        const auto row = [](const char *name, const QByteArray &bytes, const QVariant &value) {
+            QTest::newRow(name) << bytes << value;
+        };
+        row("string", xml("<string>a &amp; \xc3\xa9&#10;</string>"), u"a & \u00e9\n"_s);
+        row("empty string", xml("<string/>"), QString());
+        row("integer", xml("<integer> -9223372036854775808 </integer>"),
+            std::numeric_limits<qint64>::min());
+        row("unsigned", xml("<integer>18446744073709551615</integer>"),
+            std::numeric_limits<quint64>::max());
+        row("hexadecimal", xml("<integer>0x1F</integer>"), qint64(31));
+        row("real", xml("<real>-2.5e3</real>"), -2500.0);
+        row("true", xml("<true/>"), true);
+        row("date", xml("<date>2024-03-07T09:05:03Z</date>"), day);
+        row("data", xml("<data>\n\tAAEC\n\t/w==\n</data>"), QByteArray("\0\1\2\xff", 4));
+        row("array", xml("<array><false/><!-- x --><string>b</string></array>"),
+            QVariantList{false, u"b"_s});
+        row("dictionary", xml("<dict><key>B</key><array/><key>A</key><dict/></dict>"),
+            QVariantMap{{u"A"_s, QVariantMap()}, {u"B"_s, QVariantList()}});
+
+        row("binary bool", binary({"\x09"}), true);
+        row("binary byte", binary({"\x10\xff"}), qint64(255));
+        row("binary negative", binary({"\x13" + QByteArray(8, '\xff')}), qint64(-1));
+        row("binary unsigned", binary({"\x14" + QByteArray(8, '\0') + QByteArray(8, '\xff')}),
+            std::numeric_limits<quint64>::max());
+        row("binary float", binary({QByteArray("\x22\xc0\x20\x00\x00", 5)}), -2.5);
+        row("binary double", binary({QByteArray("\x23\xc0\x04\0\0\0\0\0\0", 9)}), -2.5);
+        row("binary date", binary({QByteArray("\x33\x41\xc5\xcc\xdd\x5f\x80\x00\x00", 9)}), day);
+        row("binary data", binary({QByteArray("\x42\x00\xff", 3)}), QByteArray("\0\xff", 2));
+        row("binary text",
+            binary({"\x53"
+                    "abc"}),
+            u"abc"_s);
+        row("binary long text", binary({"\x5f\x10\x14" + QByteArray(20, 'x')}), QString(20, u'x'));
+        row("binary UTF-16", binary({QByteArray("\x62\x00\xe9\x20\xac", 5)}), u"\u00e9\u20ac"_s);
+        row("binary array",
+            binary({"\xa2\x01\x01",
+                    "\x51"
+                    "a"}),
+            QVariantList{u"a"_s, u"a"_s});
+        row("binary dictionary",
+            binary({"\xd1\x01\x02",
+                    "\x51"
+                    "k",
+                    QByteArray("\x10\x07")}),
+            QVariantMap{{u"k"_s, qint64(7)}});
+    }
+
+    void readsEveryKind()
+    {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QVariant, value);
+        const auto read = PropertyList::read(bytes);
+        QVERIFY(read);
+        QCOMPARE(read->metaType(), value.metaType());
+        QCOMPARE(*read, value);
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        const auto row = [](const char *name, const QByteArray &bytes) {
+            QTest::newRow(name) << bytes;
+        };
+        row("nothing", "");
+        row("another document", "<html><body/></html>");
+        row("no value", xml(""));
+        row("two values", xml("<true/><true/>"));
+        row("unfinished", xml("<array><true/>").chopped(9));
+        row("more behind", xml("<true/>") + "<plist/>");
+        row("unknown kind", xml("<set/>"));
+        row("key without value", xml("<dict><key>a</key></dict>"));
+        row("value without key", xml("<dict><true/></dict>"));
+        row("text between", xml("<array>a<true/></array>"));
+        row("element in a string", xml("<string>a<true/></string>"));
+        row("no number", xml("<integer>7a</integer>"));
+        row("no date", xml("<date>yesterday</date>"));
+        row("no base64", xml("<data>A!</data>"));
+        row("entities of its own",
+            "<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><string>&a;</string></plist>");
+        row("entity from a file",
+            "<!DOCTYPE plist [<!ENTITY a SYSTEM \"file:///etc/passwd\">]>"
+            "<plist><string>&a;</string></plist>");
+        row("depth", xml(QByteArray("<array>").repeated(33) + QByteArray("</array>").repeated(33)));
+        row("objects", xml("<array>" + QByteArray("<true/>").repeated(100'000) + "</array>"));
+        row("length", xml("<string>" + QByteArray(1024 * 1024, 'x') + "</string>"));
+
+        row("binary header alone", "bplist00");
+        row("binary cycle", binary({QByteArray("\xa1\x00", 2)}));
+        row("binary cycle of two", binary({"\xa1\x01", QByteArray("\xa1\x00", 2)}));
+        row("binary number of another object", binary({"\xa1\x05"}));
+        row("binary unknown kind", binary({"\x80\x01"}));
+        row("binary null", binary({QByteArray("\0", 1)}));
+        row("binary past the end", binary({"\x5f\x12\x7f\xff\xff\xff"}));
+        row("binary count past 64 bits", binary({"\xaf\x13" + QByteArray(8, '\xff')}));
+        row("binary key that is no text", binary({"\xd1\x01\x01", QByteArray("\x10\x07")}));
+        row("binary date past the calendar", binary({"\x33\x7f" + QByteArray(7, '\xf0')}));
+        row("binary widths of 0", binary({"\x09"}).replace("\x01\x01", QByteArray(2, '\0')));
+        row("binary table past the end",
+            binary({"\x09"}).replace(QByteArray(7, '\0') + "\x09", QByteArray(8, '\xff')));
+        QList<QByteArray> doubling; // 2^30 values in a few hundred bytes
+        for (int i = 1; i <= 30; ++i)
+            doubling.append("\xa2" + QByteArray(2, char(i)));
+        row("binary doubling", binary(doubling << "\x09"));
+        row("binary long text named often",
+            binary({"\xaf\x10\x64" + QByteArray(100, '\1'),
+                    "\x5f\x12" + QByteArray("\0\1\0\0", 4) + QByteArray(65536, 'x')}));
+    }
+
+    void refuses()
+    {
+        QFETCH(QByteArray, bytes);
+        QVERIFY(!PropertyList::read(bytes));
+    }
+
+    void survivesEveryCutAndEveryChangedByte()
+    {
+        const QByteArray whole =
+            binary({"\xd2\x01\x02\x03\x04",
+                    "\x51"
+                    "k",
+                    "\x52"
+                    "ab",
+                    "\xa2\x01\x02", QByteArray("\x23\xc0\x04\0\0\0\0\0\0", 9)});
+        QVERIFY(PropertyList::readDictionary(whole));
+        for (qsizetype i = 0; i < whole.size(); ++i) {
+            QVERIFY(!PropertyList::read(whole.first(i)));
+            for (const char byte : {'\x00', '\x7f', '\xff'}) {
+                QByteArray changed = whole;
+                changed[i] = byte;
+                PropertyList::read(changed);
+            }
+        }
+    }
+
+    void readsADictionaryFromAFile()
+    {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(xml("<dict><key>HD</key><string>Preset1280x720</string></dict>"));
+        file.flush();
+        const QVariantMap expected{{u"HD"_s, u"Preset1280x720"_s}};
+        QCOMPARE(PropertyList::readDictionaryFile(file.fileName()), expected);
+        QVERIFY(!PropertyList::readDictionaryFile(file.fileName(), {.bytes = 20}));
+        QVERIFY(!PropertyList::readDictionaryFile(file.fileName() + u"x"_s));
+        QVERIFY(!PropertyList::readDictionary(xml("<array/>")));
+    }
+};
+
+QTEST_GUILESS_MAIN(TestPropertyList)
+#include "tst_propertylist.moc"

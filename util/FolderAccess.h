@@ -1,0 +1,43 @@
+#pragma once
+
+#include "FileDescriptor.h"
+
+#include <cstdint>
+#include <optional>
+
+/// The system calls behind the walks over folders, which differ from system to system. Names are
+/// bytes, relative to a folder's descriptor; a link is never followed. Where a call fails, errno
+/// tells why. Any thread.
+namespace FolderAccess
+{
+
+/// Which folder a descriptor stands for, whatever its name is by now.
+struct Identity {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    bool operator==(const Identity &) const = default;
+};
+
+std::optional<Identity> identity(int folder);
+
+/// A sub-folder; fails with ENOTDIR or ELOOP where the name stands for anything else.
+FileDescriptor openFolder(int parent, const char *name);
+
+/// The same, and fails with EXDEV where something is mounted on the sub-folder, be it another part
+/// of the same file system. The kernel checks this in the same step, so nothing can be put in
+/// between. Needs Linux 5.6.
+FileDescriptor openFolderOfSameMount(int parent, const char *name);
+
+/// Goes down several names separated by "/", for use as a parent only; fails with ENOTDIR or ELOOP
+/// where one of them is a link and with EXDEV where the way leads out of the folder.
+FileDescriptor openWayDown(int parent, const char *way);
+
+struct Entry {
+    std::uint64_t size = 0;
+    bool isFolder = false;
+};
+
+/// Size and kind of what bears the name itself, as last known: a file server is not asked again.
+std::optional<Entry> entry(int parent, const char *name);
+
+} // namespace FolderAccess

@@ -1,0 +1,178 @@
+#include "FolderEmptier.h"
+
+#include "FolderDescent.h"
+#include "FolderEntries.h"
+#include "FolderShare.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <mutex>
+#include <vector>
+
+namespace
+{
+
+// What is read ahead of one folder: enough for 100,000 ordinary names in one go.
+constexpr std::size_t entriesBlock = 4 * 1024 * 1024;
+
+// From here on it pays to remove in the order in which the file system keeps the items.
+constexpr std::size_t manyEntries = 10'000;
+
+// One thread's part of the work.
+class Emptier
+{
+public:
+    void removeEntries(FolderDescent &descent);
+    void removeWaiting(FolderDescent &descent, FolderShare &share);
+    const EmptyingTally &tally() const { return m_tally; }
+
+private:
+    struct Place {
+        std::uint64_t inode;
+        std::size_t position;
+    };
+
+    void removeEntry(FolderDescent &descent, const FolderEntries::Entry &entry);
+    void enterOrRemove(FolderDescent &descent, const char *name);
+    bool removeItem(int parent, const char *name, int flags);
+    void sortPlaces();
+
+    EmptyingTally m_tally;
+    FolderEntries m_entries{entriesBlock};
+    std::vector<Place> m_places;
+};
+
+bool isNotEmpty(int error)
+{
+    return error == ENOTEMPTY || error == EEXIST;
+}
+
+// Only what refuses for a reason of its own counts: a folder that is not empty holds something that
+// was counted already, what has gone meanwhile is what was wanted, and a folder met in place of a
+// file is dealt with as a folder.
+bool isRefusal(int error)
+{
+    return !isNotEmpty(error) && error != ENOENT && error != EISDIR;
+}
+
+void Emptier::removeEntries(FolderDescent &descent)
+{
+    do {
+        if (!m_entries.read(descent.folder())) {
+            if (isRefusal(errno))
+                m_tally.refuse(errno);
+            return;
+        }
+        m_places.clear();
+        m_entries.forEach([this](const FolderEntries::Entry &entry, std::size_t position) {
+            m_places.push_back({.inode = entry.inode, .position = position});
+        });
+        sortPlaces();
+        for (const Place &place : m_places)
+            removeEntry(descent, m_entries.entryAt(place.position));
+    } while (!m_entries.atEnd());
+}
+
+void Emptier::sortPlaces()
+{
+    if (m_places.size() > manyEntries)
+        std::ranges::sort(m_places, {}, &Place::inode);
+}
+
+void Emptier::removeEntry(FolderDescent &descent, const FolderEntries::Entry &entry)
+{
+    if (entry.isFolder || (!removeItem(descent.folder(), entry.name, 0) && errno == EISDIR))
+        descent.addSubfolder(entry.name);
+}
+
+// False with errno set where the item stays.
+bool Emptier::removeItem(int parent, const char *name, int flags)
+{
+    if (::unlinkat(parent, name, flags) == 0) {
+        ++m_tally.removed;
+        return true;
+    }
+    const int error = errno;
+    if (isRefusal(error))
+        m_tally.refuse(error);
+    errno = error;
+    return false;
+}
+
+void Emptier::enterOrRemove(FolderDescent &descent, const char *name)
+{
+    FileDescriptor folder = FolderAccess::openFolderOfSameMount(descent.folder(), name);
+    if (folder) {
+        descent.enter(std::move(folder));
+        removeEntries(descent);
+        return;
+    }
+    switch (errno) {
+    case ENOENT:
+        break;
+    case ENOTDIR: // Swapped for something else since it was listed.
+    case ELOOP:
+        removeItem(descent.folder(), name, 0);
+        break;
+    case EACCES: // Cannot be looked into, but may well be empty.
+        if (!removeItem(descent.folder(), name, AT_REMOVEDIR) && isNotEmpty(errno))
+            m_tally.refuse(EACCES);
+        break;
+    default:
+        m_tally.refuse(errno);
+    }
+}
+
+void Emptier::removeWaiting(FolderDescent &descent, FolderShare &share)
+{
+    for (;;) {
+        while (const char *name = descent.nextSubfolder()) {
+            enterOrRemove(descent, name);
+            if (!share.wanted())
+                continue;
+            if (auto batch = descent.split())
+                share.give(std::move(*batch));
+        }
+        if (descent.atTop())
+            return;
+        const char *const left = descent.leave();
+        if (!left)
+            return;
+        removeItem(descent.folder(), left, AT_REMOVEDIR);
+    }
+}
+
+} // namespace
+
+void EmptyingTally::refuse(int error)
+{
+    ++refused;
+    if (firstError == 0)
+        firstError = error;
+}
+
+void EmptyingTally::add(const EmptyingTally &other)
+{
+    removed += other.removed;
+    refused += other.refused;
+    if (firstError == 0)
+        firstError = other.firstError;
+}
+
+EmptyingTally emptyFolder(FileDescriptor folder, unsigned helpers)
+{
+    FolderDescent descent({.folder = std::move(folder), .names = {}});
+    Emptier first;
+    first.removeEntries(descent);
+    EmptyingTally total = first.tally();
+    std::mutex mutex;
+    FolderShare::run(helpers, descent, [&](FolderShare &share, FolderDescent &part) {
+        Emptier emptier;
+        emptier.removeWaiting(part, share);
+        const std::scoped_lock lock(mutex);
+        total.add(emptier.tally());
+    });
+    return total;
+}

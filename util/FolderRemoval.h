@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <cstdint>
+
+/// What a removal came to.
+struct FolderRemovalResult {
+    std::uint64_t removed = 0; ///< Files, links and folders that are gone.
+    std::uint64_t refused = 0; ///< Items that stayed, not counting the folders around them.
+    int firstError = 0; ///< errno of one of the refusals; 0 without any.
+};
+
+/// Removes what stands at a relative path below a base folder, with everything in it; what does not
+/// exist is no error. Meant for folders that the user gave up, while other programs still work in
+/// them:
+/// - A link is never followed. Links inside are removed as links; where the item itself is a link,
+///   only that link goes. Where a folder on the way to the item is a link (the base's own path
+///   excepted), nothing is removed: what stands behind it may belong to something else.
+/// - Nothing mounted below the item is entered; it stays, as do the folders around it. The item
+///   itself and the folders on the way to it may be mounted.
+/// - What refuses (immutable, in a folder without permission) stays, and the rest goes. Permissions
+///   are never changed.
+/// - Names are bytes; any depth, with a few dozen descriptors and some megabytes of memory.
+///
+/// Refused as a whole, with a line in the system log: a base that is empty, relative, unreadable or
+/// "/" under whatever name; a path that is empty, absolute, or has an empty, "." or ".." component;
+/// a NUL in either. Otherwise one line says how much stayed, if anything did.
+/// Uses two threads; may be called on any thread, takes as long as it takes.
+FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path);

@@ -1,0 +1,76 @@
+#include "FolderSize.h"
+
+#include "FolderDescent.h"
+#include "FolderEntries.h"
+#include "FolderShare.h"
+
+#include <fcntl.h>
+
+#include <algorithm>
+#include <atomic>
+#include <thread>
+
+namespace
+{
+
+constexpr std::size_t entriesBlock = 64 * 1024;
+
+// Adds up the innermost folder's entries and lets its sub-folders wait.
+std::uint64_t sizeOfEntries(FolderDescent &descent, FolderEntries &entries)
+{
+    std::uint64_t sum = 0;
+    const int folder = descent.folder();
+    do {
+        if (!entries.read(folder))
+            return sum;
+        entries.forEach([&](const FolderEntries::Entry &listed, std::size_t) {
+            const auto entry = FolderAccess::entry(folder, listed.name);
+            if (!entry)
+                return;
+            sum += entry->size;
+            if (entry->isFolder)
+                descent.addSubfolder(listed.name);
+        });
+    } while (!entries.atEnd());
+    return sum;
+}
+
+std::uint64_t sizeOfWaiting(FolderDescent &descent, FolderEntries &entries, FolderShare &share)
+{
+    std::uint64_t sum = 0;
+    for (;;) {
+        while (const char *name = descent.nextSubfolder()) {
+            FileDescriptor folder = FolderAccess::openFolder(descent.folder(), name);
+            if (!folder)
+                continue;
+            descent.enter(std::move(folder));
+            sum += sizeOfEntries(descent, entries);
+            if (!share.wanted())
+                continue;
+            if (auto batch = descent.split())
+                share.give(std::move(*batch));
+        }
+        if (descent.atTop() || !descent.leave())
+            return sum;
+    }
+}
+
+} // namespace
+
+std::int64_t folderSize(const QByteArray &path)
+{
+    if (path.contains('\0'))
+        return 0;
+    FileDescriptor top(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!top)
+        return 0;
+    FolderDescent descent({.folder = std::move(top), .names = {}});
+    FolderEntries topEntries(entriesBlock);
+    std::atomic<std::uint64_t> sum = sizeOfEntries(descent, topEntries);
+    const unsigned helpers = std::clamp(std::thread::hardware_concurrency(), 1u, 4u) - 1;
+    FolderShare::run(helpers, descent, [&sum](FolderShare &share, FolderDescent &part) {
+        FolderEntries entries(entriesBlock);
+        sum += sizeOfWaiting(part, entries, share);
+    });
+    return static_cast<std::int64_t>(sum.load());
+}

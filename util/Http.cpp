@@ -1,0 +1,212 @@
+#include "Http.h"
+
+#include "CurlLibrary.h"
+
+#include <QIODevice>
+
+#include <algorithm>
+#include <memory>
+
+namespace
+{
+
+/// The header blocks of a reply and its redirects together; libcurl remembers every line of them.
+constexpr qint64 mostHeaderBytes = 256 * 1024;
+
+bool hasScheme(const QByteArray &address, QByteArrayView scheme)
+{
+    return address.left(scheme.size()).compare(scheme, Qt::CaseInsensitive) == 0;
+}
+
+bool isAcceptable(const QByteArray &address, HttpSchemes schemes)
+{
+    const auto isPrintable = [](char byte) { return byte > ' ' && byte < '\x7f'; };
+    return std::all_of(address.begin(), address.end(), isPrintable)
+        && (hasScheme(address, "https:/")
+            || (schemes == HttpSchemes::Any && hasScheme(address, "http:/")));
+}
+
+bool isHeader(QByteArrayView line, QByteArrayView name)
+{
+    return line.size() > name.size() && line[name.size()] == ':'
+        && line.first(name.size()).compare(name, Qt::CaseInsensitive) == 0;
+}
+
+/// One request; the call-backs below are told of it by its address.
+class Transfer
+{
+public:
+    Transfer(const CurlLibrary &curl, const HttpRequest &request, QIODevice *target)
+        : m_curl(curl), m_request(request), m_target(target),
+          m_easy(curl.easyInit(), curl.easyCleanup), m_headers(nullptr, curl.slistFreeAll)
+    {
+    }
+
+    HttpReply perform(const std::optional<QByteArrayView> &postBody)
+    {
+        if (!m_easy)
+            return {HttpReply::End::Failed, 0, {}, "out of memory"};
+        setUp();
+        setHeaders();
+        if (postBody) {
+            set(CURLOPT_POST, 1L);
+            set(CURLOPT_POSTFIELDS, postBody->isEmpty() ? "" : postBody->data());
+            set(CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(postBody->size()));
+        }
+        const CURLcode code = m_curl.easyPerform(m_easy.get());
+        if (code != CURLE_OK)
+            return {endOf(code), 0, {}, m_curl.easyStrerror(code)};
+        long status = 0;
+        m_curl.easyGetinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+        return {HttpReply::End::Answered, int(status), std::move(m_body), {}};
+    }
+
+private:
+    template <class Value>
+    void set(CURLoption option, Value value)
+    {
+        m_curl.easySetopt(m_easy.get(), option, value);
+    }
+
+    void setUp()
+    {
+        const HttpLimits &limits = m_request.limits;
+        const char *schemes = limits.schemes == HttpSchemes::Any ? "http,https" : "https";
+        set(CURLOPT_URL, m_request.address.constData());
+        set(CURLOPT_PATH_AS_IS, 1L);
+        set(CURLOPT_PROTOCOLS_STR, schemes);
+        set(CURLOPT_REDIR_PROTOCOLS_STR, schemes);
+        set(CURLOPT_FOLLOWLOCATION, limits.redirects > 0 ? 1L : 0L);
+        set(CURLOPT_MAXREDIRS, long(limits.redirects));
+        set(CURLOPT_TIMEOUT_MS, std::max(1L, long(limits.time.count()))); // 0 would be endless
+        set(CURLOPT_MAXFILESIZE_LARGE, curl_off_t(limits.bytes));
+        set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
+        set(CURLOPT_USERAGENT, "Toolvane");
+        set(CURLOPT_NOSIGNAL, 1L); // signals would end up on any thread
+        set(CURLOPT_WRITEFUNCTION, &Transfer::takeBody);
+        set(CURLOPT_WRITEDATA, this);
+        set(CURLOPT_HEADERFUNCTION, &Transfer::takeHeader);
+        set(CURLOPT_HEADERDATA, this);
+        set(CURLOPT_NOPROGRESS, 0L);
+        set(CURLOPT_XFERINFOFUNCTION, &Transfer::takeProgress);
+        set(CURLOPT_XFERINFODATA, this);
+    }
+
+    /// The headers that libcurl adds by itself are taken out, by a line with nothing behind the
+    /// colon, unless the caller gives them.
+    void setHeaders()
+    {
+        QList<QByteArray> lines = m_request.headers;
+        for (const char *name : {"Accept", "Content-Type", "Expect"}) {
+            if (std::none_of(lines.cbegin(), lines.cend(),
+                             [name](const QByteArray &line) { return isHeader(line, name); }))
+                lines.append(QByteArray(name) + ':');
+        }
+        for (const QByteArray &line : std::as_const(lines)) {
+            if (curl_slist *longer = m_curl.slistAppend(m_headers.get(), line.constData())) {
+                std::ignore = m_headers.release();
+                m_headers.reset(longer);
+            }
+        }
+        set(CURLOPT_HTTPHEADER, m_headers.get());
+    }
+
+    HttpReply::End endOf(CURLcode code) const
+    {
+        switch (code) {
+        case CURLE_URL_MALFORMAT:
+        case CURLE_UNSUPPORTED_PROTOCOL:
+        case CURLE_TOO_MANY_REDIRECTS:
+            return HttpReply::End::Refused;
+        case CURLE_OPERATION_TIMEDOUT:
+            return HttpReply::End::TimedOut;
+        case CURLE_FILESIZE_EXCEEDED:
+            return HttpReply::End::TooLarge;
+        case CURLE_WRITE_ERROR: // one of our own call-backs said no
+            return m_refusal;
+        case CURLE_ABORTED_BY_CALLBACK:
+            return HttpReply::End::Cancelled;
+        default:
+            return HttpReply::End::Failed;
+        }
+    }
+
+    // libcurl takes any other number than the one it gave as a request to end the transfer.
+    static constexpr std::size_t refused = 0;
+
+    static std::size_t takeBody(const char *data, std::size_t, std::size_t size, void *transfer)
+    {
+        auto *self = static_cast<Transfer *>(transfer);
+        self->m_received += qint64(size);
+        if (self->m_received > self->m_request.limits.bytes) {
+            self->m_refusal = HttpReply::End::TooLarge;
+            return refused;
+        }
+        if (!self->m_target) {
+            self->m_body.append(data, qsizetype(size));
+            return size;
+        }
+        if (self->m_target->write(data, qint64(size)) == qint64(size))
+            return size;
+        self->m_refusal = HttpReply::End::NotWritten;
+        return refused;
+    }
+
+    static std::size_t takeHeader(const char *, std::size_t, std::size_t size, void *transfer)
+    {
+        auto *self = static_cast<Transfer *>(transfer);
+        self->m_headerBytes += qint64(size);
+        if (self->m_headerBytes <= mostHeaderBytes)
+            return size;
+        self->m_refusal = HttpReply::End::TooLarge;
+        return refused;
+    }
+
+    static int takeProgress(void *transfer, curl_off_t announced, curl_off_t received, curl_off_t,
+                            curl_off_t)
+    {
+        auto *self = static_cast<Transfer *>(transfer);
+        if (self->m_request.progress && received > 0)
+            self->m_request.progress(
+                received, announced > 0 ? std::optional<qint64>(announced) : std::nullopt);
+        return self->m_request.stop.stop_requested() ? 1 : 0;
+    }
+
+    const CurlLibrary &m_curl;
+    const HttpRequest &m_request;
+    QIODevice *m_target;
+    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy;
+    std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> m_headers;
+    QByteArray m_body;
+    qint64 m_received = 0;
+    qint64 m_headerBytes = 0;
+    HttpReply::End m_refusal = HttpReply::End::Failed;
+};
+
+HttpReply perform(const HttpRequest &request, QIODevice *target,
+                  const std::optional<QByteArrayView> &postBody)
+{
+    if (!isAcceptable(request.address, request.limits.schemes))
+        return {HttpReply::End::Refused, 0, {}, "not a web address"};
+    const CurlLibrary *curl = CurlLibrary::get();
+    if (!curl)
+        return {HttpReply::End::Failed, 0, {}, "libcurl is not installed"};
+    return Transfer(*curl, request, target).perform(postBody);
+}
+
+} // namespace
+
+HttpReply httpGet(const HttpRequest &request)
+{
+    return perform(request, nullptr, std::nullopt);
+}
+
+HttpReply httpGet(const HttpRequest &request, QIODevice &target)
+{
+    return perform(request, &target, std::nullopt);
+}
+
+HttpReply httpPost(const HttpRequest &request, QByteArrayView body)
+{
+    return perform(request, nullptr, body);
+}

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <stop_token>
+
+class QIODevice;
+
+/// Blocking HTTP requests within limits. Any thread may make them, several at a time; a thread that
+/// draws windows should not.
+///
+/// Only http and https are spoken, also after a redirect; certificates and host names are checked
+/// against the system's store; nothing is decompressed, no cookie or password is looked up. A
+/// request carries Host, User-Agent, the length of its body, and the headers that the caller gives.
+
+enum class HttpSchemes { Any, SecureOnly }; ///< http and https, or https alone.
+
+/// What a request may use up. A request that passes one of these has no reply.
+struct HttpLimits {
+    std::chrono::milliseconds time{60'000}; ///< From the look-up of the host to the last byte.
+    qint64 bytes = 1024 * 1024; ///< Of the body.
+    int redirects = 5; ///< With 0 a redirect is itself the reply.
+    HttpSchemes schemes = HttpSchemes::Any;
+};
+
+struct HttpRequest {
+    /// Sent byte for byte: the caller has percent-escaped it; what follows a "#" is not sent. One
+    /// slash behind the scheme's colon is enough, as in browsers: "https:/host/path". An address
+    /// with blanks, control characters or bytes outside ASCII is refused.
+    QByteArray address;
+    QList<QByteArray> headers = {}; ///< "Name: value" each, without line ends.
+    HttpLimits limits = {};
+    std::stop_token stop = {}; ///< Asks the request to end; it does within about a second.
+    /// Called on the requesting thread with the bytes received so far and those that the server
+    /// announced.
+    std::function<void(qint64 received, std::optional<qint64> announced)> progress = {};
+};
+
+struct HttpReply {
+    enum class End {
+        Answered, ///< The reply came whole; its status may still be an error.
+        Refused, ///< The address, a redirect or the server's protocol is not allowed.
+        TimedOut,
+        TooLarge,
+        Cancelled,
+        NotWritten, ///< The target of the body did not take it.
+        Failed, ///< Host not found, connection or certificate refused, reply cut short, …
+    };
+
+    End end = End::Failed;
+    int status = 0; ///< 200, 404, …; 0 where no reply came.
+    QByteArray body = {}; ///< Empty unless answered, and where it went into a target.
+    QByteArray message = {}; ///< English words for the log where the request failed.
+
+    bool answered() const { return end == End::Answered; }
+    bool succeeded() const { return answered() && status >= 200 && status < 300; }
+};
+
+HttpReply httpGet(const HttpRequest &request);
+
+/// Writes the body into the open target piece by piece, whatever the reply's status is. The target
+/// holds a part of it, or an error page, unless the reply succeeded: give a QSaveFile and commit it
+/// only then.
+HttpReply httpGet(const HttpRequest &request, QIODevice &target);
+
+/// The body is sent with its length; there is no Content-Type unless the headers hold one.
+HttpReply httpPost(const HttpRequest &request, QByteArrayView body);

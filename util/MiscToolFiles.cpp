@@ -1,0 +1,136 @@
+#include "FolderBookmark.h"
+#include "FolderSize.h"
+#include "MiscTool.h"
+#include "PathText.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include <pwd.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray homeOfRealUser()
+{
+    std::vector<char> texts(1024);
+    struct passwd record = {};
+    struct passwd *found = nullptr;
+    while (::getpwuid_r(::getuid(), &record, texts.data(), texts.size(), &found) == ERANGE)
+        texts.resize(texts.size() * 2);
+    return found ? QByteArray(found->pw_dir) : QByteArray();
+}
+
+std::optional<std::int64_t> blocksOfRoot(fsblkcnt_t statvfs::*blocks)
+{
+    struct statvfs status = {};
+    if (::statvfs("/", &status) != 0)
+        return std::nullopt;
+    return static_cast<std::int64_t>(status.f_frsize * status.*blocks);
+}
+
+// The path as the bytes of the file system: a file address can name what no QString can.
+QByteArray localPath(const QUrl &url)
+{
+    if (!url.isLocalFile() || !url.host().isEmpty())
+        return {};
+    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
+}
+
+QUrl localUrl(const QByteArray &path)
+{
+    const QString text = QFile::decodeName(path);
+    return QFile::encodeName(text) == path
+        ? QUrl::fromLocalFile(text)
+        : QUrl::fromEncoded("file://" + path.toPercentEncoding("/"));
+}
+
+} // namespace
+
+QString MiscTool::getUserHome()
+{
+    QByteArray home = homeOfRealUser();
+    while (home.size() > 1 && home.endsWith('/'))
+        home.chop(1);
+    return QFile::decodeName(home);
+}
+
+QString MiscTool::getDownloadFolder()
+{
+    const QString home = getUserHome();
+    return home.isEmpty() ? home : appendPathComponent(home, u"Downloads"_s);
+}
+
+std::optional<std::int64_t> MiscTool::getDiskTotalSize()
+{
+    return blocksOfRoot(&statvfs::f_blocks);
+}
+
+std::optional<std::int64_t> MiscTool::getDiskAvailableSize()
+{
+    return blocksOfRoot(&statvfs::f_bavail);
+}
+
+std::int64_t MiscTool::getLocalFileSize(const QString &path)
+{
+    struct stat status = {};
+    if (path.contains(u'\0') || ::lstat(QFile::encodeName(path).constData(), &status) != 0)
+        return 0;
+    return status.st_size;
+}
+
+std::int64_t MiscTool::getSize(const QString &path)
+{
+    return getSize(QFile::encodeName(path));
+}
+
+std::int64_t MiscTool::getSize(const QByteArray &path)
+{
+    return folderSize(path);
+}
+
+std::optional<QByteArray> MiscTool::bookmarkForURL(const QUrl &url)
+{
+    const std::optional<QByteArray> bookmark = FolderBookmark::make(localPath(url));
+    if (!bookmark)
+        qInfo().noquote() << u"No bookmark for %1: %2"_s.arg(url.toDisplayString(),
+                                                             qt_error_string(errno));
+    return bookmark;
+}
+
+std::optional<QUrl> MiscTool::urlForBookmark(const QByteArray &bookmark)
+{
+    const std::optional<QByteArray> path = FolderBookmark::resolve(bookmark);
+    if (!path) {
+        qInfo().noquote() << u"The bookmark is of no use any more: %1"_s.arg(
+            qt_error_string(errno));
+        return std::nullopt;
+    }
+    return localUrl(*path);
+}
+
+QString MiscTool::getAppDocumentFolder()
+{
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const QFileInfo info(folder);
+    if (!info.exists()) {
+        // Documents and the record database are nobody else's business; what leads there has the
+        // modes that the user's own settings give.
+        QDir().mkpath(info.path());
+        QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    return folder;
+}
