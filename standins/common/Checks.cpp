@@ -1,0 +1,49 @@
+#include "Checks.h"
+
+#include "Failure.h"
+#include "FileDescriptor.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <memory>
+
+namespace standin
+{
+
+std::string resolved(const std::string &path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
+                                                           &std::free);
+    if (!real)
+        failWithError(path, errno);
+    return real.get();
+}
+
+void requireRegularFile(const std::string &path)
+{
+    struct stat status;
+    if (::stat(path.c_str(), &status) != 0)
+        failWithError(path, errno);
+    if (S_ISDIR(status.st_mode))
+        failWithError(path, EISDIR);
+    if (!S_ISREG(status.st_mode))
+        fail(path, "Not a regular file");
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    if (!file.isOpen())
+        failWithError(path, errno);
+}
+
+void requireDifferentFiles(const std::string &source, const std::string &target)
+{
+    struct stat one;
+    struct stat other;
+    if (::stat(source.c_str(), &one) != 0 || ::stat(target.c_str(), &other) != 0)
+        return;
+    if (one.st_dev == other.st_dev && one.st_ino == other.st_ino)
+        fail(target, "Source and output are the same file");
+}
+
+} // namespace standin

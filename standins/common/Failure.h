@@ -1,0 +1,40 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+namespace standin
+{
+
+// What the programs end with. The numbers above 1 are those of sysexits.h.
+enum ExitStatus {
+    Success = 0,
+    Failed = 1,
+    UsageWrong = 64,
+    ProgramMissing = 69,
+};
+
+// Ends the program: caught by runProgram(), which prints the text as one line after the program's
+// name and exits with the status.
+class Failure : public std::runtime_error
+{
+public:
+    Failure(ExitStatus exitStatus, const std::string &text)
+        : std::runtime_error(text), status(exitStatus)
+    {
+    }
+    ExitStatus status;
+};
+
+// The arguments are not the ones that the program takes: its usage line and status 64.
+class WrongUsage : public std::exception
+{
+};
+
+// "path: reason", status 1.
+[[noreturn]] void fail(const std::string &path, const std::string &reason);
+
+// The same with the system's words for an errno value.
+[[noreturn]] void failWithError(const std::string &path, int error);
+
+} // namespace standin

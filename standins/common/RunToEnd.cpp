@@ -1,0 +1,78 @@
+#include "RunToEnd.h"
+
+#include "LastWords.h"
+#include "Pipe.h"
+
+#include <poll.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+
+namespace standin
+{
+
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+
+// Reads once; closes the descriptor at its end.
+void readSome(FileDescriptor &from, const OutputSink &sink)
+{
+    std::array<char, 65536> buffer;
+    const auto count = ::read(from.number(), buffer.data(), buffer.size());
+    if (count > 0)
+        sink({buffer.data(), static_cast<std::size_t>(count)});
+    else if (count == 0 || errno != EINTR)
+        from.close();
+}
+
+int remaining(Clock::time_point deadline, std::chrono::milliseconds limit)
+{
+    if (limit == noLimit)
+        return -1;
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+    return std::max(0, static_cast<int>(left.count()));
+}
+
+// False when the time was over first.
+bool drain(FileDescriptor &output, const OutputSink &sink, FileDescriptor &errors,
+           const OutputSink &errorSink, std::chrono::milliseconds limit)
+{
+    const auto deadline = Clock::now() + limit;
+    while (output.isOpen() || errors.isOpen()) {
+        std::array<pollfd, 2> events{{{output.number(), POLLIN, 0}, {errors.number(), POLLIN, 0}}};
+        const int ready = ::poll(events.data(), events.size(), remaining(deadline, limit));
+        if (ready == 0)
+            return false;
+        if (ready > 0 && events[0].revents)
+            readSome(output, sink);
+        if (ready > 0 && events[1].revents)
+            readSome(errors, errorSink);
+    }
+    return true;
+}
+
+} // namespace
+
+Finished runToEnd(Command command, const OutputSink &sink, std::chrono::milliseconds limit)
+{
+    Pipe output;
+    Pipe errors;
+    command.output = output.writeEnd.number();
+    command.errors = errors.writeEnd.number();
+    Child child(command);
+    output.writeEnd.close();
+    errors.writeEnd.close();
+
+    LastWords words;
+    const OutputSink keepWords = [&words](std::string_view bytes) { words.add(bytes); };
+    if (!drain(output.readEnd, sink, errors.readEnd, keepWords, limit))
+        child.kill();
+    const ChildEnd end = child.wait();
+    return {end,
+            words.text().empty() ? command.program + " ended with " + end.text() : words.text()};
+}
+
+} // namespace standin

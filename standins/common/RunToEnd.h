@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Child.h"
+
+#include <chrono>
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace standin
+{
+
+// What a finished child leaves.
+struct Finished {
+    ChildEnd end;
+    std::string lastWords; // the last line of its standard error, or how it ended
+
+    bool succeeded() const { return end.succeeded(); }
+};
+
+using OutputSink = std::function<void(std::string_view)>;
+
+inline constexpr std::chrono::milliseconds noLimit{-1};
+
+// Starts the command, hands what it writes to its standard output to the sink piece by piece, keeps
+// the last line of its standard error, and waits for the end. A child that outlives the limit, and
+// any child when the sink throws, is killed.
+Finished runToEnd(Command command, const OutputSink &sink,
+                  std::chrono::milliseconds limit = noLimit);
+
+} // namespace standin

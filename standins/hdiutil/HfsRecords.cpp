@@ -1,0 +1,147 @@
+#include "HfsRecords.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace hfs
+{
+namespace
+{
+
+constexpr std::int64_t secondsFrom1904To1970 = 2082844800;
+
+// "Catalog File Data".
+enum RecordType : std::uint16_t { FolderRecord = 1, FileRecord, FolderThread, FileThread };
+constexpr std::uint16_t threadExists = 0x0002;
+constexpr std::uint16_t hasFolderCount = 0x0010;
+
+// "HFS Plus Permissions": the number for an owner or group that is not known.
+constexpr std::uint32_t unknownOwner = 99;
+constexpr std::uint16_t folderMode = 0040000;
+constexpr std::uint16_t fileMode = 0100000;
+constexpr std::uint16_t linkMode = 0120000;
+
+// "Symbolic Links".
+constexpr std::uint32_t linkType = 0x736C6E6B; // 'slnk'
+constexpr std::uint32_t linkCreator = 0x72686170; // 'rhap'
+
+constexpr std::size_t forkSize = 80;
+
+std::uint32_t clampedDate(std::int64_t seconds)
+{
+    constexpr std::int64_t latest = std::numeric_limits<std::uint32_t>::max();
+    return static_cast<std::uint32_t>(std::clamp<std::int64_t>(seconds, 0, latest));
+}
+
+// Whoever opens the image is not the one who made it: all may read what he could.
+std::uint16_t modeOf(const Item &item)
+{
+    switch (item.kind) {
+    case ItemKind::Folder:
+        return folderMode | item.permissions | 0555;
+    case ItemKind::File:
+        return fileMode | item.permissions | 0444;
+    case ItemKind::Link:
+        break;
+    }
+    return linkMode | 0777;
+}
+
+void appendDates(BigEndianWriter &out, std::uint32_t modified)
+{
+    // Created, content modified, attributes modified, accessed: the one time that copies keep.
+    out.u32(modified).u32(modified).u32(modified).u32(modified).u32(0);
+}
+
+void appendPermissions(BigEndianWriter &out, std::uint16_t mode)
+{
+    out.u32(unknownOwner).u32(unknownOwner).u8(0).u8(0).u16(mode).u32(0);
+}
+
+void appendName(BigEndianWriter &out, std::u16string_view name)
+{
+    out.u16(static_cast<std::uint16_t>(name.size()));
+    for (const char16_t unit : name)
+        out.u16(unit);
+}
+
+Bytes folderRecord(const Item &item, std::uint32_t id, NameOrder order)
+{
+    const bool countsFolders = order == NameOrder::Binary;
+    Bytes record;
+    BigEndianWriter out(record);
+    out.u16(FolderRecord).u16(countsFolders ? hasFolderCount : 0).u32(item.items).u32(id);
+    appendDates(out, item.modified);
+    appendPermissions(out, modeOf(item));
+    out.zeros(32); // Finder's information
+    out.u32(0).u32(countsFolders ? item.folders : 0);
+    return record;
+}
+
+Bytes fileRecord(const Item &item, std::uint32_t id)
+{
+    Bytes record;
+    BigEndianWriter out(record);
+    out.u16(FileRecord).u16(threadExists).u32(0).u32(id);
+    appendDates(out, item.modified);
+    appendPermissions(out, modeOf(item));
+    if (item.kind == ItemKind::Link)
+        out.u32(linkType).u32(linkCreator);
+    else
+        out.zeros(8);
+    out.zeros(24); // Finder's information
+    out.u32(0).u32(0);
+    appendFork(record, item.data);
+    out.zeros(forkSize); // no resource fork
+    return record;
+}
+
+} // namespace
+
+std::uint32_t dateFrom(std::time_t time)
+{
+    constexpr auto latest = std::numeric_limits<std::time_t>::max() - secondsFrom1904To1970;
+    return clampedDate(std::min(time, latest) + secondsFrom1904To1970);
+}
+
+std::uint32_t localDateFrom(std::time_t time)
+{
+    std::tm local{};
+    if (::localtime_r(&time, &local) == nullptr)
+        return dateFrom(time);
+    return clampedDate(std::int64_t{dateFrom(time)} + local.tm_gmtoff);
+}
+
+// "Fork Data Structure"; an empty fork has no extent.
+void appendFork(Bytes &out, const Fork &fork, std::uint32_t clumpSize)
+{
+    BigEndianWriter writer(out);
+    writer.u64(fork.size).u32(clumpSize).u32(fork.blocks);
+    writer.u32(fork.blocks > 0 ? fork.firstBlock : 0).u32(fork.blocks);
+    writer.zeros(7 * 8); // the other seven extents
+}
+
+Bytes catalogKey(std::uint32_t parentId, std::u16string_view name)
+{
+    Bytes key;
+    BigEndianWriter out(key);
+    out.u16(static_cast<std::uint16_t>(4 + 2 + 2 * name.size())).u32(parentId);
+    appendName(out, name);
+    return key;
+}
+
+Bytes itemRecord(const Item &item, std::uint32_t id, NameOrder order)
+{
+    return item.kind == ItemKind::Folder ? folderRecord(item, id, order) : fileRecord(item, id);
+}
+
+Bytes threadRecord(ItemKind kind, std::uint32_t parentId, std::u16string_view name)
+{
+    Bytes record;
+    BigEndianWriter out(record);
+    out.u16(kind == ItemKind::Folder ? FolderThread : FileThread).u16(0).u32(parentId);
+    appendName(out, name);
+    return record;
+}
+
+} // namespace hfs

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "FileDescriptor.h"
+
+#include <sys/stat.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+// The steps of reading a folder that changes meanwhile: everything goes by the descriptor of a
+// folder and a name in it, so that depth has no limit and no link is followed, and nothing waits
+// for a fifo. What has vanished gives nothing; any other error fails with the path given.
+namespace source
+{
+
+// Raises the limit of open files as far as it goes: a walk keeps one open for each level.
+void allowDeepFolders();
+
+// The folder to pack, through links. Fails when it is no folder or may not be read.
+standin::FileDescriptor openRoot(const std::string &path);
+
+// All names but "." and "..", sorted by their bytes.
+std::vector<std::string> listNames(const standin::FileDescriptor &folder, const std::string &path);
+
+std::optional<struct stat> statusOf(const standin::FileDescriptor &folder, const std::string &name,
+                                    const std::string &path);
+
+// Not open when the item has vanished. Fails when it is not a folder, or a regular file, any more.
+standin::FileDescriptor openFolder(const standin::FileDescriptor &parent, const std::string &name,
+                                   const std::string &path);
+standin::FileDescriptor openFile(const standin::FileDescriptor &parent, const std::string &name,
+                                 const std::string &path);
+
+// Where a symbolic link leads.
+std::optional<std::string> linkTarget(const standin::FileDescriptor &folder,
+                                      const std::string &name, const std::string &path);
+
+// Status of what is open.
+struct stat statusOf(const standin::FileDescriptor &file, const std::string &path);
+
+} // namespace source

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "OutputFile.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace standin
+{
+
+// Writes 16-bit mono samples as an AIFF file (Audio Interchange File Format 1.3, Apple 1989): big-
+// endian, with the chunks COMM and SSND. The sizes are filled in at the end.
+class AiffWriter
+{
+public:
+    explicit AiffWriter(OutputFile &file);
+
+    // Samples as 16-bit little-endian numbers; may be cut anywhere. Fails beyond 2 GiB, which is
+    // more than the readers of the format take.
+    void add(std::string_view samples);
+
+    // To be called once, after the last sample. A file without any gets a tenth of a second of
+    // silence, as some readers refuse an empty one.
+    void finish(int samplesPerSecond);
+
+private:
+    void flush();
+
+    OutputFile &m_file;
+    std::string m_buffer; // big-endian samples, and at most one byte that waits for its other half
+    std::int64_t m_bytes = 0;
+};
+
+} // namespace standin

@@ -1,0 +1,138 @@
+// Reads a text aloud with espeak-ng or saves the speech, taking the arguments of macOS's say.
+
+#include "AiffWriter.h"
+#include "Failure.h"
+#include "OutputFile.h"
+#include "Pipe.h"
+#include "Player.h"
+#include "Program.h"
+#include "RunToEnd.h"
+#include "SpeechText.h"
+#include "Synthesiser.h"
+#include "Voices.h"
+#include "WavHeader.h"
+
+#include <fcntl.h>
+
+#include <array>
+#include <cerrno>
+#include <optional>
+
+using namespace standin;
+
+namespace
+{
+
+struct Job {
+    std::string text;
+    std::string voice;
+    std::string rate;
+    std::optional<std::string> output;
+};
+
+std::string valueOf(const std::string &argument, std::string_view option)
+{
+    if (!argument.starts_with(option))
+        throw WrongUsage();
+    return argument.substr(option.size());
+}
+
+// The text is the first argument, whatever it begins with.
+Job jobFrom(const Arguments &arguments)
+{
+    if (arguments.size() != 3 && arguments.size() != 4)
+        throw WrongUsage();
+    Job job{arguments[0], valueOf(arguments[1], "--voice="), valueOf(arguments[2], "--rate="), {}};
+    if (arguments.size() == 4)
+        job.output = valueOf(arguments[3], "--output-file=");
+    return job;
+}
+
+// Without anything to speak the synthesiser writes nothing at all, not even a header.
+int sampleRateIn(std::string_view header)
+{
+    if (header.empty())
+        return usualSampleRate;
+    const auto rate = wavSampleRate(header);
+    if (!rate)
+        fail("espeak-ng", "Gives no sound that is understood here");
+    return *rate;
+}
+
+void save(const Speech &speech, const std::string &target)
+{
+    OutputFile file(target);
+    AiffWriter aiff(file);
+    std::string header;
+    const auto take = [&](std::string_view bytes) {
+        const auto missing = std::min(wavHeaderSize - header.size(), bytes.size());
+        header += bytes.substr(0, missing);
+        aiff.add(bytes.substr(missing));
+    };
+    const Synthesis synthesis(speech);
+    const Finished finished = runToEnd(synthesis.command(), take);
+    if (!finished.succeeded())
+        fail("espeak-ng", finished.lastWords);
+    aiff.finish(sampleRateIn(header));
+    file.commit();
+}
+
+std::string readExactly(int descriptor, std::size_t size)
+{
+    std::string bytes(size, '\0');
+    std::size_t got = 0;
+    while (got < size) {
+        const auto count = ::read(descriptor, bytes.data() + got, size - got);
+        if (count == 0 || (count < 0 && errno != EINTR))
+            break;
+        got += count > 0 ? static_cast<std::size_t>(count) : 0;
+    }
+    bytes.resize(got);
+    return bytes;
+}
+
+void play(int samples, int samplesPerSecond)
+{
+    const Command player = playerCommand(samples, samplesPerSecond);
+    const Finished played = runToEnd(player, [](std::string_view) {});
+    if (!played.succeeded())
+        fail(player.program, played.lastWords);
+}
+
+// The header is taken off the stream, then the player reads the same pipe: nothing of the sound
+// passes through this program.
+void readAloud(const Speech &speech)
+{
+    Pipe samples;
+    const Synthesis synthesis(speech);
+    Command command = synthesis.command();
+    command.output = samples.writeEnd.number();
+    Child synthesiser(command);
+    samples.writeEnd.close();
+    const std::string header = readExactly(samples.readEnd.number(), wavHeaderSize);
+    if (!header.empty())
+        play(samples.readEnd.number(), sampleRateIn(header));
+    if (const ChildEnd end = synthesiser.wait(); !end.succeeded())
+        fail("espeak-ng", "Ended with " + end.text());
+}
+
+void speak(const Job &job)
+{
+    const auto rate = speakingRate(job.rate);
+    if (!rate)
+        throw Failure(UsageWrong, job.rate + ": Not a speaking rate");
+    const std::string text = speakableText(job.text);
+    const Speech speech{text, requireVoice(job.voice), *rate};
+    if (job.output)
+        save(speech, *job.output);
+    else if (!text.empty())
+        readAloud(speech);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    return runProgram("say", "say TEXT --voice=VOICE --rate=RATE [--output-file=FILE]", argc, argv,
+                      [](const Arguments &arguments) { speak(jobFrom(arguments)); });
+}

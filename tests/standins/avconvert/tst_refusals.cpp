@@ -1,0 +1,153 @@
+// Proves that a conversion which cannot be done says so in one line, leaves an older output byte
+// for byte and nothing else, and reads no file but its source.
+#include "SampleMedia.h"
+
+#include <QTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+class TestRefusals : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        const QString video =
+            m_media.make(u"good.mp4"_s, u"-f lavfi -i testsrc2=s=160x120:d=4 SOUND"_s);
+        const QString avi =
+            m_media.make(u"good.avi"_s, u"-f lavfi -i testsrc2=s=160x120:d=4 SOUND"_s);
+        const QString early =
+            m_media.make(u"early.mp4"_s, u"-i %1 -c copy -movflags +faststart"_s.arg(video));
+        m_media.cut(video, 0.5, u"half.mp4"_s);
+        m_media.cut(avi, 0.5, u"half.avi"_s);
+        m_media.cut(early, 0.5, u"halfearly.mp4"_s);
+        writeFile(m_media.path(u"empty.avi"_s), {});
+        writeFile(m_media.path(u"text.avi"_s), "This is no video.\n");
+        writeFile(m_media.path(u"playlist.avi"_s),
+                  "#EXTM3U\n#EXT-X-TARGETDURATION:4\n#EXTINF:4,\nfile://" + video.toUtf8()
+                      + "\n#EXT-X-ENDLIST\n");
+        writeFile(m_media.path(u"list.mp4"_s), "ffconcat version 1.0\nfile good.mp4\n");
+        m_media.make(u"picture.mp4"_s, u"-f lavfi -i color=red -frames:v 1 -f image2 -c:v png"_s);
+        QCOMPARE(::mkfifo(qPrintable(m_media.path(u"fifo.mp4"_s)), 0600), 0);
+        QCOMPARE(::link(qPrintable(video), qPrintable(m_media.path(u"hard.mp4"_s))), 0);
+        QVERIFY(QFile::link(u"good.mp4"_s, m_media.path(u"soft.mp4"_s)));
+        writeFile(m_media.path(u"out.m4v"_s), "older");
+    }
+
+    void leavesTheOlderFile_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QByteArray>("words");
+        QTest::newRow("missing") << u"none.mp4"_s << "No such file or directory"_ba;
+        QTest::newRow("folder") << u"."_s << "Is a directory"_ba;
+        QTest::newRow("fifo") << u"fifo.mp4"_s << "Not a regular file"_ba;
+        QTest::newRow("empty") << u"empty.avi"_s << "Not a readable video"_ba;
+        QTest::newRow("no media") << u"text.avi"_s << "Not a readable video"_ba;
+        QTest::newRow("still picture") << u"picture.mp4"_s << "Not a readable video"_ba;
+        QTest::newRow("playlist") << u"playlist.avi"_s << "Not a readable video"_ba;
+        QTest::newRow("list of files") << u"list.mp4"_s << "Not a readable video"_ba;
+        QTest::newRow("half an mp4") << u"half.mp4"_s << "Not a readable video"_ba;
+        QTest::newRow("half an mp4, index first") << u"halfearly.mp4"_s << "ends in the middle"_ba;
+        QTest::newRow("half an avi") << u"half.avi"_s << "ends in the middle"_ba;
+    }
+    void leavesTheOlderFile()
+    {
+        QFETCH(QString, source);
+        QFETCH(QByteArray, words);
+        for (const QString &preset : {u"Preset640x480"_s, u"PresetPassthrough"_s}) {
+            checkRefused(preset, m_media.path(source), m_media.path(u"out.m4v"_s), words);
+            QCOMPARE(contentOf(m_media.path(u"out.m4v"_s)), "older");
+        }
+    }
+
+    void refusesTheSourceAsOutput_data()
+    {
+        QTest::addColumn<QString>("output");
+        QTest::newRow("same name") << u"good.mp4"_s;
+        QTest::newRow("hard link") << u"hard.mp4"_s;
+        QTest::newRow("symbolic link") << u"soft.mp4"_s;
+        QTest::newRow("detour") << u"../%1/good.mp4"_s.arg(
+            QFileInfo(m_media.path(u"x"_s)).dir().dirName());
+    }
+    void refusesTheSourceAsOutput()
+    {
+        QFETCH(QString, output);
+        const QByteArray before = contentOf(m_media.path(u"good.mp4"_s));
+        checkRefused(u"Preset640x480"_s, m_media.path(u"good.mp4"_s), m_media.path(output),
+                     "Source and output are the same file");
+        QVERIFY(contentOf(m_media.path(u"good.mp4"_s)) == before);
+    }
+
+    void refusesTheOutput()
+    {
+        const QString source = m_media.path(u"good.mp4"_s);
+        checkRefused(u"Preset640x480"_s, source, m_media.path(u"none/out.m4v"_s), "No such file");
+        checkRefused(u"Preset640x480"_s, source, m_media.path(QString()), "Is a directory");
+        checkRefused(u"Preset640x480"_s, source, QString(), "No such file");
+        if (::geteuid() == 0)
+            QSKIP("nothing is closed to the superuser");
+        QCOMPARE(::mkdir(qPrintable(m_media.path(u"closed"_s)), 0500), 0);
+        checkRefused(u"Preset640x480"_s, source, m_media.path(u"closed/out.m4v"_s),
+                     "Permission denied");
+    }
+
+    void readsOnlyTheSource_data()
+    {
+        QTest::addColumn<QString>("source");
+        QTest::newRow("playlist") << u"playlist.avi"_s;
+        QTest::newRow("list of files") << u"list.mp4"_s;
+    }
+    // The file that the list names is replaced by a fifo: opening it would wait, and so be seen.
+    void readsOnlyTheSource()
+    {
+        QFETCH(QString, source);
+        const QString named = m_media.path(u"good.mp4"_s);
+        QVERIFY(QFile::rename(named, named + u".aside"_s));
+        QCOMPARE(::mkfifo(qPrintable(named), 0600), 0);
+        const RunResult result =
+            convert(u"Preset640x480"_s, m_media.path(source), m_media.path(u"out.m4v"_s));
+        QCOMPARE(result.status, 1);
+        QVERIFY(QFile::remove(named));
+        QVERIFY(QFile::rename(named + u".aside"_s, named));
+    }
+
+    void takesExactlyItsArguments()
+    {
+        const QList<QStringList> wrong{
+            {},
+            {u"--preset"_s},
+            {u"--preset"_s, u"Preset640x480"_s, u"--source"_s, u"a"_s, u"--output"_s, u"b"_s},
+            {u"--source"_s, u"a"_s, u"--preset"_s, u"Preset640x480"_s, u"--output"_s, u"b"_s,
+             u"-q"_s},
+            {u"--preset"_s, u"Preset640x480"_s, u"--source"_s, u"a"_s, u"--output"_s, u"b"_s,
+             u"-q"_s, u"-q"_s}};
+        for (const QStringList &arguments : wrong) {
+            const RunResult result = runStandin(u"avconvert"_s, arguments);
+            QCOMPARE(result.status, 64);
+            QCOMPARE(result.errorLines().size(), 1);
+            QVERIFY(result.errors.startsWith("usage: avconvert "));
+        }
+    }
+
+private:
+    void checkRefused(const QString &preset, const QString &source, const QString &output,
+                      const QByteArray &words)
+    {
+        const QStringList before = m_media.names();
+        const RunResult result = convert(preset, source, output);
+        QCOMPARE(result.status, 1);
+        QVERIFY2(result.errors.contains(words), result.errors.constData());
+        QVERIFY(result.errors.startsWith("avconvert: "));
+        QCOMPARE(result.errorLines().size(), 1);
+        QCOMPARE(m_media.names(), before);
+    }
+
+    SampleMedia m_media;
+};
+
+QTEST_GUILESS_MAIN(TestRefusals)
+#include "tst_refusals.moc"

@@ -1,0 +1,94 @@
+#include "StandinRun.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+QList<QByteArray> RunResult::errorLines() const
+{
+    QList<QByteArray> lines = errors.split('\n');
+    lines.removeAll(QByteArray());
+    return lines;
+}
+
+QString standinPath(const QString &name)
+{
+    return u"" TOOLVANE_BUILD_DIR "/libexec/toolvane/"_s + name;
+}
+
+QProcessEnvironment plainEnvironment()
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(u"LD_PRELOAD"_s);
+    return environment;
+}
+
+RunResult runProgram(const QString &program, const QStringList &arguments,
+                     const QProcessEnvironment &environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.start(program, arguments);
+    const bool ended =
+        process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
+    const QByteArray reason = ended ? QByteArray() : process.errorString().toUtf8();
+    return {ended ? process.exitCode() : -1, process.readAllStandardOutput(),
+            process.readAllStandardError() + reason};
+}
+
+RunResult runStandin(const QString &name, const QStringList &arguments,
+                     const QProcessEnvironment &environment)
+{
+    return runProgram(standinPath(name), arguments, environment);
+}
+
+RunResult runOnSmallDisk(const QString &folder, int kibibytes, const QString &shellCommand,
+                         const QStringList &arguments)
+{
+    const QString mount =
+        u"mount -t tmpfs -o size=%1k tmpfs \"$0\" 2>/dev/null || exit 77\n"_s.arg(kibibytes);
+    return runProgram(u"unshare"_s,
+                      QStringList{u"--user"_s, u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s,
+                                  mount + shellCommand, folder}
+                          + arguments);
+}
+
+QStringList entriesOf(const QDir &folder)
+{
+    return QDir(folder.path())
+        .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                   QDir::Name);
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        qWarning("cannot write %s", qPrintable(path));
+}
+
+QList<int> childrenOf(qint64 process)
+{
+    QList<int> children;
+    const QByteArray list = contentOf(u"/proc/%1/task/%1/children"_s.arg(process));
+    for (const QByteArray &number : list.simplified().split(' ')) {
+        if (!number.isEmpty())
+            children << number.toInt();
+    }
+    return children;
+}
+
+// A process that was killed and waits to be reaped does not run any more.
+bool isRunning(int process)
+{
+    const QByteArray line = contentOf(u"/proc/%1/stat"_s.arg(process));
+    const char state = line.mid(line.lastIndexOf(')') + 2, 1).toStdString().c_str()[0];
+    return state != '\0' && state != 'Z' && state != 'X';
+}

@@ -1,0 +1,190 @@
+// Proves that an output file takes its name only when it is complete, and that an older file of
+// that name outlives everything else: a failure, an ending signal, a kill.
+#include "EndOnSignal.h"
+#include "Failure.h"
+#include "OutputFile.h"
+#include "StandinRun.h"
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+
+using namespace Qt::StringLiterals;
+using standin::OutputFile;
+
+namespace
+{
+
+void writeHalf(OutputFile &file)
+{
+    file.write("half", 4);
+}
+
+// Runs the work in a process of its own; what it ended with as a shell shows it.
+int statusOfFork(const std::function<void()> &work)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        standin::installEndOnSignal();
+        work();
+        ::_exit(0);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFSIGNALED(status) ? 1000 + WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+} // namespace
+
+class TestOutputFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_dir = std::make_unique<QTemporaryDir>();
+        m_target = m_dir->filePath(u"out"_s);
+    }
+
+    void replacesOnlyOnCommit_data() { addKinds(); }
+    void replacesOnlyOnCommit()
+    {
+        QFETCH(OutputFile::Temporary, kind);
+        writeFile(m_target, "older");
+        {
+            OutputFile file(m_target.toStdString(), kind);
+            file.write("newer", 5);
+            QCOMPARE(contentOf(m_target), "older");
+            file.commit();
+        }
+        QCOMPARE(contentOf(m_target), "newer");
+        QCOMPARE(entriesOf(m_dir->path()), QStringList{u"out"_s});
+    }
+
+    void leavesNothingWithoutCommit_data() { addKinds(); }
+    void leavesNothingWithoutCommit()
+    {
+        QFETCH(OutputFile::Temporary, kind);
+        {
+            OutputFile file(m_target.toStdString(), kind);
+            writeHalf(file);
+        }
+        QVERIFY(entriesOf(m_dir->path()).isEmpty());
+    }
+
+    void leavesNothingWhenEnded_data()
+    {
+        QTest::addColumn<int>("signal");
+        QTest::addColumn<int>("status");
+        QTest::newRow("TERM") << SIGTERM << 143;
+        QTest::newRow("INT") << SIGINT << 130;
+        QTest::newRow("HUP") << SIGHUP << 129;
+    }
+    void leavesNothingWhenEnded()
+    {
+        QFETCH(int, signal);
+        writeFile(m_target, "older");
+        const int status = statusOfFork([&] {
+            OutputFile file(m_target.toStdString(), OutputFile::Temporary::Named);
+            writeHalf(file);
+            ::raise(signal);
+        });
+        QTEST(status, "status");
+        QCOMPARE(entriesOf(m_dir->path()), QStringList{u"out"_s});
+        QCOMPARE(contentOf(m_target), "older");
+    }
+
+    void leavesNothingWhenKilled()
+    {
+        const int status = statusOfFork([&] {
+            OutputFile file(m_target.toStdString());
+            if (!file.temporaryPath().empty())
+                ::_exit(77);
+            writeHalf(file);
+            ::raise(SIGKILL);
+        });
+        if (status == 77)
+            QSKIP("no files without a name on this file system");
+        QCOMPARE(status, 1000 + SIGKILL);
+        QVERIFY(entriesOf(m_dir->path()).isEmpty());
+    }
+
+    void givesTheModeOfNewFiles_data() { addKinds(); }
+    void givesTheModeOfNewFiles()
+    {
+        QFETCH(OutputFile::Temporary, kind);
+        const mode_t before = ::umask(027);
+        OutputFile(m_target.toStdString(), kind).commit();
+        ::umask(before);
+        struct stat status;
+        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
+        QCOMPARE(status.st_mode & 07777, 0640U);
+    }
+
+    void writesThroughLink()
+    {
+        writeFile(m_dir->filePath(u"real"_s), "older");
+        QVERIFY(QFile::link(u"real"_s, m_target));
+        OutputFile file(m_target.toStdString());
+        file.write("newer", 5);
+        file.commit();
+        QVERIFY(QFileInfo(m_target).isSymLink());
+        QCOMPARE(contentOf(m_dir->filePath(u"real"_s)), "newer");
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QByteArray>("reason");
+        QTest::newRow("no name") << QString() << "(no name): No such file or directory"_ba;
+        QTest::newRow("folder") << u"."_s << "Is a directory"_ba;
+        QTest::newRow("slash at the end") << u"new/"_s << "Is a directory"_ba;
+        QTest::newRow("no folder") << u"none/out"_s << "none: No such file or directory"_ba;
+        QTest::newRow("file as folder") << u"file/out"_s << "Not a directory"_ba;
+        QTest::newRow("fifo") << u"fifo"_s << "Not a regular file"_ba;
+        if (::geteuid() != 0) {
+            QTest::newRow("protected file") << u"protected"_s << "Permission denied"_ba;
+            QTest::newRow("protected folder") << u"closed/out"_s << "Permission denied"_ba;
+        }
+    }
+    void refuses()
+    {
+        QFETCH(QString, path);
+        QFETCH(QByteArray, reason);
+        QCOMPARE(::mkfifo(qPrintable(m_dir->filePath(u"fifo"_s)), 0600), 0);
+        writeFile(m_dir->filePath(u"file"_s), "older");
+        writeFile(m_dir->filePath(u"protected"_s), "older");
+        QVERIFY(QFile::setPermissions(m_dir->filePath(u"protected"_s), QFile::ReadOwner));
+        QCOMPARE(::mkdir(qPrintable(m_dir->filePath(u"closed"_s)), 0500), 0);
+        const QStringList before = entriesOf(m_dir->path());
+        try {
+            OutputFile file(path.isEmpty() ? std::string() : m_dir->filePath(path).toStdString());
+            QFAIL("was opened");
+        } catch (const standin::Failure &failure) {
+            QVERIFY2(QByteArray(failure.what()).endsWith(reason), failure.what());
+            QCOMPARE(failure.status, standin::Failed);
+        }
+        QCOMPARE(entriesOf(m_dir->path()), before);
+    }
+
+private:
+    static void addKinds()
+    {
+        QTest::addColumn<OutputFile::Temporary>("kind");
+        QTest::newRow("without a name") << OutputFile::Temporary::NamelessIfPossible;
+        QTest::newRow("with a name") << OutputFile::Temporary::Named;
+    }
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    QString m_target;
+};
+
+QTEST_GUILESS_MAIN(TestOutputFile)
+#include "tst_outputfile.moc"

@@ -1,0 +1,217 @@
+// Proves that a folder reaches the file manager, on the bus or else by xdg-open, and that the
+// status says whether it did.
+#include "StandinRun.h"
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+// A file manager that writes down what it is asked.
+class RecordingFileManager : public QObject, protected QDBusContext
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.FileManager1")
+
+public:
+    QStringList shown;
+    bool refuses = false;
+
+public Q_SLOTS:
+    void ShowFolders(const QStringList &addresses, const QString &)
+    {
+        shown << addresses;
+        if (refuses)
+            sendErrorReply(QDBusError::Failed, u"refused"_s);
+    }
+};
+
+class TestOpen : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "writes into the home folder");
+        m_bus.start(u"dbus-daemon"_s,
+                    {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
+                     u"--address=unix:dir="_s + m_dir.path()});
+        QVERIFY(m_bus.waitForReadyRead(10000));
+        m_address = QString::fromUtf8(m_bus.readLine()).trimmed();
+        QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"test"_s);
+        QVERIFY(bus.isConnected());
+        QVERIFY(bus.registerObject(u"/org/freedesktop/FileManager1"_s, &m_manager,
+                                   QDBusConnection::ExportAllSlots));
+    }
+
+    void cleanupTestCase()
+    {
+        QDBusConnection::disconnectFromBus(u"test"_s);
+        m_bus.terminate();
+        m_bus.waitForFinished();
+    }
+
+    void init()
+    {
+        m_manager.shown.clear();
+        m_manager.refuses = false;
+    }
+
+    void showsFolder_data()
+    {
+        QTest::addColumn<QString>("path"); // below the test's folder
+        QTest::addColumn<QString>("shown");
+        QTest::newRow("folder") << u"plain"_s << u"plain"_s;
+        QTest::newRow("slash at the end") << u"plain/"_s << u"plain/"_s;
+        QTest::newRow("file") << u"plain/file"_s << u"plain"_s;
+        QTest::newRow("characters that part addresses")
+            << u"a, b#c?d%41;e"_s << u"a%2C%20b%23c%3Fd%2541%3Be"_s;
+        QTest::newRow("other letters") << u"Z\u00fcrich"_s << u"Z%C3%BCrich"_s;
+    }
+    void showsFolder()
+    {
+        QFETCH(QString, path);
+        QFETCH(QString, shown);
+        offerFileManager();
+        QVERIFY(QDir(m_dir.path()).mkpath(path.section(u'/', 0, 0)));
+        writeFile(m_dir.filePath(u"plain/file"_s), {});
+        const RunResult result = open({u"-a"_s, u"Finder"_s, m_dir.filePath(path)});
+        QVERIFY2(result.status == 0, result.errors.constData());
+        QCOMPARE(result.output + result.errors, QByteArray());
+        QCOMPARE(m_manager.shown, QStringList{u"file://"_s + m_dir.filePath(shown)});
+    }
+
+    void saysWhenNothingShowsIt()
+    {
+        offerFileManager();
+        m_manager.refuses = true;
+        const RunResult refused = open({u"-a"_s, u"Finder"_s, m_dir.path()});
+        QCOMPARE(refused.status, 1);
+        QCOMPARE(refused.errorLines().size(), 1);
+        QVERIFY2(refused.errors.contains("refused"), refused.errors.constData());
+
+        withdrawFileManager();
+        QCOMPARE(open({u"-a"_s, u"Finder"_s, m_dir.path()}).status, 1);
+        QCOMPARE(m_manager.shown.size(), 1);
+    }
+
+    void fallsBackToOpener_data()
+    {
+        QTest::addColumn<QByteArray>("script");
+        QTest::addColumn<int>("status");
+        const QByteArray record = "echo \"$1\" > \"$HOME/opened\"; ";
+        QTest::newRow("opened") << record + "exit 0" << 0;
+        QTest::newRow("failed") << record + "exit 4" << 1;
+        QTest::newRow("stays") << record + "echo $$ > \"$HOME/number\"; exec sleep 60" << 0;
+    }
+    // xdg-open on a desktop that it does not know starts the application that is registered for
+    // folders.
+    void fallsBackToOpener()
+    {
+        QFETCH(QByteArray, script);
+        withdrawFileManager();
+        registerApplication(script);
+        QProcessEnvironment environment = onBus();
+        environment.insert(u"DISPLAY"_s, u":250"_s);
+        const RunResult result = open({u"-a"_s, u"Finder"_s, m_dir.path()}, environment);
+        QTEST(result.status, "status");
+        const QByteArray opened = contentOf(QDir::homePath() + u"/opened"_s).trimmed();
+        QVERIFY2(opened.endsWith(m_dir.path().toUtf8()), opened.constData());
+        if (const int number = contentOf(QDir::homePath() + u"/number"_s).trimmed().toInt()) {
+            QVERIFY(isRunning(number));
+            ::kill(number, SIGKILL);
+        }
+    }
+
+    void refuses_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QByteArray>("line");
+        QTest::newRow("empty") << QStringList{u"-a"_s, u"Finder"_s, QString()} << 1
+                               << "open: The file  does not exist.\n"_ba;
+        QTest::newRow("missing") << QStringList{u"-a"_s, u"Finder"_s, u"/none"_s} << 1
+                                 << "open: The file /none does not exist.\n"_ba;
+        const QByteArray usage = "usage: open -a Finder FOLDER\n";
+        QTest::newRow("nothing") << QStringList{} << 64 << usage;
+        QTest::newRow("no folder") << QStringList{u"-a"_s, u"Finder"_s} << 64 << usage;
+        QTest::newRow("other application")
+            << QStringList{u"-a"_s, u"Mail"_s, u"/"_s} << 64 << usage;
+        QTest::newRow("more") << QStringList{u"-a"_s, u"Finder"_s, u"/"_s, u"/"_s} << 64 << usage;
+    }
+    void refuses()
+    {
+        QFETCH(QStringList, arguments);
+        const RunResult result = open(arguments);
+        QTEST(result.status, "status");
+        QTEST(result.errors, "line");
+        QCOMPARE(m_manager.shown, QStringList());
+    }
+
+private:
+    QProcessEnvironment onBus() const
+    {
+        QProcessEnvironment environment = plainEnvironment();
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_address);
+        environment.remove(u"DISPLAY"_s);
+        environment.remove(u"WAYLAND_DISPLAY"_s);
+        return environment;
+    }
+
+    RunResult open(const QStringList &arguments) const { return open(arguments, onBus()); }
+
+    // The event loop runs meanwhile, as the file manager lives in this process.
+    static RunResult open(const QStringList &arguments, const QProcessEnvironment &environment)
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        QSignalSpy finished(&process, &QProcess::finished);
+        process.start(standinPath(u"open"_s), arguments);
+        if (!finished.wait(30000))
+            return {};
+        return {process.exitCode(), process.readAllStandardOutput(),
+                process.readAllStandardError()};
+    }
+
+    static void offerFileManager()
+    {
+        QVERIFY(QDBusConnection(u"test"_s).registerService(u"org.freedesktop.FileManager1"_s));
+    }
+
+    static void withdrawFileManager()
+    {
+        QDBusConnection(u"test"_s).unregisterService(u"org.freedesktop.FileManager1"_s);
+    }
+
+    static void registerApplication(const QByteArray &script)
+    {
+        const QDir home = QDir::home();
+        QVERIFY(home.mkpath(u".local/share/applications"_s));
+        QVERIFY(home.mkpath(u".config"_s));
+        const QString program = home.filePath(u"folders.sh"_s);
+        writeFile(program, "#!/bin/sh\n" + script + "\n");
+        QCOMPARE(::chmod(qPrintable(program), 0700), 0);
+        writeFile(
+            home.filePath(u".local/share/applications/folders.desktop"_s),
+            "[Desktop Entry]\nType=Application\nName=Folders\nMimeType=inode/directory;\nExec="
+                + program.toUtf8() + " %u\n");
+        writeFile(home.filePath(u".config/mimeapps.list"_s),
+                  "[Default Applications]\ninode/directory=folders.desktop\n");
+    }
+
+    QTemporaryDir m_dir;
+    QProcess m_bus;
+    QString m_address;
+    RecordingFileManager m_manager;
+};
+
+QTEST_GUILESS_MAIN(TestOpen)
+#include "tst_open.moc"
