@@ -1,0 +1,96 @@
+#include "BLGeneral.h"
+
+#include "DBSession.h"
+#include "MiscTool.h"
+#include "SchemaReflect.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+bool isWebService()
+{
+    return DB::getDBType() == "webservice"_L1;
+}
+
+bool runs(const QString &sql)
+{
+    return DB::exec(sql) == 0;
+}
+
+QString tableOf(RecordView record)
+{
+    const QString name = record.className().section("::"_L1, -1);
+    const qsizetype end = name.indexOf("Schema"_L1);
+    Q_ASSERT_X(end > 0, "BLGeneral", "a record class is named after its table: <Table>Schema");
+    return name.first(std::max<qsizetype>(end, 0));
+}
+
+} // namespace
+
+BLGeneral::BLGeneral(const QString &table) : tableName(table)
+{
+    initTable();
+}
+
+BLGeneral::BLGeneral(RecordView record) : tableName(tableOf(record))
+{
+    if (initTable() && !isWebService() && !insert(record))
+        MiscTool::printMsg(u"BLGeneral"_s, u"initWithSchema"_s, u"failed"_s);
+}
+
+bool BLGeneral::initTable()
+{
+    if (isWebService())
+        return true;
+    const DBScope open;
+    if (!runs(SchemaReflect::getCreateTableSQL(tableName)))
+        return false;
+    const QString type = DB::getDBType();
+    if (type == "sqlite3"_L1)
+        return runs(SchemaReflect::getCreateIndexSQL(tableName));
+    return type == "mysql"_L1; // its indexes are made with the table
+}
+
+bool BLGeneral::insert(RecordView record)
+{
+    if (isWebService())
+        return execHTTP(record) == 0;
+    const DBScope open;
+    return runs(SchemaReflect::getFullInsertStatement(tableName, record));
+}
+
+bool BLGeneral::update(RecordView record)
+{
+    if (isWebService())
+        return execHTTP(record) == 0;
+    const DBScope open;
+    return runs(SchemaReflect::getFullUpdateStatement(tableName, record));
+}
+
+bool BLGeneral::delete_(QAnyStringView whereClause)
+{
+    if (isWebService())
+        return deleteHTTP(whereClause) == 0;
+    const DBScope open;
+    return runs(SchemaReflect::getDeleteStatementIncludeWhere(tableName, whereClause.toString()));
+}
+
+bool BLGeneral::selectInto(QAnyStringView whereClause, RecordList records,
+                           const std::optional<RecordPage> &page)
+{
+    if (isWebService()) {
+        if (page)
+            selectHTTP(whereClause, records, page->from, page->stepLength);
+        else
+            selectHTTP(whereClause, records);
+        return true;
+    }
+    const DBScope open;
+    return DB::selectInto(
+        SchemaReflect::getSelectStatementIncludeWhere(tableName, whereClause.toString()), records,
+        page);
+}

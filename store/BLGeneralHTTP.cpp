@@ -1,0 +1,71 @@
+// The web-service form of BLGeneral. Every request is a POST; what is percent-escaped differs from
+// request to request, and the services rely on it.
+
+#include "BLGeneral.h"
+#include "Http.h"
+#include "LeadingNumber.h"
+#include "MiscTool.h"
+#include "SchemaReflect.h"
+#include "SelectReply.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// Empty unless the reply came whole. Its status is not looked at, the services say theirs in the
+/// body.
+QByteArray post(const QString &address, const QList<QByteArray> &headers, QByteArrayView body)
+{
+    const HttpRequest request{address.toUtf8(), headers, DB::webServiceLimits()};
+    return httpPost(request, body).body;
+}
+
+int integerValue(const QVariant &value)
+{
+    return value.metaType() == QMetaType::fromType<QString>()
+        ? leadingInteger(value.toString().toUtf8())
+        : value.toInt();
+}
+
+} // namespace
+
+QString BLGeneral::getWebServiceURL() const
+{
+    return DB::getWebServiceURL().value_or(QString()) + tableName;
+}
+
+int BLGeneral::execHTTP(RecordView record) const
+{
+    const bool hasKey = integerValue(SchemaReflect::getValue(record, 0)) != 0;
+    const QString operation = hasKey ? u"UPDATE"_s : u"INSERT"_s;
+    const QString address = getWebServiceURL() + "?OPERATION="_L1 + operation;
+    const QString json = SchemaReflect::toJSON(record);
+    // As many bytes as the text has UTF-16 units, also where its UTF-8 form is longer. The
+    // Content-Length that goes with it is written by httpPost.
+    const QByteArray body = json.toUtf8().left(json.size());
+    return leadingInteger(post(MiscTool::encode2UTF8(address),
+                               {"Accept: application/json", "Content-Type: application/json"},
+                               body));
+}
+
+int BLGeneral::deleteHTTP(QAnyStringView whereClause) const
+{
+    const QString query = "?OPERATION=DELETE&CLAUSE="_L1 + whereClause.toString();
+    return leadingInteger(post(getWebServiceURL() + MiscTool::encode2UTF8(query), {}, {}));
+}
+
+void BLGeneral::selectHTTP(QAnyStringView whereClause, RecordList records) const
+{
+    const QString address =
+        getWebServiceURL() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
+    appendSelectReply(post(MiscTool::encode2UTF8(address), {}, {}), records);
+}
+
+void BLGeneral::selectHTTP(QAnyStringView whereClause, RecordList records, int from,
+                           int stepLength) const
+{
+    const QString clause = whereClause.toString() + "&FROM="_L1 + QString::number(from)
+        + "&STEP="_L1 + QString::number(stepLength);
+    selectHTTP(clause, records);
+}

@@ -1,0 +1,110 @@
+#pragma once
+
+#include <QList>
+#include <QMetaProperty>
+
+#include <concepts>
+
+/// A record class is a plain value type with Q_GADGET whose own properties, in the order in which
+/// they are declared, are the columns of one table: property 0 is the integer key `ID`. Nothing
+/// else is asked of it; `Q_PROPERTY(int ID MEMBER ID)` with a public member is the shortest form.
+/// Properties of a base class do not count.
+template <class T>
+concept RecordClass = std::default_initializable<T> && std::same_as<
+    std::remove_cvref_t<decltype(T::staticMetaObject)>, QMetaObject>;
+
+/// How the values of a property are written and read: `int`, `double` and `QString`. Properties of
+/// any other type are not mapped to columns.
+enum class PropertyType { Integer, Double, Text, Other };
+
+/// What reading and writing need to know of a property.
+struct RecordColumn {
+    QLatin1String name;
+    PropertyType type;
+};
+
+/// The own properties of a record class, in their order.
+QList<RecordColumn> recordColumns(const QMetaObject &recordClass);
+
+// What works on records is no template: the three classes below carry a record's class along with
+// its address. They refer to the caller's record or list, which must outlive them.
+
+/// A record that is read.
+class RecordView
+{
+public:
+    template <RecordClass T>
+    RecordView(const T &record) : RecordView(&T::staticMetaObject, &record)
+    {
+    }
+    RecordView(const QMetaObject *recordClass, const void *record)
+        : m_class(recordClass), m_record(record)
+    {
+    }
+
+    int count() const { return m_class->propertyCount() - m_class->propertyOffset(); }
+    /// An invalid property for a position past the end.
+    QMetaProperty property(int index) const
+    {
+        return m_class->property(m_class->propertyOffset() + index);
+    }
+    QVariant value(int index) const;
+    QVariant value(const QString &name) const; ///< Invalid where there is no such property.
+    QString className() const { return QString::fromLatin1(m_class->className()); }
+
+private:
+    const QMetaObject *m_class;
+    const void *m_record;
+};
+
+/// A record that is filled. The setters want the property's own type.
+class RecordWriter
+{
+public:
+    template <RecordClass T>
+    explicit RecordWriter(T &record) : RecordWriter(&T::staticMetaObject, &record)
+    {
+    }
+    RecordWriter(const QMetaObject *recordClass, void *record)
+        : m_class(recordClass), m_record(record)
+    {
+    }
+
+    const QMetaObject &recordClass() const { return *m_class; }
+    void setInteger(int index, int value) { set(index, &value); }
+    void setDouble(int index, double value) { set(index, &value); }
+    void setText(int index, QString value);
+    /// Any property, through conversion of the value; one that cannot be converted changes nothing.
+    void setOther(int index, const QVariant &value);
+
+private:
+    void set(int index, void *value);
+
+    const QMetaObject *m_class;
+    void *m_record;
+};
+
+/// A list that takes records; it stands for the caller's prototype as well.
+class RecordList
+{
+public:
+    template <RecordClass T>
+    explicit RecordList(QList<T> &records)
+        : m_class(&T::staticMetaObject), m_records(&records), m_append(&appendTo<T>)
+    {
+    }
+
+    RecordWriter append() { return {m_class, m_append(m_records)}; }
+    const QMetaObject &recordClass() const { return *m_class; }
+
+private:
+    template <RecordClass T>
+    static void *appendTo(void *records)
+    {
+        return &static_cast<QList<T> *>(records)->emplaceBack();
+    }
+
+    const QMetaObject *m_class;
+    void *m_records;
+    void *(*m_append)(void *records);
+};

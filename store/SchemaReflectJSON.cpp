@@ -1,0 +1,101 @@
+// The part of SchemaReflect that reads JSON.
+
+#include "LeadingNumber.h"
+#include "SchemaReflect.h"
+
+#include <simdjson.h>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+using simdjson::dom::element;
+
+namespace
+{
+
+QByteArrayView bytes(std::string_view text)
+{
+    return {text.data(), qsizetype(text.size())};
+}
+
+// A value of another kind reads as 0 or leaves a text missing.
+
+int toInteger(const element &value)
+{
+    std::string_view text;
+    if (value.get(text) == simdjson::SUCCESS)
+        return leadingInteger(bytes(text));
+    double number = 0;
+    if (value.get(number) != simdjson::SUCCESS)
+        return 0;
+    using Range = std::numeric_limits<int>;
+    return int(std::clamp(std::trunc(number), double(Range::min()), double(Range::max())));
+}
+
+double toDouble(const element &value)
+{
+    std::string_view text;
+    if (value.get(text) == simdjson::SUCCESS)
+        return leadingDouble(bytes(text));
+    double number = 0;
+    return value.get(number) == simdjson::SUCCESS ? number : 0;
+}
+
+QVariant toVariant(const element &value)
+{
+    switch (value.type()) {
+    case simdjson::dom::element_type::STRING:
+        return QString::fromUtf8(bytes(value.get_string().value_unsafe()));
+    case simdjson::dom::element_type::INT64:
+        return qint64(value.get_int64().value_unsafe());
+    case simdjson::dom::element_type::UINT64:
+        return quint64(value.get_uint64().value_unsafe());
+    case simdjson::dom::element_type::DOUBLE:
+        return value.get_double().value_unsafe();
+    case simdjson::dom::element_type::BOOL:
+        return value.get_bool().value_unsafe();
+    default:
+        return {};
+    }
+}
+
+QString toText(const element &value)
+{
+    std::string_view text;
+    if (value.get(text) == simdjson::SUCCESS)
+        return QString::fromUtf8(bytes(text));
+    return value.is_number() ? toVariant(value).toString() : QString();
+}
+
+void setProperty(RecordWriter record, int index, PropertyType type, const element &value)
+{
+    switch (type) {
+    case PropertyType::Integer:
+        return record.setInteger(index, toInteger(value));
+    case PropertyType::Double:
+        return record.setDouble(index, toDouble(value));
+    case PropertyType::Text:
+        return record.setText(index, toText(value));
+    case PropertyType::Other:
+        return record.setOther(index, toVariant(value));
+    }
+}
+
+} // namespace
+
+void SchemaReflect::convertFromJSON(const simdjson::dom::object &object, RecordWriter record)
+{
+    convertFromJSON(object, recordColumns(record.recordClass()), record);
+}
+
+void SchemaReflect::convertFromJSON(const simdjson::dom::object &object,
+                                    const QList<RecordColumn> &columns, RecordWriter record)
+{
+    for (const auto &[name, value] : object) {
+        for (int i = 0; i < columns.size(); ++i) {
+            if (columns[i].name == QLatin1String(name.data(), qsizetype(name.size())))
+                setProperty(record, i, columns[i].type, value);
+        }
+    }
+}

@@ -1,0 +1,190 @@
+// Proves that a database file which cannot be used makes every operation fail as an operation with
+// an error, and stays as it was.
+
+#include "BLGeneral.h"
+#include "DB.h"
+#include "DBSession.h"
+#include "LogLines.h"
+#include "SampleRecords.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTest>
+
+#include <linux/capability.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QByteArray contents()
+{
+    QFile file(DB::dbFilePath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+void write(const QByteArray &bytes)
+{
+    QFile file(DB::dbFilePath());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(bytes), bytes.size());
+}
+
+QByteArray noise(qsizetype size)
+{
+    QByteArray bytes(size, Qt::Uninitialized);
+    quint32 state = 1;
+    for (char &byte : bytes) {
+        state = state * 1664525 + 1013904223;
+        byte = char(state >> 24);
+    }
+    return bytes;
+}
+
+/// Takes root's right to write what the modes forbid; for other users it changes nothing.
+class ObeysModes
+{
+public:
+    ObeysModes() { set(m_before.effective & ~(1U << CAP_DAC_OVERRIDE)); }
+    ~ObeysModes() { set(m_before.effective); }
+    Q_DISABLE_COPY_MOVE(ObeysModes)
+
+private:
+    using Sets = std::array<__user_cap_data_struct, 2>;
+    static Sets get()
+    {
+        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+        Sets sets{};
+        syscall(SYS_capget, &header, sets.data());
+        return sets;
+    }
+    void set(quint32 effective)
+    {
+        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+        Sets sets = get();
+        sets[0].effective = effective;
+        syscall(SYS_capset, &header, sets.data());
+    }
+    const __user_cap_data_struct m_before = get()[0];
+};
+
+/// Each write says no and logs one line; the select says none, with a line.
+void allOperationsFail(BLGeneral &gateway)
+{
+    LogLines::take();
+    QVERIFY(!gateway.initTable());
+    QVERIFY(!gateway.insert(PriceSchema{0, u"b"_s, 2}));
+    QVERIFY(!gateway.update(PriceSchema{1, u"c"_s, 3}));
+    QVERIFY(!gateway.delete_("1=1"));
+    const QStringList lines = LogLines::take();
+    QCOMPARE(lines.size(), 4);
+    for (const QString &line : lines)
+        QVERIFY2(line.startsWith("[DB]->(exec):"_L1), qPrintable(line));
+    QVERIFY(!gateway.select("1=1", PriceSchema{}));
+    QVERIFY(!gateway.select("1=1", PriceSchema{}, 0, 3));
+    QCOMPARE(LogLines::take(), QStringList(2, u"[DB]->(select):failed"_s));
+}
+
+} // namespace
+
+class TestBrokenFile : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    /// A table with a few pages of rows, closed.
+    void init()
+    {
+        DB::reset();
+        DBSession::openDB();
+        BLGeneral gateway(u"Price"_s);
+        DB::exec(u"BEGIN"_s);
+        for (int i = 0; i < 300; ++i)
+            QVERIFY(gateway.insert(PriceSchema{0, QString(30, u'n'), 1}));
+        DB::exec(u"COMMIT"_s);
+        DBSession::closeDB();
+        LogLines::keepFromNow();
+    }
+
+    void cleanup()
+    {
+        DB::reset();
+        chmod(QFile::encodeName(DB::dbFilePath()).constData(), 0600);
+        QDir().rmdir(DB::dbFilePath());
+        QFile::remove(DB::dbFilePath());
+    }
+
+    void isAFolder()
+    {
+        QFile::remove(DB::dbFilePath());
+        QVERIFY(QDir().mkdir(DB::dbFilePath()));
+        QCOMPARE(DB::open(), SQLITE_CANTOPEN);
+        QVERIFY(LogLines::take().isEmpty());
+        BLGeneral gateway(u"Price"_s);
+        allOperationsFail(gateway);
+        DBSession::openDB();
+        QVERIFY(DBSession::isDBOpen());
+        allOperationsFail(gateway);
+    }
+
+    void holdsNoise()
+    {
+        write(noise(50'000));
+        const QByteArray before = contents();
+        BLGeneral gateway(u"Price"_s);
+        allOperationsFail(gateway);
+        QVERIFY(DB::getTables().isEmpty());
+        QCOMPARE(contents(), before);
+    }
+
+    void isCutShort()
+    {
+        const QByteArray whole = contents();
+        write(whole.first(whole.size() - 4096));
+        BLGeneral gateway(u"Price"_s);
+        LogLines::take();
+        QVERIFY(!gateway.insert(PriceSchema{0, u"b"_s, 2}));
+        QCOMPARE(LogLines::take(), QStringList{u"[DB]->(exec):database disk image is malformed"_s});
+        // The rows up to the damage are read.
+        const auto records = gateway.select("1=1", PriceSchema{});
+        QVERIFY(!records || records->size() < 300);
+        write(whole.first(2000));
+        allOperationsFail(gateway);
+    }
+
+    void isReadOnly()
+    {
+        const QByteArray before = contents();
+        chmod(QFile::encodeName(DB::dbFilePath()).constData(), 0400);
+        const ObeysModes obeysModes;
+        BLGeneral gateway(u"Price"_s);
+        LogLines::take();
+        QVERIFY(!gateway.insert(PriceSchema{0, u"b"_s, 2}));
+        QCOMPARE(LogLines::take(),
+                 QStringList{u"[DB]->(exec):attempt to write a readonly database"_s});
+        QCOMPARE(gateway.select("1=1", PriceSchema{})->size(), 300);
+        QCOMPARE(contents(), before);
+    }
+
+    void isLockedByAnotherConnection()
+    {
+        sqlite3 *other = nullptr;
+        sqlite3_open16(DB::dbFilePath().utf16(), &other);
+        QCOMPARE(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
+        DBSession::openDB();
+        sqlite3_busy_timeout(DB::getDatabase(), 20);
+        BLGeneral gateway(u"Price"_s);
+        allOperationsFail(gateway);
+        sqlite3_close(other);
+        QVERIFY(gateway.insert(PriceSchema{0, u"b"_s, 2}));
+        QCOMPARE(gateway.select("1=1", PriceSchema{})->size(), 301);
+    }
+};
+
+QTEST_GUILESS_MAIN(TestBrokenFile)
+#include "tst_brokenfile.moc"

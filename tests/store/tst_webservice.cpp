@@ -1,0 +1,218 @@
+// Proves that the web-service form sends the exact requests and reads whatever comes back as the
+// callers expect.
+
+#include "BLGeneral.h"
+#include "ConfiguredWebService.h"
+#include "Http.h"
+#include "HttpPeer.h"
+#include "LogLines.h"
+#include "SampleRecords.h"
+#include "UserSchema.h"
+
+#include <QFile>
+#include <QSettings>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using Connection = HttpPeer::Connection;
+
+Q_DECLARE_METATYPE(HttpPeer::Answer)
+
+namespace
+{
+
+void use(const HttpPeer &peer)
+{
+    DB::open(QString::fromLatin1(peer.address("/api/")));
+    DB::setWebServiceLimits({.time = 1s, .bytes = 100'000});
+}
+
+/// "<method> <path>" of each request.
+QList<QByteArray> requestLines(const HttpPeer &peer)
+{
+    QList<QByteArray> lines;
+    for (const QByteArray &request : peer.requests())
+        lines.append(request.first(request.indexOf(" HTTP/1.1\r\n")));
+    return lines;
+}
+
+} // namespace
+
+class TestWebService : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        for (const char *variable : {"http_proxy", "all_proxy", "ALL_PROXY"})
+            qunsetenv(variable);
+    }
+    void init()
+    {
+        DB::reset();
+        LogLines::keepFromNow();
+    }
+    void cleanup() { QVERIFY2(LogLines::take().isEmpty(), "the web-service form logs nothing"); }
+
+    void writesSendTheRecord()
+    {
+        const HttpPeer peer(HttpPeer::reply("0"));
+        use(peer);
+        BLGeneral gateway(u"User"_s);
+        QVERIFY(peer.requests().isEmpty());
+        QVERIFY(gateway.insert(UserSchema{0, 1, 2, u"alice"_s, u"pw"_s, u"x"_s}));
+        const QByteArray json =
+            R"({"ID":"0","ShopID":"1","UserGroupID":"2","User":"alice","Password":"pw","Memo":"x"})";
+        QCOMPARE(peer.requests(),
+                 QList<QByteArray>{"POST /api/User?OPERATION=INSERT HTTP/1.1\r\nHost: "
+                                   + peer.address({}).mid(7)
+                                   + "\r\nUser-Agent: Toolvane\r\nAccept: application/json\r\n"
+                                     "Content-Type: application/json\r\nContent-Length: "
+                                   + QByteArray::number(json.size()) + "\r\n\r\n" + json});
+    }
+
+    void theKeyChoosesTheOperation()
+    {
+        const HttpPeer peer(HttpPeer::reply("0"));
+        use(peer);
+        BLGeneral gateway(u"T"_s);
+        gateway.insert(PriceSchema{5, {}, 0});
+        gateway.update(PriceSchema{0, {}, 0});
+        gateway.update(KeySchema{u"7 up"_s});
+        gateway.update(KeySchema{u"up"_s});
+        QCOMPARE(
+            requestLines(peer),
+            (QList<QByteArray>{"POST /api/T?OPERATION=UPDATE", "POST /api/T?OPERATION=INSERT",
+                               "POST /api/T?OPERATION=UPDATE", "POST /api/T?OPERATION=INSERT"}));
+    }
+
+    void bodiesAreCutToTheLengthOfTheText()
+    {
+        const HttpPeer peer(HttpPeer::reply("0"));
+        use(peer);
+        BLGeneral gateway(u"T"_s);
+        QVERIFY(gateway.insert(PriceSchema{0, u"é\U0001F600"_s, 0}));
+        // 39 UTF-16 units; UTF-8 takes three bytes more.
+        QVERIFY(peer.requests().value(0).endsWith(
+            "\r\nContent-Length: 39\r\n\r\n{\"ID\":\"0\",\"Name\":\"é😀\",\"Amount\":\"0.0"));
+    }
+
+    void clausesAreEscapedAndDelimitersAreNot()
+    {
+        const HttpPeer peer(HttpPeer::reply("{\"RESULT\":[]}"));
+        use(peer);
+        BLGeneral gateway(u"T"_s);
+        gateway.select("Name='a b'&x=\"%é?/:+<>\"", PriceSchema{});
+        gateway.delete_("Name='a b'&x=\"%é?/:+<>\"");
+        gateway.select("ID=7", PriceSchema{}, -1, 10);
+        gateway.delete_("A='#'");
+        const QByteArray clause = "CLAUSE=Name='a%20b'&x=%22%25%C3%A9?/:+%3C%3E%22";
+        QCOMPARE(requestLines(peer).first(3),
+                 (QList<QByteArray>{"POST /api/T?OPERATION=SELECT&" + clause,
+                                    "POST /api/T?OPERATION=DELETE&" + clause,
+                                    "POST /api/T?OPERATION=SELECT&CLAUSE=ID=7&FROM=-1&STEP=10"}));
+        QVERIFY(peer.requests().at(0).endsWith(
+            "\r\nUser-Agent: Toolvane\r\nContent-Length: 0\r\n\r\n"));
+        QVERIFY(requestLines(peer).at(3).startsWith("POST /api/T?OPERATION=DELETE&CLAUSE=A='"));
+    }
+
+    void onlyTheQueryOfADeletionIsEscaped()
+    {
+        const HttpPeer peer(HttpPeer::reply("1"));
+        use(peer);
+        BLGeneral gateway(u"A B"_s);
+        QVERIFY(!gateway.insert(PriceSchema{}));
+        // An address with a blank is none: nothing is sent, which reads as success.
+        QVERIFY(gateway.delete_("1=1"));
+        QCOMPARE(requestLines(peer), QList<QByteArray>{"POST /api/A%20B?OPERATION=INSERT"});
+    }
+
+    void repliesRead_data()
+    {
+        QTest::addColumn<HttpPeer::Answer>("answer");
+        QTest::addColumn<int>("status");
+        const auto row = [](const char *name, int status, HttpPeer::Answer answer) {
+            QTest::newRow(name) << std::move(answer) << status;
+        };
+        const auto says = [](const QByteArray &reply) {
+            return [reply](Connection &connection) { connection.send(reply); };
+        };
+        row("zero", 0, says(HttpPeer::reply("0")));
+        row("number", 17, says(HttpPeer::reply(" 17 rows")));
+        row("negative", -1, says(HttpPeer::reply("-1")));
+        row("empty", 0, says(HttpPeer::reply("")));
+        row("words", 0, says(HttpPeer::reply("error 5")));
+        row("noise", 0, says(HttpPeer::reply("\xff\xfe\x01")));
+        row("error status", 5, says(HttpPeer::reply("5", "500 Internal Server Error")));
+        row("half", 0, says("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n7"));
+        row("no http", 0, says("7\r\n\r\n"));
+        row("nothing", 0, [](Connection &) {});
+        row("no answer", 0, [](Connection &connection) { connection.hasGoneWithin(10s); });
+        row("slowly", 7, [](Connection &connection) {
+            for (const char byte : HttpPeer::reply("7"))
+                connection.send(QByteArray(1, byte)) && connection.hasGoneWithin(2ms);
+        });
+        row("endless", 0, [](Connection &connection) {
+            connection.send("HTTP/1.1 200 OK\r\n\r\n7");
+            while (connection.send(QByteArray(4096, '7'))) { }
+        });
+    }
+
+    void repliesRead()
+    {
+        QFETCH(HttpPeer::Answer, answer);
+        QFETCH(int, status);
+        const HttpPeer peer(answer);
+        use(peer);
+        BLGeneral gateway(u"T"_s);
+        QCOMPARE(gateway.execHTTP(PriceSchema{}), status);
+        QCOMPARE(gateway.deleteHTTP("1=1"), status);
+        QCOMPARE(peer.requests().size(), 2);
+        const auto records = gateway.select("1=1", PriceSchema{});
+        QVERIFY(records && records->isEmpty());
+    }
+
+    void selectsReadTheRecords()
+    {
+        const HttpPeer peer(
+            HttpPeer::reply(R"({"RESULT":[{"ID":"1","Name":"a","Amount":"1.5"},{"ID":2}]})"));
+        use(peer);
+        BLGeneral gateway(u"Price"_s);
+        const auto records = gateway.select("1=1", PriceSchema{}, 0, 5);
+        QCOMPARE(records->size(), 2);
+        QCOMPARE(records->at(0).Name, u"a"_s);
+        QCOMPARE(records->at(0).Amount, 1.5);
+        QCOMPARE(records->at(1).ID, 2);
+    }
+
+    void noAddressReadsAsSuccess()
+    {
+        BLGeneral gateway(PriceSchema{});
+        QCOMPARE(gateway.getWebServiceURL(), u"Price"_s);
+        QVERIFY(gateway.insert(PriceSchema{}));
+        QVERIFY(gateway.select("1=1", PriceSchema{})->isEmpty());
+        QVERIFY(!QFile::exists(DB::dbFilePath()));
+    }
+
+    void addressAndTimeLimitComeFromTheUserDefaults()
+    {
+        openConfiguredWebService();
+        QVERIFY(!DB::getWebServiceURL());
+        QSettings settings;
+        settings.setValue(u"Addresses/WebService"_s, u"https://service.example/api/"_s);
+        settings.setValue(u"WebService/TimeoutSeconds"_s, 5);
+        openConfiguredWebService();
+        QCOMPARE(DB::getWebServiceURL(), u"https://service.example/api/"_s);
+        QCOMPARE(DB::webServiceLimits().time, 5s);
+        settings.setValue(u"WebService/TimeoutSeconds"_s, 0);
+        DB::reset();
+        openConfiguredWebService();
+        QCOMPARE(DB::webServiceLimits().time, 60s);
+        settings.clear();
+    }
+};
+
+QTEST_GUILESS_MAIN(TestWebService)
+#include "tst_webservice.moc"

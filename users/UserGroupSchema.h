@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+/// A row of the table "UserGroup"; the properties are its columns, in their order. `Name` and
+/// `Memo` are kept percent-escaped.
+class UserGroupSchema
+{
+    Q_GADGET
+    Q_PROPERTY(int ID MEMBER ID)
+    Q_PROPERTY(int ShopID MEMBER ShopID)
+    Q_PROPERTY(QString Name MEMBER Name)
+    Q_PROPERTY(QString Permission MEMBER Permission)
+    Q_PROPERTY(QString Memo MEMBER Memo)
+
+public:
+    int ID = 0;
+    int ShopID = 0;
+    QString Name;
+    QString Permission; ///< The group's rights: codes of two characters, put together.
+    QString Memo;
+};
+Q_DECLARE_TYPEINFO(UserGroupSchema, Q_RELOCATABLE_TYPE);
