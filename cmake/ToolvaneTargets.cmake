@@ -36,6 +36,10 @@ function(toolvane_standin name)
     set_target_properties(standin_${name} PROPERTIES OUTPUT_NAME ${name}
         RUNTIME_OUTPUT_DIRECTORY "${TOOLVANE_LIBEXEC_OUTPUT_DIRECTORY}")
     target_link_libraries(standin_${name} PRIVATE toolvane_settings ${arg_PRIVATE})
+    if(NOT TARGET standins)
+        add_custom_target(standins)
+    endif()
+    add_dependencies(standins standin_${name})
     install(TARGETS standin_${name} DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/toolvane")
 endfunction()
 

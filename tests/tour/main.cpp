@@ -15,6 +15,7 @@
 
 int main(int argc, char *argv[])
 {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
     QApplication qt(argc, argv);
     if (argc != 2 || qEnvironmentVariableIsEmpty("TOOLVANE_TEST_SANDBOX")) {
         std::fprintf(stderr, "usage: tests/support/isolated %s FOLDER\n", argv[0]);
@@ -30,6 +31,12 @@ int main(int argc, char *argv[])
     Tour tour(application, QDir(QString::fromLocal8Bit(argv[1])));
     visitWelcome(tour);
     visitZip(tour);
+    visitUnzip(tour);
+    visitImages(tour);
+    visitVideo(tour);
+    visitSpeech(tour);
+    visitUserCache(tour);
+    visitUpdate(tour);
     std::printf("%s\n", qUtf8Printable(tour.summary()));
     return tour.succeeded() ? 0 : 1;
 }

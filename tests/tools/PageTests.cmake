@@ -1,0 +1,18 @@
+# toolvane_page_test(NAME PAGES page… SOURCES file…)
+# A test of tool pages in a tree of its own, in which a recording program stands
+# for those that the pages run: what a page asks for is seen, and how it ends is chosen.
+set(TOOLVANE_RECORDING_TREE "${CMAKE_BINARY_DIR}/tests/recording")
+foreach(program IN ITEMS hdiutil avconvert say open)
+    configure_file("${CMAKE_CURRENT_LIST_DIR}/RecordingProgram.sh"
+        "${TOOLVANE_RECORDING_TREE}/libexec/toolvane/${program}" COPYONLY)
+endforeach()
+
+function(toolvane_page_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "PAGES;SOURCES")
+    list(TRANSFORM arg_PAGES PREPEND toolvane_tools_)
+    toolvane_test(${name} SOURCES ${arg_SOURCES} LINK ${arg_PAGES})
+    set_target_properties(${name} PROPERTIES
+        RUNTIME_OUTPUT_DIRECTORY "${TOOLVANE_RECORDING_TREE}/tests")
+    target_include_directories(${name} PRIVATE
+        "${PROJECT_SOURCE_DIR}/tests/support" "${PROJECT_SOURCE_DIR}/tests/tools")
+endfunction()

@@ -1,0 +1,149 @@
+// Proves that a worker leaves the window alive, and that it ends well whatever happens to its page.
+
+#include "CacheRun.h"
+#include "ShownPage.h"
+
+#include <QSignalSpy>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const CacheRun::Request cleanEverything{
+    .work = CacheRun::Work::Clean, .bookmarkURL = {}, .ticked = CacheSelection().set()};
+
+} // namespace
+
+class LifeTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+
+    void windowStaysAliveAndTheJobIsListed();
+    void pressInTheEarlyIdleMoment();
+    void pageDestroyedWhileItRuns();
+    void stoppedRunDeletesNothingMore();
+    void listDestroyedWhileItRuns();
+};
+
+void LifeTest::init()
+{
+    TestHome::reset();
+    TestHome::makeFile("Logs/a", 1536);
+    TestHome::makeFile("Documents/b", 1536);
+    TestHome::grant();
+}
+
+void LifeTest::windowStaysAliveAndTheJobIsListed()
+{
+    SampleTree::makeNested(TestHome::path() + "/Downloads", 40, 100);
+    ShownPage shown;
+    shown.tick("downloadsCheckBox");
+    int ticks = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] { ticks += shown.isIdle() ? 0 : 1; });
+    timer.start(1);
+    QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
+    QVERIFY(shown.press("cleanButton"));
+    QCOMPARE(shown.jobs.running().size(), std::size_t(1));
+    const JobDescription job = shown.jobs.running().front().description;
+    QCOMPARE(job.page, u"UserCacheViewController"_s);
+    QCOMPARE(job.title, u"UserCache"_s);
+    QCOMPARE(job.subject, MiscTool::getUserHome());
+    QTRY_VERIFY(shown.isIdle() && shown.jobs.isEmpty());
+    QVERIFY2(ticks >= 3, QByteArray::number(ticks).constData());
+    QCOMPARE(ended.size(), 1);
+    QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Succeeded);
+    QVERIFY(!TestHome::exists("Downloads"));
+}
+
+// A clean is idle once early. Who presses Check just then must see the page busy until that check
+// is through, and its sizes after that, though the clean still has updates of its own on the way.
+void LifeTest::pressInTheEarlyIdleMoment()
+{
+    TestHome::makeFile("Downloads/c", 10);
+    ShownPage shown;
+    shown.tick("downloadsCheckBox");
+    QVERIFY(shown.press("cleanButton"));
+    auto *clean = shown.jobs.findChild<CacheRun *>();
+    QVERIFY(clean);
+    int updates = 0;
+    QStringList idleAfterPress; // what the page had measured whenever it was usable again
+    // Connected after the page itself, so this sees the page as each update left it.
+    connect(clean, &CacheRun::updated, this, [&](const CacheUpdate &update) {
+        ++updates;
+        if (updates == 2 && std::holds_alternative<CleanerIdle>(update) && shown.isIdle()) {
+            shown.tick("downloadsCheckBox", false);
+            shown.tick("logsCheckBox");
+            shown.find<QPushButton>("checkButton")->click();
+        } else if (updates > 2 && shown.isIdle()) {
+            idleAfterPress += shown.title("logsCheckBox");
+        }
+    });
+    QTRY_VERIFY(shown.jobs.isEmpty());
+    QCOMPARE(updates, 4);
+    QCOMPARE(idleAfterPress, QStringList());
+    QVERIFY(shown.isIdle());
+    QCOMPARE(shown.title("logsCheckBox"), u"Logs1.5 KB"_s);
+    QVERIFY(!TestHome::exists("Downloads"));
+    QVERIFY(TestHome::exists("Logs/a"));
+}
+
+// As on quitting: the run stays listed until its thread has ended.
+void LifeTest::pageDestroyedWhileItRuns()
+{
+    SampleTree::makeNested(TestHome::path() + "/Library/Caches", 20, 100);
+    ShownPage shown;
+    QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
+    QSignalSpy allEnded(&shown.jobs, &JobList::allEnded);
+    shown.tick("cachesCheckBox");
+    QVERIFY(shown.press("cleanButton"));
+    delete shown.page;
+    QVERIFY(!shown.jobs.isEmpty());
+    QTRY_COMPARE(allEnded.size(), 1);
+    QVERIFY(shown.jobs.isEmpty());
+    QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+    QTRY_VERIFY(shown.jobs.findChildren<CacheRun *>().isEmpty());
+    QVERIFY(TestHome::exists("Documents/b"));
+}
+
+void LifeTest::stoppedRunDeletesNothingMore()
+{
+    JobList jobs;
+    QSignalSpy ended(&jobs, &JobList::jobEnded);
+    const auto turn = std::make_shared<std::mutex>();
+    std::unique_lock held(*turn); // the run waits for its turn
+    auto *run = new CacheRun(cleanEverything, jobs, {.page = {}, .title = u"Clean"_s}, turn);
+    int idles = 0;
+    connect(run, &CacheRun::updated, this, [&](const CacheUpdate &update) {
+        idles += std::holds_alternative<CleanerIdle>(update);
+    });
+    jobs.stopAll();
+    held.unlock();
+    QTRY_VERIFY(jobs.isEmpty());
+    QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+    QCOMPARE(idles, 2); // a page would be idle again
+    QVERIFY(TestHome::exists("Logs/a"));
+}
+
+// Where the program ends without having asked, it still waits for the thread.
+void LifeTest::listDestroyedWhileItRuns()
+{
+    SampleTree::makeNested(TestHome::path() + "/Logs", 20, 100);
+    auto jobs = std::make_unique<JobList>();
+    new CacheRun(cleanEverything, *jobs, {.page = {}, .title = u"Clean"_s},
+                 std::make_shared<std::mutex>());
+    jobs.reset();
+    const SampleTree::Snapshot after = SampleTree::snapshot(TestHome::path());
+    QTest::qWait(20);
+    QCOMPARE(SampleTree::difference(after, SampleTree::snapshot(TestHome::path())),
+             QList<QByteArray>());
+    QVERIFY(TestHome::exists("Documents/b"));
+}
+
+QTEST_MAIN(LifeTest)
+#include "tst_usercache_life.moc"

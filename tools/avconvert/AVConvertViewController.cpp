@@ -1,0 +1,142 @@
+#include "AVConvertViewController.h"
+
+#include "AVConvertCommand.h"
+#include "Chooser.h"
+#include "FormCheck.h"
+#include "MiscTool.h"
+#include "PageAction.h"
+#include "PageStatus.h"
+#include "PropertyList.h"
+#include "ui_AVConvertViewController.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
+                                                 const QString &presetList)
+    : QWidget(parent), ui(std::make_unique<Ui::AVConvertViewController>()), m_runner(jobs)
+{
+    ui->setupUi(this);
+    QSizePolicy policy = ui->progressBox->sizePolicy();
+    policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes
+    ui->progressBox->setSizePolicy(policy);
+    connectButtons();
+    awakeFromNib(presetList);
+}
+
+AVConvertViewController::~AVConvertViewController() = default;
+
+void AVConvertViewController::connectButtons()
+{
+    connect(ui->sourceSelectButton, &QPushButton::clicked, this,
+            &AVConvertViewController::sourceSelectAction);
+    connect(ui->outputSelectButton, &QPushButton::clicked, this,
+            &AVConvertViewController::outputSelectAction);
+    connect(ui->convertButton, &QPushButton::clicked, this,
+            [this] { startPageAction(this, convertAction()); });
+    PageStatus::pressOnReturn(*this, *ui->convertButton);
+}
+
+void AVConvertViewController::awakeFromNib(const QString &presetList)
+{
+    initLocalizables();
+    avconvertDict = PropertyList::readDictionaryFile(presetList);
+    // The dictionary keeps its keys in plain ascending order.
+    ui->outputFormatPopUp->addItems(avconvertDict.value_or(QVariantMap()).keys());
+}
+
+void AVConvertViewController::initLocalizables()
+{
+    ui->moduleBox->setTitle(qtTrId("AV Convert"));
+    ui->tabView->setTabText(ui->tabView->indexOf(ui->generalTabViewItem), qtTrId("General"));
+    ui->sourceBox->setTitle(qtTrId("Source"));
+    ui->sourceSelectButton->setText(qtTrId("Select"));
+    ui->outputOptionsBox->setTitle(qtTrId("Output Options"));
+    ui->outputBox->setTitle(qtTrId("Output"));
+    ui->outputSelectButton->setText(qtTrId("Select"));
+    ui->operationBox->setTitle(qtTrId("Operation"));
+    ui->convertButton->setText(qtTrId("Convert"));
+    ui->progressBox->setTitle(qtTrId("Progress"));
+}
+
+void AVConvertViewController::sourceSelectAction()
+{
+    Chooser::chooseFile(this, {u"m4v"_s, u"mp4"_s, u"mpg"_s, u"mpeg"_s, u"avi"_s},
+                        [this](const QString &path) { ui->sourceField->setText(path); });
+}
+
+void AVConvertViewController::outputSelectAction()
+{
+    Chooser::chooseSaveFile(this, u"m4v"_s,
+                            [this](const QString &path) { ui->outputField->setText(path); });
+}
+
+bool AVConvertViewController::verify()
+{
+    if (ui->sourceField->text().isEmpty())
+        return FormCheck::refuse("Source file cannot be null.",
+                                 "Please select m4v,mp4,mpg,mpeg or avi video file.");
+    if (ui->outputField->text().isEmpty())
+        return FormCheck::refuse("Output file cannot be null.", "Please specify the output file.");
+    return true;
+}
+
+void AVConvertViewController::clear()
+{
+    ui->sourceField->clear();
+    ui->outputField->clear();
+}
+
+std::optional<QString> AVConvertViewController::preset() const
+{
+    const QVariant name =
+        avconvertDict.value_or(QVariantMap()).value(ui->outputFormatPopUp->currentText());
+    return name.typeId() == QMetaType::QString ? std::optional(name.toString()) : std::nullopt;
+}
+
+QCoro::Task<> AVConvertViewController::convertAction()
+{
+    if (!verify())
+        co_return;
+    setStatus(false);
+    showProgress(true);
+    const QPointer<AVConvertViewController> self(this);
+    const Command command =
+        AVConvertCommand::convert(preset(), ui->sourceField->text(), ui->outputField->text());
+
+    const CommandResult result = co_await m_runner.run(command, job());
+    if (!self)
+        co_return;
+    if (result.succeeded())
+        clear();
+    MiscTool::showAlert(qtTrId(result.succeeded() ? "Convert is completed." : "Convert is failed."),
+                        QString());
+    if (!self)
+        co_return;
+    setStatus(true);
+    showProgress(false);
+}
+
+void AVConvertViewController::showProgress(bool shown)
+{
+    ui->progressBox->setVisible(shown);
+    if (shown)
+        ui->progressIndicator->startAnimation();
+    else
+        ui->progressIndicator->stopAnimation();
+}
+
+JobDescription AVConvertViewController::job() const
+{
+    return {
+        .page = objectName(), .title = qtTrId("AV Convert"), .subject = ui->sourceField->text()};
+}
+
+void AVConvertViewController::setStatus(bool idle)
+{
+    ui->sourceSelectButton->setEnabled(idle);
+    ui->outputFormatPopUp->setEnabled(idle);
+    ui->outputSelectButton->setEnabled(idle);
+    ui->convertButton->setEnabled(idle);
+}

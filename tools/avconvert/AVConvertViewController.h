@@ -1,0 +1,53 @@
+#pragma once
+
+#include "CommandRunner.h"
+
+#include <QVariantMap>
+#include <QWidget>
+
+#include <memory>
+#include <optional>
+
+namespace Ui
+{
+class AVConvertViewController;
+}
+
+/// Converts one video with one of the system converter's presets.
+class AVConvertViewController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The preset list is a property list: title of the output format to name of the preset. A
+    /// list that cannot be read leaves the formats empty, and every conversion then fails.
+    explicit AVConvertViewController(
+        JobList &jobs, QWidget *parent = nullptr,
+        const QString &presetList = QStringLiteral(":/presets/avconvert.plist"));
+    ~AVConvertViewController() override;
+
+    void sourceSelectAction();
+    void outputSelectAction();
+    QCoro::Task<> convertAction();
+
+    /// Idle (true) or working (false). Progress is not touched, convertAction() does that itself.
+    void setStatus(bool idle);
+    /// Whether the form may run; says in one message box what is missing first.
+    bool verify();
+    /// Empties both paths; the chosen format stays.
+    void clear();
+
+private:
+    void awakeFromNib(const QString &presetList);
+    void initLocalizables();
+    void connectButtons();
+
+    /// None when the chosen title stands for no preset.
+    std::optional<QString> preset() const;
+    void showProgress(bool shown);
+    JobDescription job() const;
+
+    std::unique_ptr<Ui::AVConvertViewController> ui;
+    CommandRunner m_runner;
+    std::optional<QVariantMap> avconvertDict;
+};

@@ -1,0 +1,136 @@
+#include "SynthesisViewController.h"
+
+#include "Chooser.h"
+#include "FormCheck.h"
+#include "MiscTool.h"
+#include "NamedImage.h"
+#include "PageAction.h"
+#include "PageStatus.h"
+#include "ui_SynthesisViewController.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int usualRate = 175;
+constexpr qsizetype subjectLength = 60;
+
+} // namespace
+
+SynthesisViewController::SynthesisViewController(JobList &jobs, QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::SynthesisViewController>()), m_runner(jobs)
+{
+    ui->setupUi(this);
+    ui->testButton->setIcon(namedImage(u"play"_s));
+    ui->resetButton->setIcon(namedImage(u"reset"_s));
+    connectButtons();
+    awakeFromNib();
+}
+
+SynthesisViewController::~SynthesisViewController() = default;
+
+void SynthesisViewController::connectButtons()
+{
+    connect(ui->testButton, &QPushButton::clicked, this, &SynthesisViewController::testAction);
+    connect(ui->resetButton, &QPushButton::clicked, this, &SynthesisViewController::resetAction);
+    connect(ui->readButton, &QPushButton::clicked, this, &SynthesisViewController::readAction);
+    connect(ui->saveButton, &QPushButton::clicked, this, &SynthesisViewController::saveAction);
+    connect(ui->rateSlider, &QSlider::valueChanged, ui->rateValueLabel,
+            qOverload<int>(&QLabel::setNum));
+    PageStatus::pressOnReturn(*this, *ui->readButton);
+}
+
+void SynthesisViewController::awakeFromNib()
+{
+    ui->textBox->setTitle(qtTrId("Text"));
+    ui->settingsBox->setTitle(qtTrId("Setting"));
+    ui->voiceLabel->setText(qtTrId("Voice"));
+    ui->testButton->setToolTip(qtTrId("Sample"));
+    ui->rateLabel->setText(qtTrId("Rate"));
+    ui->resetButton->setToolTip(qtTrId("Reset"));
+    ui->readButton->setText(qtTrId("Read"));
+    ui->saveButton->setText(qtTrId("Save"));
+}
+
+void SynthesisViewController::testAction()
+{
+    startPageAction(this, read(u"I love you"_s));
+}
+
+void SynthesisViewController::readAction()
+{
+    if (verify())
+        startPageAction(this, read(ui->textField->toPlainText()));
+}
+
+void SynthesisViewController::resetAction()
+{
+    ui->rateSlider->setValue(usualRate);
+}
+
+void SynthesisViewController::saveAction()
+{
+    Chooser::chooseSaveFile(this, u"aiff"_s,
+                            [this](const QString &path) { startPageAction(this, save(path)); });
+}
+
+bool SynthesisViewController::verify()
+{
+    if (!ui->textField->document()->isEmpty())
+        return true;
+    FormCheck::refuse("TextNullAlert");
+    ui->textField->clearFocus();
+    return false;
+}
+
+QCoro::Task<> SynthesisViewController::read(QString text)
+{
+    setStatus(false);
+    const QPointer<SynthesisViewController> self(this);
+    const Command command = SpeechCommand::read(text, manner());
+    co_await m_runner.run(command, job(text));
+    if (self)
+        setStatus(true);
+}
+
+QCoro::Task<> SynthesisViewController::save(QString file)
+{
+    setStatus(false);
+    const QPointer<SynthesisViewController> self(this);
+    const QString text = ui->textField->toPlainText();
+    const Command command = SpeechCommand::save(text, manner(), file);
+
+    const CommandResult result = co_await m_runner.run(command, job(text));
+    if (!self)
+        co_return;
+    MiscTool::showAlert(qtTrId(result.succeeded() ? "SaveSuc" : "SaveFail"), QString());
+    if (self)
+        setStatus(true);
+}
+
+SpeechCommand::Manner SynthesisViewController::manner() const
+{
+    return {.voice = ui->voicePopUp->currentText(), .rate = ui->rateSlider->value()};
+}
+
+// The first words name the text well enough, which may be a whole book.
+JobDescription SynthesisViewController::job(const QString &text) const
+{
+    return {.page = objectName(),
+            .title = qtTrId("Speech Synthesis"),
+            .subject = text.left(subjectLength).simplified()};
+}
+
+void SynthesisViewController::setStatus(bool idle)
+{
+    ui->textField->setReadOnly(!idle);
+    ui->voicePopUp->setEnabled(idle);
+    ui->testButton->setEnabled(idle);
+    ui->rateSlider->setEnabled(idle);
+    ui->resetButton->setEnabled(idle);
+    ui->readButton->setEnabled(idle);
+    ui->saveButton->setEnabled(idle);
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CommandRunner.h"
+#include "SpeechCommand.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class SynthesisViewController;
+}
+
+/// Reads a text aloud or saves the spoken text as a sound file.
+class SynthesisViewController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit SynthesisViewController(JobList &jobs, QWidget *parent = nullptr);
+    ~SynthesisViewController() override;
+
+    void testAction(); ///< Speaks a fixed sentence with the chosen voice and rate.
+    void readAction();
+    void resetAction(); ///< Back to the usual rate; the voice stays.
+    void saveAction(); ///< Saves what the field holds, even nothing.
+
+    /// Speaks the text aloud. Says nothing about how it went.
+    QCoro::Task<> read(QString text);
+    /// Idle (true) or working (false).
+    void setStatus(bool idle);
+    /// Whether there is a text to read; says so in a message box when there is none.
+    bool verify();
+
+private:
+    void awakeFromNib();
+    void connectButtons();
+
+    QCoro::Task<> save(QString file);
+    SpeechCommand::Manner manner() const;
+    JobDescription job(const QString &text) const;
+
+    std::unique_ptr<Ui::SynthesisViewController> ui;
+    CommandRunner m_runner;
+};

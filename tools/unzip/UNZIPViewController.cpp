@@ -1,0 +1,122 @@
+#include "UNZIPViewController.h"
+
+#include "Chooser.h"
+#include "FormCheck.h"
+#include "MiscTool.h"
+#include "PageAction.h"
+#include "PageStatus.h"
+#include "UnzipCommand.h"
+#include "ui_UNZIPViewController.h"
+
+#include <QDir>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+UNZIPViewController::UNZIPViewController(JobList &jobs, QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::UNZIPViewController>()), m_runner(jobs)
+{
+    ui->setupUi(this);
+    connectButtons();
+    awakeFromNib();
+}
+
+UNZIPViewController::~UNZIPViewController() = default;
+
+void UNZIPViewController::connectButtons()
+{
+    connect(ui->srcSelectButton, &QPushButton::clicked, this,
+            &UNZIPViewController::srcSelectAction);
+    connect(ui->outputSelectButton, &QPushButton::clicked, this,
+            &UNZIPViewController::outputSelectAction);
+    connect(ui->openButton, &QPushButton::clicked, this, &UNZIPViewController::openAction);
+    connect(ui->clearButton, &QPushButton::clicked, this, &UNZIPViewController::clearAction);
+    connect(ui->generateButton, &QPushButton::clicked, this,
+            [this] { startPageAction(this, generateAction()); });
+    PageStatus::pressOnReturn(*this, *ui->generateButton);
+}
+
+void UNZIPViewController::awakeFromNib()
+{
+    ui->titleLabel->setText(qtTrId("Unzip"));
+    ui->srcBox->setTitle(qtTrId("Source"));
+    ui->srcSelectButton->setText(qtTrId("Select"));
+    ui->outputBox->setTitle(qtTrId("Output"));
+    ui->outputSelectButton->setText(qtTrId("Select"));
+    ui->progressBox->setTitle(qtTrId("Progress"));
+    ui->clearButton->setText(qtTrId("Clear"));
+    ui->generateButton->setText(qtTrId("Unzip"));
+}
+
+void UNZIPViewController::srcSelectAction()
+{
+    Chooser::chooseFile(this, {u"zip"_s},
+                        [this](const QString &path) { ui->srcFolderField->setText(path); });
+}
+
+void UNZIPViewController::outputSelectAction()
+{
+    Chooser::chooseFolder(this, [this](const QString &path) { ui->outputField->setText(path); });
+}
+
+void UNZIPViewController::openAction()
+{
+    const QString folder = ui->outputField->text();
+    m_runner.run(UnzipCommand::show(folder), job("Unzip.Open", folder));
+}
+
+void UNZIPViewController::clearAction()
+{
+    ui->srcFolderField->clear();
+    ui->outputField->clear();
+}
+
+std::optional<QString> UNZIPViewController::destination() const
+{
+    return UnzipCommand::destination(ui->srcFolderField->text(), ui->outputField->text());
+}
+
+bool UNZIPViewController::verify()
+{
+    if (ui->srcFolderField->text().isEmpty())
+        return FormCheck::refuse("SrcFolderNull");
+    const std::optional<QString> folder = destination();
+    if (!folder)
+        return false;
+    if (FormCheck::itemExists(*folder))
+        return FormCheck::refuse("OutputFolderExists");
+    return true;
+}
+
+QCoro::Task<> UNZIPViewController::generateAction()
+{
+    if (!verify())
+        co_return;
+    setStatus(false);
+    const QPointer<UNZIPViewController> self(this);
+    const QString archive = ui->srcFolderField->text();
+    const QString folder = destination().value_or(QString());
+    QDir().mkpath(folder); // what cannot be made here makes unzip fail
+    const Command command = UnzipCommand::extract(archive, folder);
+
+    const CommandResult result = co_await m_runner.run(command, job("Unzip", archive));
+    if (!self || !result.couldStart())
+        co_return;
+    MiscTool::showAlert(qtTrId(result.succeeded() ? "UnzipSuc" : "UnzipFail"), QString());
+    if (self)
+        setStatus(true);
+}
+
+JobDescription UNZIPViewController::job(const char *titleKey, const QString &subject) const
+{
+    return {.page = objectName(), .title = qtTrId(titleKey), .subject = subject};
+}
+
+void UNZIPViewController::setStatus(bool idle)
+{
+    ui->srcSelectButton->setEnabled(idle);
+    ui->outputSelectButton->setEnabled(idle);
+    ui->clearButton->setEnabled(idle);
+    ui->generateButton->setEnabled(idle);
+    PageStatus::setIdle(*ui->progressIndicator, idle);
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "CommandRunner.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui
+{
+class UNZIPViewController;
+}
+
+/// Extracts one zip archive into a new folder that is named after it.
+class UNZIPViewController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit UNZIPViewController(JobList &jobs, QWidget *parent = nullptr);
+    ~UNZIPViewController() override;
+
+    void srcSelectAction();
+    void outputSelectAction();
+    /// Shows the output folder, not the new folder in it, in the file manager. Never disabled.
+    void openAction();
+    void clearAction();
+    QCoro::Task<> generateAction();
+
+    /// Idle (true) or working (false). The two fields stay as they are.
+    void setStatus(bool idle);
+    /// Whether the form may run; says in one message box what is wrong first. A file name that is
+    /// too short to lose its extension is refused without a word.
+    bool verify();
+
+private:
+    void awakeFromNib();
+    void connectButtons();
+
+    /// None for a file name that is too short.
+    std::optional<QString> destination() const;
+    JobDescription job(const char *titleKey, const QString &subject) const;
+
+    std::unique_ptr<Ui::UNZIPViewController> ui;
+    CommandRunner m_runner;
+};

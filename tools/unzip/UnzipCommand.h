@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Command.h"
+
+/// What the Unzip page asks of the system's programs. Everything here is free of side effects.
+namespace UnzipCommand
+{
+
+/// The new folder for an archive's contents: named like the archive without the last four
+/// characters, which are meant to be ".zip" but are removed whatever they are. Relative when no
+/// output folder is given. None when the archive's file name is shorter than four characters.
+std::optional<QString> destination(const QString &archive, const QString &outputFolder);
+
+/// Extracts the archive into the destination.
+Command extract(const QString &archive, const QString &destination);
+
+/// Shows a folder in the file manager.
+Command show(const QString &folder);
+
+} // namespace UnzipCommand

@@ -1,0 +1,53 @@
+#include "CacheRun.h"
+
+#include "JobList.h"
+
+#include <utility>
+
+CacheRun::CacheRun(const Request &request, JobList &jobs, const JobDescription &job,
+                   std::shared_ptr<std::mutex> turn)
+    : QObject(&jobs), m_job(jobs.begin(job, [this] { stop(); }))
+{
+    m_worker = std::jthread([this, request, turn = std::move(turn)](const std::stop_token &stop) {
+        {
+            const std::lock_guard lock(*turn);
+            work(request, stop);
+        }
+        QMetaObject::invokeMethod(this, &CacheRun::end, Qt::QueuedConnection);
+    });
+}
+
+CacheRun::~CacheRun() = default;
+
+void CacheRun::stop()
+{
+    m_worker.request_stop();
+}
+
+void CacheRun::work(const Request &request, const std::stop_token &stop)
+{
+    const auto report = [this](const CacheUpdate &update) { post(update); };
+    CacheCleaner cleaner(request.bookmarkURL, request.ticked, report, stop);
+    switch (request.work) {
+    case Work::Check:
+        cleaner.checkDisk();
+        break;
+    case Work::Clean:
+        cleaner.cleanDisk();
+        break;
+    }
+}
+
+void CacheRun::post(const CacheUpdate &update)
+{
+    QMetaObject::invokeMethod(
+        this, [this, update] { Q_EMIT updated(update); }, Qt::QueuedConnection);
+}
+
+void CacheRun::end()
+{
+    m_worker.join(); // posted as the thread's last act
+    m_job.end(m_worker.get_stop_token().stop_requested() ? JobOutcome::Stopped
+                                                         : JobOutcome::Succeeded);
+    deleteLater();
+}

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "CacheRun.h"
+
+#include <QPointer>
+#include <QUrl>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+#include <mutex>
+
+class JobList;
+class QCheckBox;
+
+namespace Ui
+{
+class UserCacheViewController;
+}
+
+/// Shows how full the start-up disk is, measures the clutter in the user's home folder and deletes
+/// what the user ticks, once the user has granted access to that folder.
+class UserCacheViewController : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit UserCacheViewController(JobList &jobs, QWidget *parent = nullptr);
+    ~UserCacheViewController() override;
+
+    void authorizeAction();
+    void checkAction();
+    void cleanAction();
+
+    /// Refreshes the disk's figures and puts back the plain texts of labels, check boxes, buttons.
+    void updateDiskUI();
+    /// Idle (true) or working (false).
+    void setStatus(bool idle);
+
+private:
+    void awakeFromNib();
+
+    void takeFolder(const QString &path);
+    void refuseGrant(const QString &message, const QString &advice);
+    void showGrant();
+
+    void start(CacheRun::Work work);
+    CacheSelection tickedCategories() const;
+    JobDescription job() const;
+    void show(const CacheUpdate &update, bool isNewest);
+    void showSize(const FolderMeasured &measured);
+    std::array<QCheckBox *, cacheCategoryCount> checkBoxes() const;
+
+    std::unique_ptr<Ui::UserCacheViewController> ui;
+    JobList &m_jobs;
+    bool m_isAuthorized = false;
+    QUrl m_bookmarkURL; ///< Empty while the stored grant leads to no folder.
+    QPointer<CacheRun> m_newestRun;
+    std::shared_ptr<std::mutex> m_turn = std::make_shared<std::mutex>();
+};
