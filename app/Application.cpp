@@ -2,6 +2,7 @@
 
 #include "HoverTableAppDelegate.h"
 #include "LoginDelegate.h"
+#include "NamedImage.h"
 #include "Tool.h"
 
 #include <QApplication>
@@ -32,6 +33,7 @@ void Application::prepare()
     QCoreApplication::setApplicationVersion(QLatin1String(TOOLVANE_VERSION));
     QGuiApplication::setApplicationDisplayName(u"Toolvane"_s);
     QGuiApplication::setDesktopFileName(u"toolvane"_s);
+    QGuiApplication::setWindowIcon(namedImage(u"toolvane"_s));
     installTexts();
 }
 

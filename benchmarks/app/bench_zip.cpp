@@ -1,0 +1,152 @@
+// How alive the Zip page stays while it packs 500 MB, and what running a command through it adds.
+// Rows end with the figure, its limit and "ok" or "PASSED"; the exit status is 1 when one is
+// passed.
+
+#include "CommandRunner.h"
+#include "ZIPViewController.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFutureWatcher>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int files = 50;
+constexpr qint64 fileSize = 10'000'000;
+constexpr int runs = 41;
+
+bool row(const char *name, const QString &remark, double value, double limit)
+{
+    const bool within = value <= limit;
+    std::printf("%-36s %-44s %6.1f %5.1f %s\n", name, qPrintable(remark), value, limit,
+                within ? "ok" : "PASSED");
+    return within;
+}
+
+double milliseconds(const QElapsedTimer &clock)
+{
+    return double(clock.nsecsElapsed()) / 1e6;
+}
+
+// A pause is the time between two beats of a timer, less the beat itself.
+class Pauses : public QObject
+{
+public:
+    Pauses()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        m_timer.setInterval(beat);
+        connect(&m_timer, &QTimer::timeout, this, [this] {
+            longest = std::max(longest, milliseconds(m_clock) - beat);
+            m_clock.start();
+        });
+        m_clock.start();
+        m_timer.start();
+    }
+    double longest = 0; ///< Milliseconds.
+
+private:
+    static constexpr int beat = 2;
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+};
+
+void makeFolder(const QDir &folder)
+{
+    QByteArray content(fileSize, Qt::Uninitialized);
+    quint32 state = 1;
+    for (char &byte : content) {
+        state = state * 1664525 + 1013904223;
+        byte = char((state >> 24) % 64); // packs to about three quarters
+    }
+    for (int i = 0; i < files; ++i) {
+        QFile file(folder.filePath(QString::number(i)));
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            qFatal("cannot write the sample folder");
+    }
+}
+
+bool staysAlive()
+{
+    const QTemporaryDir own;
+    const QDir folder(own.path());
+    folder.mkdir(u"source"_s);
+    makeFolder(QDir(folder.filePath(u"source"_s)));
+    JobList jobs;
+    ZIPViewController page(jobs);
+    page.resize(820, 600);
+    page.show();
+    if (!QTest::qWaitForWindowExposed(&page))
+        return false;
+    page.findChild<QLineEdit *>(u"srcFolderField"_s)->setText(folder.filePath(u"source"_s));
+    page.findChild<QLineEdit *>(u"outputField"_s)->setText(folder.filePath(u"out.zip"_s));
+    QTest::qWait(200); // what showing the window costs is not the question
+
+    Pauses pauses;
+    double longest = 0;
+    QTimer::singleShot(0, page.findChild<QPushButton *>(u"generateButton"_s), &QPushButton::click);
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            longest = pauses.longest; // up to the message: the run is over
+            box->button(QMessageBox::Ok)->click();
+        }
+    });
+    answer.start(20);
+    const bool finished = QTest::qWaitFor([&] { return longest > 0; }, 300'000);
+    return row("zip of 500 MB, longest pause", u"milliseconds"_s, longest, 50) && finished;
+}
+
+double throughRunner()
+{
+    JobList jobs;
+    CommandRunner runner(jobs);
+    QElapsedTimer clock;
+    clock.start();
+    const auto run =
+        runner.run({.launchPath = u"/bin/true"_s, .arguments = {}}, {.page = {}, .title = {}});
+    if (!QTest::qWaitFor([&] { return run.isFinished(); }) || !run.result().succeeded())
+        qFatal("/bin/true failed");
+    return milliseconds(clock);
+}
+
+double plain()
+{
+    QElapsedTimer clock;
+    clock.start();
+    if (QProcess::execute(u"/bin/true"_s, {}) != 0)
+        qFatal("/bin/true failed");
+    return milliseconds(clock);
+}
+
+bool addsLittle()
+{
+    std::vector<double> added;
+    for (int i = 0; i < runs; ++i)
+        added.push_back(throughRunner() - plain());
+    std::ranges::sort(added);
+    return row("runner, added to a command", u"milliseconds, median"_s, added[runs / 2], 20);
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication qt(argc, argv);
+    const bool little = addsLittle();
+    const bool alive = staysAlive();
+    return little && alive ? 0 : 1;
+}
