@@ -52,6 +52,7 @@ function(toolvane_test name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON
         RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
     target_link_libraries(${name} PRIVATE toolvane_qt_settings Qt6::Test ${arg_LINK})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support")
     target_compile_definitions(${name} PRIVATE
         TOOLVANE_BUILD_DIR="${CMAKE_BINARY_DIR}" TOOLVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
     add_test(NAME ${name}

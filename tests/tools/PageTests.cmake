@@ -14,5 +14,5 @@ function(toolvane_page_test name)
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${TOOLVANE_RECORDING_TREE}/tests")
     target_include_directories(${name} PRIVATE
-        "${PROJECT_SOURCE_DIR}/tests/support" "${PROJECT_SOURCE_DIR}/tests/tools")
+        "${PROJECT_SOURCE_DIR}/tests/tools")
 endfunction()

@@ -58,7 +58,7 @@ void SynthesisPageTest::nothingToRead()
     textField().setFocus();
     QTest::keyClick(m_page.get(), Qt::Key_Return); // the page's main action
     QCOMPARE(m_boxes->texts, QStringList{u"[TextNullAlert]"_s});
-    QVERIFY(!textField().hasFocus());
+    QVERIFY(m_page->focusWidget() != &textField()); // not when the box has gone, either
     QVERIFY(isIdle());
     QVERIFY(m_jobs.isEmpty());
 }

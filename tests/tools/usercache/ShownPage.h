@@ -26,6 +26,8 @@
 class ShownPage
 {
 public:
+    static constexpr int patience = 30'000; ///< Milliseconds, on a machine that has much to do.
+
     ShownPage() : page(new UserCacheViewController(jobs, &m_window))
     {
         QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -57,9 +59,10 @@ public:
         return true;
     }
     /// Presses the button and waits until the work that it starts has ended.
-    bool pressAndWait(const char *button) const
+    bool pressAndWait(const char *button) const { return press(button) && waitUntilIdle(); }
+    bool waitUntilIdle() const
     {
-        return press(button) && QTest::qWaitFor([this] { return isIdle() && jobs.isEmpty(); });
+        return QTest::qWaitFor([this] { return isIdle() && jobs.isEmpty(); }, patience);
     }
 
     QFileDialog *chooser() const
@@ -74,7 +77,7 @@ public:
         auto *name = chooser()->findChild<QLineEdit *>(QLatin1String("fileNameEdit"));
         name->setText(folder);
         QTest::keyClick(name, Qt::Key_Return);
-        return QTest::qWaitFor([this] { return !chooser(); });
+        return QTest::qWaitFor([this] { return !chooser(); }, patience);
     }
 
     JobList jobs;

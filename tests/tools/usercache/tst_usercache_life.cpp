@@ -3,6 +3,7 @@
 #include "CacheRun.h"
 #include "ShownPage.h"
 
+#include <QEventLoop>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -23,11 +24,15 @@ class LifeTest : public QObject
 private Q_SLOTS:
     void init();
 
-    void windowStaysAliveAndTheJobIsListed();
+    void windowStaysAlive();
+    void runIsListed();
     void pressInTheEarlyIdleMoment();
     void pageDestroyedWhileItRuns();
     void stoppedRunDeletesNothingMore();
     void listDestroyedWhileItRuns();
+
+private:
+    int turnsWhileCleaning(int folders);
 };
 
 void LifeTest::init()
@@ -38,15 +43,39 @@ void LifeTest::init()
     TestHome::grant();
 }
 
-void LifeTest::windowStaysAliveAndTheJobIsListed()
+// Turns of the window's event loop while a clean of so many folders keeps the page busy.
+int LifeTest::turnsWhileCleaning(int folders)
 {
-    SampleTree::makeNested(TestHome::path() + "/Downloads", 40, 100);
+    SampleTree::makeNested(TestHome::path() + "/Downloads", folders, 50);
     ShownPage shown;
     shown.tick("downloadsCheckBox");
-    int ticks = 0;
+    int turns = 0;
     QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] { ticks += shown.isIdle() ? 0 : 1; });
-    timer.start(1);
+    connect(&timer, &QTimer::timeout, this, [&] { turns += shown.isIdle() ? 0 : 1; });
+    timer.start(0);
+    QEventLoop window;
+    connect(&shown.jobs, &JobList::allEnded, &window, &QEventLoop::quit);
+    QTimer::singleShot(ShownPage::patience, &window, &QEventLoop::quit);
+    shown.press("cleanButton");
+    window.exec();
+    return shown.isIdle() && !TestHome::exists("Downloads") ? turns : -1;
+}
+
+// On a machine with much to do a worker may be through before the window has its next turn, so a
+// larger folder gets its chance; a window that waits for its worker has no turn with any.
+void LifeTest::windowStaysAlive()
+{
+    int turns = 0;
+    for (int folders = 10; turns < 10 && folders <= 640; folders *= 4) {
+        turns = turnsWhileCleaning(folders);
+        QVERIFY(turns >= 0);
+    }
+    QVERIFY2(turns >= 10, QByteArray::number(turns).constData());
+}
+
+void LifeTest::runIsListed()
+{
+    ShownPage shown;
     QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
     QVERIFY(shown.press("cleanButton"));
     QCOMPARE(shown.jobs.running().size(), std::size_t(1));
@@ -54,11 +83,9 @@ void LifeTest::windowStaysAliveAndTheJobIsListed()
     QCOMPARE(job.page, u"UserCacheViewController"_s);
     QCOMPARE(job.title, u"UserCache"_s);
     QCOMPARE(job.subject, MiscTool::getUserHome());
-    QTRY_VERIFY(shown.isIdle() && shown.jobs.isEmpty());
-    QVERIFY2(ticks >= 3, QByteArray::number(ticks).constData());
+    QVERIFY(shown.waitUntilIdle());
     QCOMPARE(ended.size(), 1);
     QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Succeeded);
-    QVERIFY(!TestHome::exists("Downloads"));
 }
 
 // A clean is idle once early. Who presses Check just then must see the page busy until that check
@@ -84,7 +111,7 @@ void LifeTest::pressInTheEarlyIdleMoment()
             idleAfterPress += shown.title("logsCheckBox");
         }
     });
-    QTRY_VERIFY(shown.jobs.isEmpty());
+    QVERIFY(shown.waitUntilIdle());
     QCOMPARE(updates, 4);
     QCOMPARE(idleAfterPress, QStringList());
     QVERIFY(shown.isIdle());
@@ -96,7 +123,7 @@ void LifeTest::pressInTheEarlyIdleMoment()
 // As on quitting: the run stays listed until its thread has ended.
 void LifeTest::pageDestroyedWhileItRuns()
 {
-    SampleTree::makeNested(TestHome::path() + "/Library/Caches", 20, 100);
+    SampleTree::makeNested(TestHome::path() + "/Library/Caches", 10, 50);
     ShownPage shown;
     QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
     QSignalSpy allEnded(&shown.jobs, &JobList::allEnded);
@@ -104,7 +131,7 @@ void LifeTest::pageDestroyedWhileItRuns()
     QVERIFY(shown.press("cleanButton"));
     delete shown.page;
     QVERIFY(!shown.jobs.isEmpty());
-    QTRY_COMPARE(allEnded.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(allEnded.size(), 1, ShownPage::patience);
     QVERIFY(shown.jobs.isEmpty());
     QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
     QTRY_VERIFY(shown.jobs.findChildren<CacheRun *>().isEmpty());
@@ -133,7 +160,7 @@ void LifeTest::stoppedRunDeletesNothingMore()
 // Where the program ends without having asked, it still waits for the thread.
 void LifeTest::listDestroyedWhileItRuns()
 {
-    SampleTree::makeNested(TestHome::path() + "/Logs", 20, 100);
+    SampleTree::makeNested(TestHome::path() + "/Logs", 10, 50);
     auto jobs = std::make_unique<JobList>();
     new CacheRun(cleanEverything, *jobs, {.page = {}, .title = u"Clean"_s},
                  std::make_shared<std::mutex>());

@@ -190,7 +190,7 @@ void StoryTest::statusChangesInOrder()
         QCOMPARE(indicator->maximum(), 0); // moving
         QCOMPARE(shown.jobs.running().size(), std::size_t(1));
         QCOMPARE(order.names, expected);
-        QTRY_VERIFY(shown.isIdle() && shown.jobs.isEmpty());
+        QVERIFY(shown.waitUntilIdle());
         QVERIFY(box->isHidden());
         QVERIFY(indicator->maximum() != 0);
         QCOMPARE(order.names, expected + expected);
