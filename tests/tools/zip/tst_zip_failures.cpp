@@ -43,6 +43,7 @@ class tst_ZipFailures : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { qunsetenv("LD_PRELOAD"); } // see tst_zip_page
     void cleanup() { QDir(MiscTool::getAppDocumentFolder()).removeRecursively(); }
     void sources_data();
     void sources();

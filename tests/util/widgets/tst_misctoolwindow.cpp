@@ -31,7 +31,8 @@ QList<QPoint> placesDuring(QWidget &window, const std::function<void()> &shake)
     } follower;
     window.installEventFilter(&follower);
     shake();
-    QTest::qWaitFor([&] { return !window.findChild<WindowShake *>(); });
+    if (!QTest::qWaitFor([&] { return !window.findChild<WindowShake *>(); }))
+        qFatal("the shake does not end");
     return follower.places;
 }
 
