@@ -1,11 +1,13 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QEvent>
 #include <QTimer>
 #include <QWidget>
 
+#include <cstdlib>
+
 /// Ends the program once the window has been painted for the first time, everything in it included.
+/// At once: what taking the program down would cost is no part of its start.
 class FirstPaint : public QObject
 {
 public:
@@ -15,7 +17,7 @@ protected:
     bool eventFilter(QObject *, QEvent *event) override
     {
         if (event->type() == QEvent::Paint)
-            QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+            QTimer::singleShot(0, this, [] { std::_Exit(0); });
         return false;
     }
 };

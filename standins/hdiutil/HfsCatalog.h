@@ -10,8 +10,9 @@
 namespace hfs
 {
 
-// The folders, files and links of a volume, collected in any order of folders, then written as the
-// catalog B-tree (TN1150, "Catalog File"). Costs about 80 bytes an item and its name.
+// The folders, files and links of a volume, collected with each folder before what it holds, then
+// written as the catalog B-tree (TN1150, "Catalog File"). Costs about 60 bytes an item and its
+// name.
 class Catalog
 {
 public:

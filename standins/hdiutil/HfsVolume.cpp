@@ -113,7 +113,7 @@ Fork Volume::writeExtents()
 Fork Volume::writeAllocation()
 {
     beginFork();
-    const std::uint64_t before = std::uint64_t{m_firstBlock} + 1;
+    const std::uint64_t before = m_image.position() / blockSize + 1; // with the last block
     std::uint64_t ownBlocks = 1;
     while (ownBlocks * bitsPerBlock < before + ownBlocks)
         ++ownBlocks;

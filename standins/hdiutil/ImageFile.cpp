@@ -16,7 +16,7 @@ namespace
 
 // Reading into and writing from a buffer of this size, at multiples of it, was faster than copying
 // inside the kernel, and the only way to gather small files.
-constexpr std::size_t bufferSize = 128 << 10;
+constexpr std::size_t bufferSize = 64 << 10;
 
 // Smaller pieces cost more in calls than they gain.
 constexpr std::uint64_t writingPiece = 8 << 20;

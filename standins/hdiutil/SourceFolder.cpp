@@ -49,7 +49,9 @@ FileDescriptor openRoot(const std::string &path)
 
 std::vector<std::string> listNames(const FileDescriptor &folder, const std::string &path)
 {
-    const int copy = ::fcntl(folder.number(), F_DUPFD_CLOEXEC, 0);
+    const int copy = ::fcntl(folder.number(), F_DUPFD_CLOEXEC, 0); // the stream closes its own
+    if (copy < 0)
+        standin::failWithError(path, errno);
     const std::unique_ptr<DIR, int (*)(DIR *)> stream(::fdopendir(copy), &::closedir);
     if (!stream)
         standin::failWithError(path, errno);

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// Rows of the benchmarks that measure a stand-in program beside the tool that it stands on.
+
+using Command = std::vector<std::string>; // the first is the program's full path
+
+// Lets the two take turns and prints the median of the rounds' ratios of time on the clock, with
+// the processor's time beside it. False where the first takes more than `limit` times the other's.
+bool isWithin(const char *name, double limit, int rounds, const Command &ours, const Command &peer);
+
+// Prints the most memory that the program itself has at a time, without its children. False where
+// that is more than 20 MB.
+bool isSmall(const char *name, const Command &command);
+
+// A folder of the benchmark's own, removed at its end.
+const std::string &workFolder();
