@@ -48,11 +48,25 @@ public:
     {
         return m_class->property(m_class->propertyOffset() + index);
     }
+    const QMetaObject &recordClass() const { return *m_class; }
     QVariant value(int index) const;
     QVariant value(const QString &name) const; ///< Invalid where there is no such property.
     QString className() const { return QString::fromLatin1(m_class->className()); }
+    // These want the property's own type.
+    int integer(int index) const { return get<int>(index); }
+    double number(int index) const { return get<double>(index); }
+    QString text(int index) const { return get<QString>(index); }
 
 private:
+    template <class Value>
+    Value get(int index) const
+    {
+        Value value{};
+        read(index, &value);
+        return value;
+    }
+    void read(int index, void *value) const;
+
     const QMetaObject *m_class;
     const void *m_record;
 };

@@ -13,54 +13,75 @@ namespace
 
 constexpr int writtenDecimals = 2;
 
-/// Empty for a property that is not mapped.
-QString valueText(RecordView record, int index)
+/// A property of a record that is being written.
+struct Field {
+    RecordView record;
+    int index;
+    RecordColumn column;
+};
+
+// Each appends what one property contributes.
+
+void appendName(QString &text, const Field &field)
 {
-    switch (SchemaReflect::getPropertyType(record.property(index))) {
+    text += field.column.name;
+}
+
+/// Nothing for a property that is not mapped.
+void appendValue(QString &text, const Field &field)
+{
+    switch (field.column.type) {
     case PropertyType::Integer:
-        return QString::number(record.value(index).toInt());
+        text += QString::number(field.record.integer(field.index));
+        break;
     case PropertyType::Double:
-        return fixedText(record.value(index).toDouble(), writtenDecimals);
+        text += fixedText(field.record.number(field.index), writtenDecimals);
+        break;
     case PropertyType::Text:
-        return record.value(index).toString();
+        text += field.record.text(field.index);
+        break;
     case PropertyType::Other:
-        return {};
+        break;
     }
-    Q_UNREACHABLE();
 }
 
-QString sqlValue(RecordView record, int index)
+void appendSQLValue(QString &text, const Field &field)
 {
-    const QString text = valueText(record, index);
-    const bool isText =
-        SchemaReflect::getPropertyType(record.property(index)) == PropertyType::Text;
-    return isText ? u'\'' + text + u'\'' : text;
+    const QLatin1String quote = field.column.type == PropertyType::Text ? "'"_L1 : ""_L1;
+    text += quote;
+    appendValue(text, field);
+    text += quote;
 }
 
-QString name(RecordView record, int index)
+void appendAssignment(QString &text, const Field &field)
 {
-    return QString::fromLatin1(record.property(index).name());
+    if (field.column.type == PropertyType::Other)
+        return;
+    text += field.column.name;
+    text += u'=';
+    appendSQLValue(text, field);
 }
 
-QString assignment(RecordView record, int index)
+void appendMember(QString &text, const Field &field)
 {
-    if (SchemaReflect::getPropertyType(record.property(index)) == PropertyType::Other)
-        return {};
-    return name(record, index) + u'=' + sqlValue(record, index);
+    text += u'"';
+    text += field.column.name;
+    text += "\":\""_L1;
+    appendValue(text, field);
+    text += u'"';
 }
 
-QString member(RecordView record, int index)
+/// What `append` makes of the properties from `first` on, with commas between.
+QString joined(RecordView record, int first, void (*append)(QString &text, const Field &field))
 {
-    return u'"' + name(record, index) + "\":\""_L1 + valueText(record, index) + u'"';
-}
-
-/// What `piece` makes of the properties from `first` on, joined by commas.
-QString joined(RecordView record, int first, QString (*piece)(RecordView, int))
-{
-    QStringList pieces;
-    for (int i = first; i < record.count(); ++i)
-        pieces.append(piece(record, i));
-    return pieces.join(u',');
+    QString text;
+    const QList<RecordColumn> columns = recordColumns(record.recordClass());
+    for (int i = first; i < columns.size(); ++i) {
+        if (i > first)
+            text += u',';
+        append(text, {record, i, columns[i]});
+    }
+    return text;
 }
 
 /// The array `key` of the table's description.
@@ -88,19 +109,19 @@ PropertyType SchemaReflect::getPropertyType(const QMetaProperty &property)
 
 QString SchemaReflect::getColumnNameList(RecordView record)
 {
-    return joined(record, 1, name);
+    return joined(record, 1, appendName);
 }
 
 QString SchemaReflect::getColumnValueList(RecordView record)
 {
-    return joined(record, 1, sqlValue);
+    return joined(record, 1, appendSQLValue);
 }
 
 QString SchemaReflect::getUpdateStr(RecordView record)
 {
     if (record.count() < 2)
         return {};
-    return joined(record, 1, assignment) + " WHERE ID="_L1
+    return joined(record, 1, appendAssignment) + " WHERE ID="_L1
         + QString::number(record.value(u"ID"_s).toInt());
 }
 
@@ -151,7 +172,7 @@ QString SchemaReflect::getCreateIndexSQL(const QString &table)
 
 QString SchemaReflect::toJSON(RecordView record)
 {
-    return u'{' + joined(record, 0, member) + u'}';
+    return u'{' + joined(record, 0, appendMember) + u'}';
 }
 
 QVariant SchemaReflect::getValue(RecordView record, int fieldIndex)

@@ -11,7 +11,8 @@ void appendSelectReply(QByteArrayView reply, RecordList records)
     simdjson::dom::parser parser;
     simdjson::dom::element document;
     simdjson::dom::array elements;
-    if (parser.parse(reply.data(), std::size_t(reply.size())).get(document) != simdjson::SUCCESS
+    if (reply.isEmpty() // which the parser does not stand
+        || parser.parse(reply.data(), std::size_t(reply.size())).get(document) != simdjson::SUCCESS
         || document["RESULT"].get(elements) != simdjson::SUCCESS)
         return;
     const QList<RecordColumn> columns = recordColumns(records.recordClass());

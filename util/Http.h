@@ -14,8 +14,9 @@ class QIODevice;
 /// draws windows should not.
 ///
 /// Only http and https are spoken, also after a redirect; certificates and host names are checked
-/// against the system's store; nothing is decompressed, no cookie or password is looked up. A
-/// request carries Host, User-Agent, the length of its body, and the headers that the caller gives.
+/// against the system's store; nothing is decompressed, no cookie or password is looked up, a proxy
+/// is taken from the environment alone. A request carries Host, User-Agent, the length of its body,
+/// and the headers that the caller gives.
 
 enum class HttpSchemes { Any, SecureOnly }; ///< http and https, or https alone.
 

@@ -111,8 +111,6 @@ int main(int argc, char **argv)
     BLGeneral gateway(u"User"_s);
     bool isWithin = selects(gateway);
     isWithin = insertsHeldOpen(gateway) && isWithin;
-    if (0)
-        isWithin = growsWithTheRecordsAlone(gateway) && isWithin;
     fillUsers(0);
     DBSession::closeDB();
     isWithin = insertsOpening(gateway) && isWithin;

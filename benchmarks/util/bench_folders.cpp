@@ -1,7 +1,8 @@
 // What measuring and removing folders cost beside "du -slb" and "rm -rf" on the same trees, in the
 // same run and taking turns. Every figure is a median, less what the same costs on an empty folder.
 // Rows end with the ratio, its limit and "ok" or "PASSED"; the exit status is 1 when one is passed.
-//   bench_folders [--million] [--calls]    also a million files; also counts system calls by strace
+//   bench_folders [--million] [--calls] [TREE]
+// also on a million files; also counts system calls by strace; only trees with TREE in their name
 // Time by the clock counts only on a machine with two cores and nothing else to do.
 
 #include "FolderRemoval.h"
@@ -42,7 +43,8 @@ struct Tree {
 class FolderBench
 {
 public:
-    explicit FolderBench(std::string folder) : m_folder(std::move(folder))
+    FolderBench(std::string folder, std::string only)
+        : m_folder(std::move(folder)), m_only(std::move(only))
     {
         Trees::makeFlat(m_folder + "/empty", 0);
         double load = 0;
@@ -64,7 +66,10 @@ private:
                 const Limits &limits);
     void row(const std::string &name, const char *remark, double value, double limit, bool counts);
 
+    bool isWanted(const std::string &name) const { return name.find(m_only) != name.npos; }
+
     std::string m_folder;
+    std::string m_only;
     bool m_quiet = false;
     bool m_passed = false;
     double m_sizeMemory = 0;
@@ -135,6 +140,8 @@ void FolderBench::report(const char *work, const char *name, const Costs &ours, 
 void FolderBench::compareSize(const char *name, const std::string &path, int rounds,
                               const Limits &limits)
 {
+    if (!isWanted(name))
+        return;
     requireSameSum(path);
     Costs ours, peer;
     const std::string empty = m_folder + "/empty";
@@ -167,6 +174,8 @@ void FolderBench::compareRemoval(const Tree &tree)
 
 void FolderBench::run(const Tree &tree)
 {
+    if (!isWanted(tree.name))
+        return;
     const std::string path = m_folder + "/tree";
     tree.make(path);
     compareSize(tree.name, path, tree.sizeRounds, tree.size);
@@ -181,6 +190,8 @@ void FolderBench::limitMemory(const char *name, double megabytes, double limit)
 
 void FolderBench::removalMemory(int files)
 {
+    if (!isWanted("memory"))
+        return;
     Trees::makeFlat(m_folder + "/gone", files);
     Trees::makeFlat(m_folder + "/nothing", 0);
     const ProcessCost cost = removalCost(m_folder, "gone") - removalCost(m_folder, "nothing");
@@ -202,12 +213,12 @@ void FolderBench::countCalls()
     }
 }
 
-int benchmarkAll(bool million, bool calls)
+int benchmarkAll(bool million, bool calls, const std::string &only)
 {
     std::string folder = (std::filesystem::temp_directory_path() / "bench.XXXXXX").string();
     if (!mkdtemp(folder.data()))
         throw std::runtime_error("no temporary folder");
-    FolderBench bench(folder);
+    FolderBench bench(folder, only);
     const Limits nestedSize = {.processor = 0.98, .wall = 0.60};
     const Limits nestedRemoval = {.processor = 1.0, .wall = 0.70};
     const auto nested = [](int files) {
@@ -253,7 +264,9 @@ int main(int count, char **words)
             return folderSize(words[2]) >= 0 ? 0 : 1;
         if (given("--remove") && count == 4)
             return removeBelow(words[2], words[3]).refused == 0 ? 0 : 1;
-        return benchmarkAll(given("--million"), given("--calls"));
+        const std::string last = count > 1 ? arguments.back() : "";
+        return benchmarkAll(given("--million"), given("--calls"),
+                            last.starts_with("--") ? "" : last);
     } catch (const std::exception &error) {
         std::fprintf(stderr, "bench_folders: %s\n", error.what());
         return 2;

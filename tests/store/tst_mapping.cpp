@@ -2,14 +2,15 @@
 // callers and services rely on.
 
 #include "DB.h"
+#include "DBState.h"
 #include "LeadingNumber.h"
 #include "SampleRecords.h"
 #include "SchemaReflect.h"
 #include "SelectReply.h"
+#include "Statement.h"
 #include "UserSchema.h"
 
 #include <QFile>
-#include <QJsonObject>
 #include <QTest>
 
 #include <limits>
@@ -77,6 +78,20 @@ private Q_SLOTS:
         QCOMPARE(swapped->at(0).Amount, 0.0);
         const auto none = DB::select(u"SELECT * FROM Price WHERE 0"_s, PriceSchema{});
         QVERIFY(none && none->isEmpty());
+    }
+
+    void otherTypesReadNoRows()
+    {
+        const auto count = [] {
+            Statement statement(u"SELECT * FROM Price"_s);
+            QList<PriceSchema> records;
+            SchemaReflect::getSchemaValueFromeRS(RecordList(records), statement.get());
+            return records.size();
+        };
+        QCOMPARE(count(), 25);
+        DBState::current().type = u"mysql"_s;
+        QCOMPARE(count(), 0);
+        DBState::current().type = u"sqlite3"_s;
     }
 
     void nullsAndShortRowsReadAsNothing()

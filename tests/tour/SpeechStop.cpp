@@ -1,5 +1,4 @@
 #include "Stops.h"
-
 #include "Tour.h"
 
 #include <QFileDialog>

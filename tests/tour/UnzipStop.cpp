@@ -1,5 +1,4 @@
 #include "Stops.h"
-
 #include "Tour.h"
 
 #include <QWidget>
@@ -16,8 +15,9 @@ void visitUnzip(Tour &tour)
     tour.expectMessage(u"unzip-done"_s);
     tour.press(page, "generateButton");
     tour.check(tour.awaitMessage() == qtTrId("UnzipSuc"), u"the message says that it worked"_s);
-    tour.check(tour.witness(u"diff"_s, {u"-r"_s, samples.filePath(u"holiday/album 1"_s),
-                                        output + u"/holiday/album 1"_s})
+    tour.check(tour.witness(u"diff"_s,
+                            {u"-r"_s, samples.filePath(u"holiday/album 1"_s),
+                             output + u"/holiday/album 1"_s})
                    == 0,
                u"the new folder holds what was packed"_s);
 }

@@ -1,5 +1,4 @@
 #include "Stops.h"
-
 #include "Tour.h"
 
 using namespace Qt::StringLiterals;

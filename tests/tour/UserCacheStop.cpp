@@ -1,6 +1,5 @@
-#include "Stops.h"
-
 #include "MiscTool.h"
+#include "Stops.h"
 #include "Tour.h"
 
 #include <QCheckBox>
@@ -58,7 +57,8 @@ void visitUserCache(Tour &tour)
     tour.press(page, "cleanButton");
     tour.await(u"the sizes are gone"_s,
                [&] { return boxText("cachesCheckBox") == qtTrId("Caches"); });
-    tour.check(!QFile::exists(home + u"/Library/Caches"_s) && !QFile::exists(home + u"/Downloads"_s),
+    tour.check(!QFile::exists(home + u"/Library/Caches"_s)
+                   && !QFile::exists(home + u"/Downloads"_s),
                u"the ticked folders are gone"_s);
     tour.check(QFile::exists(home + u"/Documents/kept/clutter"_s), u"everything else is there"_s);
     tour.picture(u"cache-cleaned"_s);

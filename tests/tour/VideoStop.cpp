@@ -1,5 +1,4 @@
 #include "Stops.h"
-
 #include "Tour.h"
 
 #include <QWidget>
@@ -28,7 +27,8 @@ void visitVideo(Tour &tour)
     tour.check(tour.awaitMessage() == qtTrId("Convert is completed."),
                u"the message says that it worked"_s);
     QByteArray streams;
-    tour.witness(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-show_entries"_s, u"stream=codec_name"_s, result},
+    tour.witness(u"ffprobe"_s,
+                 {u"-v"_s, u"error"_s, u"-show_entries"_s, u"stream=codec_name"_s, result},
                  &streams);
     tour.check(streams.contains("h264") && streams.contains("aac"), u"it holds H.264 and AAC"_s);
     QByteArray complaints;

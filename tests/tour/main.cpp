@@ -1,6 +1,6 @@
 // Shows the program at work on a machine without a screen: drives the real window through its pages
 // on sample data that it makes itself and saves a picture of each state.
-// usage: tests/support/isolated tour FOLDER
+// usage: tests/support/isolated toolvane-tour [--dark] [--size 820x560] FOLDER
 
 #include "Application.h"
 #include "Stops.h"
@@ -8,27 +8,18 @@
 #include "Tour.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QTest>
-#include <QTimer>
 
 #include <cstdio>
 
-int main(int argc, char *argv[])
-{
-    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
-    QApplication qt(argc, argv);
-    if (argc != 2 || qEnvironmentVariableIsEmpty("TOOLVANE_TEST_SANDBOX")) {
-        std::fprintf(stderr, "usage: tests/support/isolated %s FOLDER\n", argv[0]);
-        return 64;
-    }
-    Application::prepare();
-    Theme::install();
-    Application application;
-    application.start();
-    if (!QTest::qWaitForWindowExposed(&application.window()))
-        return 1;
+using namespace Qt::StringLiterals;
 
-    Tour tour(application, QDir(QString::fromLocal8Bit(argv[1])));
+namespace
+{
+
+void visitAll(Tour &tour)
+{
     visitWelcome(tour);
     visitZip(tour);
     visitUnzip(tour);
@@ -37,6 +28,42 @@ int main(int argc, char *argv[])
     visitSpeech(tour);
     visitUserCache(tour);
     visitUpdate(tour);
+}
+
+void resize(QWidget &window, const QString &size)
+{
+    const QStringList sides = size.split(u'x');
+    if (sides.size() == 2)
+        window.resize(sides.first().toInt(), sides.last().toInt());
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    QApplication qt(argc, argv);
+    QCommandLineParser options;
+    options.addOptions({{u"dark"_s, u"Dark colours."_s},
+                        {u"size"_s, u"Size of the window."_s, u"WIDTHxHEIGHT"_s}});
+    options.addPositionalArgument(u"folder"_s, u"Where the pictures go."_s);
+    options.process(qt);
+    if (options.positionalArguments().size() != 1
+        || qEnvironmentVariableIsEmpty("TOOLVANE_TEST_SANDBOX")) {
+        std::fprintf(stderr, "usage: tests/support/isolated %s FOLDER\n", argv[0]);
+        return 64;
+    }
+    Application::prepare();
+    Theme::install();
+    Theme::apply(options.isSet(u"dark"_s) ? Theme::Scheme::Dark : Theme::Scheme::Light);
+    Application application;
+    resize(application.window(), options.value(u"size"_s));
+    application.start();
+    if (!QTest::qWaitForWindowExposed(&application.window()))
+        return 1;
+
+    Tour tour(application, QDir(options.positionalArguments().constFirst()));
+    visitAll(tour);
     std::printf("%s\n", qUtf8Printable(tour.summary()));
     return tour.succeeded() ? 0 : 1;
 }

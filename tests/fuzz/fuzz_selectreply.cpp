@@ -1,0 +1,26 @@
+// Replies of a web service become records of every kind of property, whatever they hold.
+
+#include "SampleRecords.h"
+#include "SelectReply.h"
+
+#include <cstdint>
+
+namespace
+{
+
+template <RecordClass T>
+void read(QByteArrayView reply)
+{
+    QList<T> records;
+    appendSelectReply(reply, RecordList(records));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const QByteArrayView reply(data, qsizetype(size));
+    read<PriceSchema>(reply);
+    read<OddSchema>(reply);
+    return 0;
+}
