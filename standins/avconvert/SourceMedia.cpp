@@ -98,7 +98,7 @@ Media parseMedia(std::string_view text)
     return media;
 }
 
-Media lookInto(const std::string &path, int passed)
+Media lookInto(const std::string &path)
 {
     const std::string address = "file:" + path;
     Command probe{.program = "ffprobe", .package = "ffmpeg", .arguments = {"-v", "error"}};
@@ -110,9 +110,6 @@ Media lookInto(const std::string &path, int passed)
     for (const std::string &argument : {std::string("-show_entries"), entries, std::string("-of"),
                                         std::string("compact"), std::string("-i"), address})
         probe.arguments.push_back(argument);
-    if (passed >= 0)
-        probe.passed = {passed};
-
     std::string text;
     const Finished finished = runToEnd(probe, [&text](std::string_view bytes) { text += bytes; });
     if (!finished.succeeded()) {

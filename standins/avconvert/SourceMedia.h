@@ -35,9 +35,9 @@ struct Media {
 // protocols alone still admit local files. To be given before the input.
 std::vector<std::string> readingOptions();
 
-// Looks into a file. `passed` is a descriptor that the child needs to see the path, or -1.
-// Fails with ffprobe's own words for anything that is no video or sound file.
-Media lookInto(const std::string &path, int passed = -1);
+// Looks into a file with an absolute path. Fails with ffprobe's own words for anything that is no
+// video or sound file.
+Media lookInto(const std::string &path);
 
 // Reads ffprobe's "compact" output: one line for each stream and for the file.
 Media parseMedia(std::string_view text);

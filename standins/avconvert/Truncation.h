@@ -16,6 +16,6 @@ void requireAnnouncedSize(const std::string &path);
 
 // After it: fails when the result is shorter than the streams that were taken from the source, by
 // more than a second and 5 %. `path` is the source's, for the message.
-void requireAnnouncedLength(const Media &source, const Media &result, const std::string &path);
+void requireAnnouncedLength(const Media &source, double resultSeconds, const std::string &path);
 
 } // namespace standin

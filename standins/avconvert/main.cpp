@@ -3,10 +3,13 @@
 #include "Checks.h"
 #include "ConversionArguments.h"
 #include "Failure.h"
+#include "MovieFile.h"
 #include "OutputFile.h"
 #include "Program.h"
 #include "RunToEnd.h"
 #include "Truncation.h"
+
+#include <optional>
 
 using namespace standin;
 
@@ -30,27 +33,54 @@ Job jobFrom(const Arguments &arguments)
     return {preset, arguments[3], arguments[5]};
 }
 
+// What most files hold.
+Media usualMedia()
+{
+    Media media;
+    media.streams = {{.index = 0, .type = "video", .codec = "h264", .isComplete = true},
+                     {.index = 1, .type = "audio", .codec = "aac", .isComplete = true}};
+    return media;
+}
+
+Media requireMedia(const std::string &path)
+{
+    requireAnnouncedSize(path);
+    Media media = lookInto(path);
+    if (!media.firstVideo() && media.audio().empty())
+        fail(path, "Holds neither picture nor sound");
+    return media;
+}
+
+// The encoder starts before ffprobe has told what the file holds: starting either takes as long as
+// converting some seconds of a small video. Where the guess was wrong it starts once more.
+Media encode(const Preset &preset, const std::string &source, const OutputFile &output)
+{
+    Command command{.program = "ffmpeg", .package = "ffmpeg", .passed = {output.descriptor()}};
+    command.arguments = conversionArguments(preset, usualMedia(), source, output.descriptorPath());
+    std::optional<CapturedChild> encoder(std::in_place, command);
+    Media media = requireMedia(source);
+    auto arguments = conversionArguments(preset, media, source, output.descriptorPath());
+    if (command.arguments != arguments) {
+        command.arguments = std::move(arguments);
+        encoder.emplace(command);
+    }
+    const Finished finished = encoder->finish([](std::string_view) {});
+    if (!finished.succeeded())
+        fail(source, finished.lastWords);
+    return media;
+}
+
 void convert(const Job &job)
 {
     requireRegularFile(job.source);
     requireDifferentFiles(job.source, job.output);
     const std::string source = resolved(job.source);
     OutputFile output(job.output);
-
-    requireAnnouncedSize(source);
-    const Media media = lookInto(source);
-    if (!media.firstVideo() && media.audio().empty())
-        fail(job.source, "Holds neither picture nor sound");
-    const Finished finished = runToEnd(
-        {.program = "ffmpeg",
-         .package = "ffmpeg",
-         .arguments = conversionArguments(*job.preset, media, source, output.descriptorPath()),
-         .passed = {output.descriptor()}},
-        [](std::string_view) {});
-    if (!finished.succeeded())
-        fail(job.source, finished.lastWords);
-    requireAnnouncedLength(media, lookInto(output.descriptorPath(), output.descriptor()),
-                           job.source);
+    const Media media = encode(*job.preset, source, output);
+    const auto seconds = movieSeconds(output.descriptor());
+    if (!seconds)
+        fail(job.output, "Was not written to its end");
+    requireAnnouncedLength(media, *seconds, source);
     output.commit();
 }
 

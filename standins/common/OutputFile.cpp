@@ -134,7 +134,7 @@ void OutputFile::commit()
 {
     if (::fchmod(m_file.number(), modeOfNewFiles()) != 0 && errno != EPERM) // EPERM: no modes there
         failWithError(m_target, errno);
-    if (::fsync(m_file.number()) != 0)
+    if (replacesFile() && ::fsync(m_file.number()) != 0)
         failWithError(m_target, errno);
     if (m_temporaryPath.empty())
         giveName();
@@ -142,6 +142,12 @@ void OutputFile::commit()
         failWithError(m_target, errno);
     forgetTemporary();
     m_temporaryPath.clear();
+}
+
+bool OutputFile::replacesFile() const
+{
+    struct stat status;
+    return ::lstat(m_target.c_str(), &status) == 0;
 }
 
 void OutputFile::dropName()

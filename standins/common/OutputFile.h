@@ -43,7 +43,9 @@ public:
     // Writes at the current position; a short write goes on, an error fails.
     void write(const void *data, std::size_t size);
 
-    // Flushes to the disk, gives the file the mode 0666 less the umask, and renames it.
+    // Gives the file the mode 0666 less the umask and renames it. Where it replaces an older file
+    // it is flushed to the disk first, so that not even a power cut leaves neither of the two; a
+    // new file need not wait for the disk.
     void commit();
 
 private:
@@ -51,6 +53,7 @@ private:
     void openNamed();
     void giveName();
     void dropName();
+    bool replacesFile() const;
 
     std::string m_target;
     std::string m_folder;

@@ -1,7 +1,6 @@
 #include "RunToEnd.h"
 
 #include "LastWords.h"
-#include "Pipe.h"
 
 #include <poll.h>
 
@@ -54,25 +53,35 @@ bool drain(FileDescriptor &output, const OutputSink &sink, FileDescriptor &error
     return true;
 }
 
-} // namespace
-
-Finished runToEnd(Command command, const OutputSink &sink, std::chrono::milliseconds limit)
+Command connected(Command command, const Pipe &output, const Pipe &errors)
 {
-    Pipe output;
-    Pipe errors;
     command.output = output.writeEnd.number();
     command.errors = errors.writeEnd.number();
-    Child child(command);
-    output.writeEnd.close();
-    errors.writeEnd.close();
+    return command;
+}
 
+} // namespace
+
+CapturedChild::CapturedChild(Command command)
+    : m_program(command.program), m_child(connected(std::move(command), m_output, m_errors))
+{
+    m_output.writeEnd.close();
+    m_errors.writeEnd.close();
+}
+
+Finished CapturedChild::finish(const OutputSink &sink, std::chrono::milliseconds limit)
+{
     LastWords words;
     const OutputSink keepWords = [&words](std::string_view bytes) { words.add(bytes); };
-    if (!drain(output.readEnd, sink, errors.readEnd, keepWords, limit))
-        child.kill();
-    const ChildEnd end = child.wait();
-    return {end,
-            words.text().empty() ? command.program + " ended with " + end.text() : words.text()};
+    if (!drain(m_output.readEnd, sink, m_errors.readEnd, keepWords, limit))
+        m_child.kill();
+    const ChildEnd end = m_child.wait();
+    return {end, words.text().empty() ? m_program + " ended with " + end.text() : words.text()};
+}
+
+Finished runToEnd(const Command &command, const OutputSink &sink, std::chrono::milliseconds limit)
+{
+    return CapturedChild(command).finish(sink, limit);
 }
 
 } // namespace standin

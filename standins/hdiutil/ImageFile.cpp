@@ -18,9 +18,6 @@ namespace
 // inside the kernel, and the only way to gather small files.
 constexpr std::size_t bufferSize = 64 << 10;
 
-// Smaller pieces cost more in calls than they gain.
-constexpr std::uint64_t writingPiece = 8 << 20;
-
 struct Range {
     std::uint64_t from;
     std::uint64_t to;
@@ -162,17 +159,6 @@ void ImageFile::flush()
     put(m_bufferStart, {m_buffer.get(), m_used});
     m_bufferStart += m_used;
     m_used = 0;
-    startWriting();
-}
-
-// The disk works while we read on, so that the flush of the finished file has little left to do.
-void ImageFile::startWriting()
-{
-    if (m_bufferStart - m_handedOver < writingPiece)
-        return;
-    ::sync_file_range(m_descriptor, static_cast<off_t>(m_handedOver),
-                      static_cast<off_t>(m_bufferStart - m_handedOver), SYNC_FILE_RANGE_WRITE);
-    m_handedOver = m_bufferStart;
 }
 
 } // namespace hfs

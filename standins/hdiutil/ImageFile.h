@@ -43,13 +43,11 @@ private:
                               const std::string &sourcePath);
     std::uint64_t appendLastHole(int source, std::uint64_t from, std::uint64_t to,
                                  const std::string &sourcePath);
-    void startWriting();
     void put(std::uint64_t offset, ByteView bytes);
 
     int m_descriptor;
     std::string m_path;
     std::uint64_t m_bufferStart = 0; // where the buffer belongs in the file
-    std::uint64_t m_handedOver = 0; // up to here the kernel was told to write
     std::size_t m_used = 0; // bytes in the buffer
     std::unique_ptr<std::uint8_t[]> m_buffer;
 };

@@ -16,9 +16,9 @@ private Q_SLOTS:
     // Long enough that the encoder cannot be through when the test sees it run.
     void initTestCase()
     {
-        m_source = m_media.make(
-            u"long.avi"_s,
-            u"-f lavfi -i mptestsrc=r=25:d=120 -s 704x576 -c:v mpeg4 -preset ultrafast"_s);
+        const QString clip =
+            m_media.make(u"clip.avi"_s, u"-f lavfi -i mptestsrc=r=25:d=2 -s 352x288 -c:v mpeg4"_s);
+        m_source = m_media.make(u"long.avi"_s, u"-stream_loop 90 -i %1 -c copy"_s.arg(clip));
         writeFile(m_media.path(u"out.m4v"_s), "older");
     }
 

@@ -89,6 +89,7 @@ QList<int> childrenOf(qint64 process)
 bool isRunning(int process)
 {
     const QByteArray line = contentOf(u"/proc/%1/stat"_s.arg(process));
-    const char state = line.mid(line.lastIndexOf(')') + 2, 1).toStdString().c_str()[0];
+    const qsizetype position = line.lastIndexOf(')') + 2;
+    const char state = position < line.size() ? line[position] : '\0';
     return state != '\0' && state != 'Z' && state != 'X';
 }

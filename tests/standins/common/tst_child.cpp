@@ -145,6 +145,26 @@ private Q_SLOTS:
         }
     }
 
+    void letsTheDetachedGoOn()
+    {
+        Pipe pipe;
+        Command command = shell("readlink /proc/$$/fd/2; echo $$; exec sleep 60");
+        command.output = pipe.writeEnd.number();
+        command.lifetime = Command::Lifetime::Detached;
+        {
+            Child child(command);
+            QVERIFY(!child.waitFor(300));
+        }
+        char text[100] = {};
+        QVERIFY(::read(pipe.readEnd.number(), text, sizeof text - 1) > 0);
+        const QByteArrayList lines = QByteArray(text).split('\n');
+        QCOMPARE(lines[0], "/dev/null");
+        const pid_t number = lines[1].toInt();
+        QVERIFY(number > 0 && isRunning(number));
+        ::kill(number, SIGKILL);
+        ::waitpid(number, nullptr, 0);
+    }
+
     void diesWithTheProgram_data()
     {
         QTest::addColumn<int>("signal");
@@ -159,6 +179,7 @@ private Q_SLOTS:
         QVERIFY(child > 0 && isRunning(child));
         ::kill(parent, signal);
         int status = 0;
+        QTRY_VERIFY(!isRunning(parent)); // now a zombie
         ::waitpid(parent, &status, 0);
         if (signal == SIGKILL) { // the kernel kills the child, in its own time
             QTRY_VERIFY(!isRunning(child));
