@@ -4,6 +4,9 @@ set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
+# Where ccache is installed, clones and work trees share what they have compiled.
+export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
+
 say() { printf '%s\n' "toolvane: $*"; }
 
 # packages_of SECTION…: the package names in these sections of the one list.
