@@ -1,12 +1,21 @@
 #include "LoginDelegate.h"
 
+#include "Global.h"
+#include "Login.h"
+#include "MiscTool.h"
 #include "ui_LoginWindow.h"
+
+#include <QHideEvent>
+#include <QShortcut>
 
 LoginDelegate::LoginDelegate(QWidget *parent)
     : QWidget(parent, Qt::Window), ui(std::make_unique<Ui::LoginWindow>())
 {
     ui->setupUi(this);
     connect(ui->userField, &QLineEdit::returnPressed, this, &LoginDelegate::userAction);
+    connect(ui->passwordField, &QLineEdit::returnPressed, this, &LoginDelegate::loginAction);
+    connect(ui->loginButton, &QPushButton::clicked, this, &LoginDelegate::loginAction);
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, &QWidget::close);
     awakeFromNib();
 }
 
@@ -27,4 +36,42 @@ void LoginDelegate::initLocalizable()
 void LoginDelegate::userAction()
 {
     ui->passwordField->setFocus();
+}
+
+void LoginDelegate::loginAction()
+{
+    const QString user = ui->userField->text();
+    const QString password = ui->passwordField->text();
+    if (user.isEmpty() || password.isEmpty())
+        return MiscTool::shakeWindow(this);
+    const QList<UserSchema> found = Login::matchingUsers(user, password);
+    if (found.size() != 1)
+        return MiscTool::shakeWindow(this);
+    logIn(found.first());
+}
+
+void LoginDelegate::logIn(const UserSchema &user)
+{
+    Global::setLoggedUser(user);
+    if (mainWindow)
+        mainWindow->setWindowTitle(user.User);
+    MiscTool::hideWindow(this);
+    MiscTool::showWindow(mainWindow);
+    Q_EMIT loggedIn();
+}
+
+void LoginDelegate::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    ui->userField->setFocus();
+    ui->userField->selectAll();
+}
+
+void LoginDelegate::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    if (!event->spontaneous())
+        ui->passwordField->clear(); // it is not left behind for whoever opens the window next
 }

@@ -9,8 +9,10 @@ namespace Ui
 class LoginWindow;
 }
 
+class UserSchema;
+
 /// The login window: the application's name, a user name and a password. Hidden at start; the tools
-/// need no login.
+/// need no login. A login that is refused shakes the window and says nothing more.
 class LoginDelegate : public QWidget
 {
     Q_OBJECT
@@ -19,12 +21,24 @@ public:
     explicit LoginDelegate(QWidget *parent = nullptr);
     ~LoginDelegate() override;
 
+    QWidget *mainWindow = nullptr; ///< Takes the user's name as its title; may be missing.
+
+    void userAction(); ///< The name is typed: on to the password.
+    void loginAction();
+
     static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
+
+Q_SIGNALS:
+    void loggedIn(); ///< The session's user is another one now.
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
 
 private:
     void awakeFromNib();
     void initLocalizable();
-    void userAction(); ///< The name is typed: on to the password.
+    void logIn(const UserSchema &user);
 
     std::unique_ptr<Ui::LoginWindow> ui;
 };

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "AbstractViewController.h"
+
+#include <algorithm>
+
+/// What a record page does with records of its class: loading, saving and deleting, in the shape
+/// that all pages share.
+template <RecordClass Record>
+class RecordViewController : public AbstractViewController
+{
+public:
+    QList<Record> data; ///< The rows, in the order in which they were loaded.
+
+    int numberOfRowsInTableView() const override { return int(data.size()); }
+
+    void reloadData() override
+    {
+        if (!mayView())
+            return;
+        const int row = selectedRow();
+        const std::optional<int> selected = row < 0 ? std::nullopt : std::optional(data[row].ID);
+        loadRecords();
+        reloadTable();
+        if (selected)
+            selectID(*selected);
+    }
+
+protected:
+    using AbstractViewController::AbstractViewController;
+
+    /// A new record from the sheet's fields, `ID` and `ShopID` 0.
+    virtual Record getSchema() = 0;
+
+    virtual void loadRecords()
+    {
+        blGeneral = std::make_unique<BLGeneral>(QString(m_module.table));
+        data = blGeneral->select("1=1", Record{}).value_or(QList<Record>());
+    }
+
+    /// The record that replaces the one with this key.
+    virtual Record editedRecord(int ID)
+    {
+        Record record = getSchema();
+        record.ID = ID;
+        return record;
+    }
+
+    /// Whether any record of the table satisfies the condition.
+    bool isTaken(const QString &whereClause)
+    {
+        if (!blGeneral)
+            return false;
+        const auto found = blGeneral->select(whereClause, Record{});
+        return found && !found->isEmpty();
+    }
+
+    bool writeRecord() override
+    {
+        if (!blGeneral)
+            return false;
+        if (operation == Operation::AddRecord)
+            return blGeneral->insert(getSchema());
+        const int row = selectedRow();
+        if (operation != Operation::EditRecord || row < 0)
+            return false;
+        return blGeneral->update(editedRecord(data[row].ID));
+    }
+
+    void deleteRecord(int row) override
+    {
+        if (row < 0 || !blGeneral
+            || !blGeneral->delete_(QStringLiteral("ID=") + QString::number(data[row].ID)))
+            return;
+        data.removeAt(row);
+        reloadTable();
+    }
+
+    int newestID() const override
+    {
+        const auto newest = std::ranges::max_element(data, {}, &Record::ID);
+        return newest == data.end() ? 0 : std::max(newest->ID, 0);
+    }
+
+    void selectID(int ID) override
+    {
+        const auto found = std::ranges::find(data, ID, &Record::ID);
+        if (found != data.end())
+            selectRow(int(found - data.begin()));
+    }
+};
