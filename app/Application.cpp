@@ -1,5 +1,6 @@
 #include "Application.h"
 
+#include "ConfiguredWebService.h"
 #include "HoverTableAppDelegate.h"
 #include "LoginDelegate.h"
 #include "NamedImage.h"
@@ -7,12 +8,18 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QTimer>
 #include <QTranslator>
 
+#include <chrono>
+
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
+
+constexpr auto windowIconDelay = 300ms;
 
 void installTexts()
 {
@@ -33,14 +40,16 @@ void Application::prepare()
     QCoreApplication::setApplicationVersion(QLatin1String(TOOLVANE_VERSION));
     QGuiApplication::setApplicationDisplayName(u"Toolvane"_s);
     QGuiApplication::setDesktopFileName(u"toolvane"_s);
-    QGuiApplication::setWindowIcon(namedImage(u"toolvane"_s));
     installTexts();
 }
 
-Application::Application() : m_window(m_jobs), m_loginWindow(std::make_unique<LoginDelegate>())
+Application::Application()
+    : m_window(m_jobs), m_loginWindow(std::make_unique<LoginDelegate>(&m_window))
 {
     m_window.connectOutlets(m_delegate);
     m_delegate.loginWindow = m_loginWindow.get();
+    m_loginWindow->mainWindow = &m_window;
+    m_window.connectRecords(*m_loginWindow);
     m_tools = std::make_unique<HoverTableAppDelegate>(allTools(), m_jobs, m_delegate,
                                                       m_window.tableView());
     m_window.connectTools(*m_tools);
@@ -49,3 +58,13 @@ Application::Application() : m_window(m_jobs), m_loginWindow(std::make_unique<Lo
 }
 
 Application::~Application() = default;
+
+void Application::start()
+{
+    openConfiguredWebService();
+    m_delegate.applicationDidFinishLaunching();
+    // A window's icon is drawn in every size that a window manager may ask for, which is work that
+    // nobody should wait for: the window comes first.
+    QTimer::singleShot(windowIconDelay, qApp,
+                       [] { QGuiApplication::setWindowIcon(namedImage(u"toolvane"_s)); });
+}

@@ -7,6 +7,7 @@
 #include <memory>
 
 class HoverTableAppDelegate;
+class LoginDelegate;
 
 /// Everything that the main interface description stands for, made and connected in the right
 /// order: the windows, the delegate, the sidebar with its pages, and the list of what runs.
@@ -20,7 +21,7 @@ public:
     /// texts of the user's language. Call once, before any window is made.
     static void prepare();
 
-    void start() { m_delegate.applicationDidFinishLaunching(); }
+    void start();
 
     MainWindow &window() { return m_window; }
     HoverTableAppDelegate &tools() { return *m_tools; }
@@ -31,6 +32,6 @@ private:
     JobList m_jobs;
     AppDelegate m_delegate;
     MainWindow m_window;
-    std::unique_ptr<QWidget> m_loginWindow;
+    std::unique_ptr<LoginDelegate> m_loginWindow;
     std::unique_ptr<HoverTableAppDelegate> m_tools;
 };

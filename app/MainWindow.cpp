@@ -1,9 +1,13 @@
 #include "MainWindow.h"
 
+#include "AboutViewController.h"
 #include "AppDelegate.h"
 #include "HoverTableAppDelegate.h"
 #include "JobList.h"
+#include "LoginDelegate.h"
+#include "MiscTool.h"
 #include "NamedImage.h"
+#include "RecordWindow.h"
 #include "ToolbarTitle.h"
 #include "ui_MainWindow.h"
 
@@ -26,6 +30,7 @@ MainWindow::MainWindow(JobList &jobs) : ui(std::make_unique<Ui::MainWindow>()), 
 {
     ui->setupUi(this);
     fillToolbar();
+    connect(ui->aboutItem, &QAction::triggered, this, &MainWindow::showAbout);
     connect(ui->quitItem, &QAction::triggered, this, &QWidget::close);
     restoreGeometry(QSettings().value(geometryKey).toByteArray());
 }
@@ -35,11 +40,21 @@ MainWindow::~MainWindow() = default;
 void MainWindow::fillToolbar()
 {
     ui->websiteItem->setIcon(namedImage(u"website"_s));
+    ui->aboutItem->setIcon(namedImage(u"about"_s));
     ui->toolbar->addWidget(new ToolbarTitle(ui->appNameItem, ui->toolbar));
     auto *spacer = new QWidget(ui->toolbar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     ui->toolbar->addWidget(spacer);
     ui->toolbar->addAction(ui->websiteItem);
+    ui->toolbar->addAction(ui->aboutItem);
+}
+
+void MainWindow::showAbout()
+{
+    if (!m_about)
+        m_about = new AboutViewController(ui->container);
+    ui->tableView->clearSelection(); // the page that is shown is none of the list's
+    ui->container->setContentView(m_about);
 }
 
 void MainWindow::connectOutlets(AppDelegate &delegate)
@@ -59,6 +74,19 @@ void MainWindow::connectTools(HoverTableAppDelegate &tools)
         item->setShortcut(QKeySequence(Qt::CTRL | static_cast<Qt::Key>(Qt::Key_1 + row)));
         connect(item, &QAction::triggered, &tools, [&tools, row] { tools.selectTool(row); });
     }
+}
+
+void MainWindow::connectRecords(LoginDelegate &login)
+{
+    connect(ui->loginItem, &QAction::triggered, &login, [&login] { MiscTool::showWindow(&login); });
+    // What is open belongs to whoever was logged in before.
+    connect(&login, &LoginDelegate::loggedIn, this, [this] { RecordWindow::closeOf(*this); });
+    const auto opens = [this](const QAction *item, RecordWindow::Page page) {
+        connect(item, &QAction::triggered, this, [this, page] { RecordWindow::open(page, *this); });
+    };
+    opens(ui->userGroupsItem, RecordWindow::Page::UserGroups);
+    opens(ui->usersItem, RecordWindow::Page::Users);
+    opens(ui->stockItem, RecordWindow::Page::Stock);
 }
 
 HoverTableView &MainWindow::tableView() const

@@ -9,10 +9,12 @@ namespace Ui
 class MainWindow;
 }
 
+class AboutViewController;
 class AppDelegate;
 class HoverTableAppDelegate;
 class HoverTableView;
 class JobList;
+class LoginDelegate;
 class QMessageBox;
 
 /// The one window: toolbar, menu bar, sidebar and page area. Remembers its place and size, and asks
@@ -30,6 +32,9 @@ public:
     /// Lists the tools in the menu, each with Ctrl and its number.
     void connectTools(HoverTableAppDelegate &tools);
 
+    /// Lets the Records menu open the login window and the record pages.
+    void connectRecords(LoginDelegate &login);
+
     HoverTableView &tableView() const;
 
 Q_SIGNALS:
@@ -42,9 +47,11 @@ protected:
 
 private:
     void fillToolbar();
+    void showAbout();
     void askBeforeClosing();
     void quitWithoutFinishing();
 
     std::unique_ptr<Ui::MainWindow> ui;
     JobList &m_jobs;
+    AboutViewController *m_about = nullptr; ///< Made when it is asked for the first time.
 };

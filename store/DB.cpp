@@ -95,13 +95,33 @@ QString DB::getDBType()
     return state.type;
 }
 
+// Values come unescaped into the text, so one that holds a quote and a semicolon could smuggle in a
+// statement of its own: a call runs one statement. The library says where the first one ends.
+static bool isOneStatement(sqlite3 *database, const QByteArray &sql)
+{
+    if (!sql.contains(';'))
+        return true;
+    sqlite3_stmt *statement = nullptr;
+    const char *rest = nullptr;
+    const int code = sqlite3_prepare_v2(database, sql.constData(), -1, &statement, &rest);
+    sqlite3_finalize(statement);
+    return code != SQLITE_OK // which running it will tell better
+        || QByteArrayView(rest).trimmed().isEmpty();
+}
+
 int DB::exec(const QString &sql)
 {
     int code = -1;
     char *message = nullptr;
     if (isLocal()) {
-        code = sqlite3_exec(DBState::current().usableHandle(), sql.toUtf8().constData(), nullptr,
-                            nullptr, &message);
+        sqlite3 *const database = DBState::current().usableHandle();
+        const QByteArray text = sql.toUtf8();
+        if (isOneStatement(database, text)) {
+            code = sqlite3_exec(database, text.constData(), nullptr, nullptr, &message);
+        } else {
+            code = SQLITE_MISUSE;
+            message = sqlite3_mprintf("more than one statement");
+        }
         if (code == SQLITE_OK)
             return code;
     }

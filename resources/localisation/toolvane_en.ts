@@ -3,9 +3,37 @@
 <TS version="2.1" language="en">
 <context>
     <name></name>
+    <message id="About.Apps.Name">
+        <source>Applications of the maker</source>
+        <translation>Applications of the maker</translation>
+    </message>
+    <message id="About.Email">
+        <source>&amp;E-mail</source>
+        <translation>&amp;E-mail</translation>
+    </message>
+    <message id="About.Title">
+        <source>About Toolvane</source>
+        <translation>About Toolvane</translation>
+    </message>
+    <message id="About.Version">
+        <source>Version %1. Everyday file and media tools in one place.</source>
+        <translation>Version %1. Everyday file and media tools in one place.</translation>
+    </message>
+    <message id="About.Web">
+        <source>&amp;Web</source>
+        <translation>&amp;Web</translation>
+    </message>
+    <message id="Add">
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
     <message id="AppName">
         <source>Toolvane</source>
         <translation>Toolvane</translation>
+    </message>
+    <message id="Apps">
+        <source>Applications</source>
+        <translation>Applications</translation>
     </message>
     <message id="Authorization Failed">
         <source>Access was not granted.</source>
@@ -59,6 +87,14 @@
         <source>Caches </source>
         <translation>Caches </translation>
     </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="Category">
+        <source>Category</source>
+        <translation>Category</translation>
+    </message>
     <message id="Check">
         <source>Check</source>
         <translation>Check</translation>
@@ -87,6 +123,30 @@
         <source>The video could not be converted. Check that the source is a complete video and that there is enough free space, then try again.</source>
         <translation>The video could not be converted. Check that the source is a complete video and that there is enough free space, then try again.</translation>
     </message>
+    <message id="DefaultUserGroup">
+        <source>Default Group</source>
+        <translation>Default Group</translation>
+    </message>
+    <message id="DefaultUserGroupMemo">
+        <source>Made by Toolvane for a start</source>
+        <translation>Made by Toolvane for a start</translation>
+    </message>
+    <message id="DelConfirm">
+        <source>Delete the selected entry?</source>
+        <translation>Delete the selected entry?</translation>
+    </message>
+    <message id="Delete">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="DelInfo">
+        <source>It cannot be brought back.</source>
+        <translation>It cannot be brought back.</translation>
+    </message>
+    <message id="Desc">
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
     <message id="DMG">
         <source>Disk Image</source>
         <translation>Disk Image</translation>
@@ -98,6 +158,14 @@
     <message id="Downloads">
         <source>Downloads </source>
         <translation>Downloads </translation>
+    </message>
+    <message id="Edit">
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="Email">
+        <source>Writes to the maker</source>
+        <translation>Writes to the maker</translation>
     </message>
     <message id="Faster">
         <source>Faster</source>
@@ -114,6 +182,10 @@
     <message id="Generate">
         <source>&amp;Generate</source>
         <translation>&amp;Generate</translation>
+    </message>
+    <message id="Icon">
+        <source>Icon</source>
+        <translation>Icon</translation>
     </message>
     <message id="Image.Output.Name">
         <source>Image file to make</source>
@@ -147,6 +219,10 @@
         <source>The name that the image shows when it is opened</source>
         <translation>The name that the image shows when it is opened</translation>
     </message>
+    <message id="Inventory">
+        <source>Inventory</source>
+        <translation>Inventory</translation>
+    </message>
     <message id="ISO">
         <source>CD Image</source>
         <translation>CD Image</translation>
@@ -154,6 +230,10 @@
     <message id="ISO.Subtitle">
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Makes a CD image (ISO) of a folder that every desktop system can read.</translation>
+    </message>
+    <message id="Login.Button">
+        <source>&amp;Log In</source>
+        <translation>&amp;Log In</translation>
     </message>
     <message id="Login.Password.Name">
         <source>Password</source>
@@ -175,6 +255,14 @@
         <source>Mail downloads </source>
         <translation>Mail downloads </translation>
     </message>
+    <message id="Memo">
+        <source>Memo</source>
+        <translation>Memo</translation>
+    </message>
+    <message id="Menu.About">
+        <source>&amp;About Toolvane</source>
+        <translation>&amp;About Toolvane</translation>
+    </message>
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>&amp;File</translation>
@@ -187,13 +275,33 @@
         <source>&amp;Quit</source>
         <translation>&amp;Quit</translation>
     </message>
+    <message id="Menu.Records">
+        <source>&amp;Records</source>
+        <translation>&amp;Records</translation>
+    </message>
     <message id="Menu.Tools">
         <source>&amp;Tools</source>
         <translation>&amp;Tools</translation>
     </message>
+    <message id="Name">
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message id="NoPermissionAlert">
+        <source>Your user group does not have this right.</source>
+        <translation>Your user group does not have this right.</translation>
+    </message>
+    <message id="NoPermissionInfo">
+        <source>Log in as somebody who may open this page, or ask for the right to be added to your group.</source>
+        <translation>Log in as somebody who may open this page, or ask for the right to be added to your group.</translation>
+    </message>
     <message id="Not Authorized Error">
         <source>Access to your home folder is not granted yet.</source>
         <translation>Access to your home folder is not granted yet.</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
     <message id="Operation">
         <source>Operation</source>
@@ -223,6 +331,22 @@
         <source>Password</source>
         <translation>Password</translation>
     </message>
+    <message id="PasswordNotSameAlert">
+        <source>The two passwords differ. Enter the same password twice.</source>
+        <translation>The two passwords differ. Enter the same password twice.</translation>
+    </message>
+    <message id="PasswordNullAlert">
+        <source>There is no password yet. Enter one.</source>
+        <translation>There is no password yet. Enter one.</translation>
+    </message>
+    <message id="PasswordOverLenAlert">
+        <source>The password is too long. Use at most 100 characters.</source>
+        <translation>The password is too long. Use at most 100 characters.</translation>
+    </message>
+    <message id="Permission">
+        <source>Rights</source>
+        <translation>Rights</translation>
+    </message>
     <message id="Please authorize again">
         <source>To check and clean, press Authorize again and choose your home folder.</source>
         <translation>To check and clean, press Authorize again and choose your home folder.</translation>
@@ -243,9 +367,17 @@
         <source>Choose where the converted video goes.</source>
         <translation>Choose where the converted video goes.</translation>
     </message>
+    <message id="Product">
+        <source>Product</source>
+        <translation>Product</translation>
+    </message>
     <message id="Progress">
         <source>Progress</source>
         <translation>Progress</translation>
+    </message>
+    <message id="Provider">
+        <source>Provider</source>
+        <translation>Provider</translation>
     </message>
     <message id="Quit.Consequence">
         <source>What runs now is stopped, and nothing half-written is left behind.</source>
@@ -271,6 +403,46 @@
         <source>Rea&amp;d</source>
         <translation>Rea&amp;d</translation>
     </message>
+    <message id="Records.Add">
+        <source>&amp;Add…</source>
+        <translation>&amp;Add…</translation>
+    </message>
+    <message id="Records.Delete">
+        <source>&amp;Delete…</source>
+        <translation>&amp;Delete…</translation>
+    </message>
+    <message id="Records.Edit">
+        <source>&amp;Edit…</source>
+        <translation>&amp;Edit…</translation>
+    </message>
+    <message id="Records.Empty">
+        <source>There are no entries yet.</source>
+        <translation>There are no entries yet.</translation>
+    </message>
+    <message id="Records.LogIn">
+        <source>&amp;Log In…</source>
+        <translation>&amp;Log In…</translation>
+    </message>
+    <message id="Records.Stock">
+        <source>&amp;Stock</source>
+        <translation>&amp;Stock</translation>
+    </message>
+    <message id="Records.Title">
+        <source>Records</source>
+        <translation>Records</translation>
+    </message>
+    <message id="Records.UserGroups">
+        <source>User &amp;Groups</source>
+        <translation>User &amp;Groups</translation>
+    </message>
+    <message id="Records.Users">
+        <source>&amp;Users</source>
+        <translation>&amp;Users</translation>
+    </message>
+    <message id="RePassword">
+        <source>Repeat password</source>
+        <translation>Repeat password</translation>
+    </message>
     <message id="Reset">
         <source>Back to the usual rate</source>
         <translation>Back to the usual rate</translation>
@@ -280,12 +452,12 @@
         <translation>Hear a sample</translation>
     </message>
     <message id="Save">
-        <source>&amp;Save…</source>
-        <translation>&amp;Save…</translation>
+        <source>&amp;Save</source>
+        <translation>&amp;Save</translation>
     </message>
     <message id="SaveFail">
-        <source>The speech could not be saved. Check the folder that you chose, or save a shorter text.</source>
-        <translation>The speech could not be saved. Check the folder that you chose, or save a shorter text.</translation>
+        <source>It could not be saved. Check what you entered and where it goes, then try again.</source>
+        <translation>It could not be saved. Check what you entered and where it goes, then try again.</translation>
     </message>
     <message id="SaveSuc">
         <source>The speech was saved. You find it in the file that you chose.</source>
@@ -306,6 +478,10 @@
     <message id="Sidebar.Tools">
         <source>Tools</source>
         <translation>Tools</translation>
+    </message>
+    <message id="Social">
+        <source>Keep in Touch</source>
+        <translation>Keep in Touch</translation>
     </message>
     <message id="Source">
         <source>&amp;Source</source>
@@ -351,6 +527,22 @@
         <source>There is no source yet. Choose what to work on first.</source>
         <translation>There is no source yet. Choose what to work on first.</translation>
     </message>
+    <message id="Stock">
+        <source>Stock</source>
+        <translation>Stock</translation>
+    </message>
+    <message id="Stock.Blank">
+        <source>There is nothing to fill in. Save stores a blank entry.</source>
+        <translation>There is nothing to fill in. Save stores a blank entry.</translation>
+    </message>
+    <message id="Stock.Column">
+        <source>Entry</source>
+        <translation>Entry</translation>
+    </message>
+    <message id="Stock.Hint">
+        <source>Stock entries carry nothing but their number so far.</source>
+        <translation>Stock entries carry nothing but their number so far.</translation>
+    </message>
     <message id="Store">
         <source>Store (no compression)</source>
         <translation>Store (no compression)</translation>
@@ -362,6 +554,14 @@
     <message id="TextNullAlert">
         <source>There is no text to read yet. Type or paste one first.</source>
         <translation>There is no text to read yet. Type or paste one first.</translation>
+    </message>
+    <message id="Toolbar.About">
+        <source>About</source>
+        <translation>About</translation>
+    </message>
+    <message id="Toolbar.About.Tip">
+        <source>Shows the version, and what else the maker has to offer</source>
+        <translation>Shows the version, and what else the maker has to offer</translation>
     </message>
     <message id="Toolbar.Name">
         <source>Toolbar</source>
@@ -382,6 +582,10 @@
     <message id="Trash">
         <source>Trash </source>
         <translation>Trash </translation>
+    </message>
+    <message id="Type">
+        <source>Kind</source>
+        <translation>Kind</translation>
     </message>
     <message id="Unzip">
         <source>Unzip</source>
@@ -435,13 +639,193 @@
         <source>Update</source>
         <translation>Update</translation>
     </message>
+    <message id="Update.Check">
+        <source>&amp;Check for Updates</source>
+        <translation>&amp;Check for Updates</translation>
+    </message>
+    <message id="Update.Checking">
+        <source>Asking the update server…</source>
+        <translation>Asking the update server…</translation>
+    </message>
+    <message id="Update.Download">
+        <source>&amp;Download</source>
+        <translation>&amp;Download</translation>
+    </message>
+    <message id="Update.Downloaded">
+        <source>Toolvane %1 is ready to be installed.</source>
+        <translation>Toolvane %1 is ready to be installed.</translation>
+    </message>
+    <message id="Update.Downloaded.Where">
+        <source>The download was checked and is now in your Downloads folder as %1.</source>
+        <translation>The download was checked and is now in your Downloads folder as %1.</translation>
+    </message>
+    <message id="Update.Downloading">
+        <source>Toolvane %1 is being downloaded.</source>
+        <translation>Toolvane %1 is being downloaded.</translation>
+    </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
         <translation>Toolvane %1 is installed.</translation>
     </message>
+    <message id="Update.Job">
+        <source>Downloading an update</source>
+        <translation>Downloading an update</translation>
+    </message>
+    <message id="Update.LastCheck">
+        <source>Last check: %1.</source>
+        <translation>Last check: %1.</translation>
+    </message>
+    <message id="Update.LastCheck.Result">
+        <source>Last check: %1. %2</source>
+        <translation>Last check: %1. %2</translation>
+    </message>
+    <message id="Update.NoFeed">
+        <source>No update server is set up.</source>
+        <translation>No update server is set up.</translation>
+    </message>
+    <message id="Update.NoFeed.Help">
+        <source>Write the address of the maker's feed into the settings file %1, as UpdateFeed in the section [Addresses]. Then check for updates.</source>
+        <translation>Write the address of the maker's feed into the settings file %1, as UpdateFeed in the section [Addresses]. Then check for updates.</translation>
+    </message>
+    <message id="Update.NoKey">
+        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
+        <translation>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</translation>
+    </message>
+    <message id="Update.NoNotes">
+        <source>No notes come with this version.</source>
+        <translation>No notes come with this version.</translation>
+    </message>
+    <message id="Update.NotDownloaded">
+        <source>Toolvane %1 was not downloaded.</source>
+        <translation>Toolvane %1 was not downloaded.</translation>
+    </message>
+    <message id="Update.Notes">
+        <source>What Is New</source>
+        <translation>What Is New</translation>
+    </message>
+    <message id="Update.Notes.Name">
+        <source>Notes of the new version</source>
+        <translation>Notes of the new version</translation>
+    </message>
+    <message id="Update.Open">
+        <source>&amp;Open Again</source>
+        <translation>&amp;Open Again</translation>
+    </message>
+    <message id="Update.Problem.Incomplete">
+        <source>Less arrived than the server had announced. Try again.</source>
+        <translation>Less arrived than the server had announced. Try again.</translation>
+    </message>
+    <message id="Update.Problem.NoDate">
+        <source>It bears no date, so it may be an old copy. Nothing of it was used.</source>
+        <translation>It bears no date, so it may be an old copy. Nothing of it was used.</translation>
+    </message>
+    <message id="Update.Problem.NoSignatureLibrary">
+        <source>The library that checks signatures (libsodium) is not installed. Install it and try again.</source>
+        <translation>The library that checks signatures (libsodium) is not installed. Install it and try again.</translation>
+    </message>
+    <message id="Update.Problem.NotAFeed">
+        <source>What the server sent is no list of versions. Try again later.</source>
+        <translation>What the server sent is no list of versions. Try again later.</translation>
+    </message>
+    <message id="Update.Problem.NotWritten">
+        <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
+        <translation>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</translation>
+    </message>
+    <message id="Update.Problem.Older">
+        <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
+        <translation>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</translation>
+    </message>
+    <message id="Update.Problem.Status">
+        <source>The server answered with the error %1. Try again later.</source>
+        <translation>The server answered with the error %1. Try again later.</translation>
+    </message>
+    <message id="Update.Problem.Stopped">
+        <source>It was stopped.</source>
+        <translation>It was stopped.</translation>
+    </message>
+    <message id="Update.Problem.TimedOut">
+        <source>The server took too long to answer. Try again later.</source>
+        <translation>The server took too long to answer. Try again later.</translation>
+    </message>
+    <message id="Update.Problem.TooLarge">
+        <source>The server sent more than it had announced or more than is allowed, so nothing was kept.</source>
+        <translation>The server sent more than it had announced or more than is allowed, so nothing was kept.</translation>
+    </message>
+    <message id="Update.Problem.Unreachable">
+        <source>There was no connection, or it broke off. Check your network and try again.</source>
+        <translation>There was no connection, or it broke off. Check your network and try again.</translation>
+    </message>
+    <message id="Update.Problem.UnsafeAddress">
+        <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
+        <translation>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</translation>
+    </message>
+    <message id="Update.Problem.Unsigned">
+        <source>It does not bear the maker's signature, so nothing of it was used.</source>
+        <translation>It does not bear the maker's signature, so nothing of it was used.</translation>
+    </message>
+    <message id="Update.Problem.WrongSignature">
+        <source>The maker's signature does not fit, so somebody else may have changed it. Nothing of it was kept.</source>
+        <translation>The maker's signature does not fit, so somebody else may have changed it. Nothing of it was kept.</translation>
+    </message>
+    <message id="Update.Progress">
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
+    </message>
+    <message id="Update.Result.Available">
+        <source>Toolvane %1 is available.</source>
+        <translation>Toolvane %1 is available.</translation>
+    </message>
+    <message id="Update.Result.NotReached">
+        <source>The update server could not be reached.</source>
+        <translation>The update server could not be reached.</translation>
+    </message>
+    <message id="Update.Result.NotTrusted">
+        <source>The answer of the update server cannot be trusted.</source>
+        <translation>The answer of the update server cannot be trusted.</translation>
+    </message>
+    <message id="Update.Result.Skipped">
+        <source>Toolvane %1 is available, but you chose to skip it.</source>
+        <translation>Toolvane %1 is available, but you chose to skip it.</translation>
+    </message>
+    <message id="Update.Result.UpToDate">
+        <source>Toolvane is up to date.</source>
+        <translation>Toolvane is up to date.</translation>
+    </message>
+    <message id="Update.Skip">
+        <source>S&amp;kip This Version</source>
+        <translation>S&amp;kip This Version</translation>
+    </message>
+    <message id="Update.State">
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message id="Update.Stop">
+        <source>Sto&amp;p</source>
+        <translation>Sto&amp;p</translation>
+    </message>
+    <message id="Update.Subtitle">
+        <source>Looks for a newer version of Toolvane, whenever you ask for it.</source>
+        <translation>Looks for a newer version of Toolvane, whenever you ask for it.</translation>
+    </message>
+    <message id="Update.Unasked">
+        <source>Check whether there is a newer version.</source>
+        <translation>Check whether there is a newer version.</translation>
+    </message>
+    <message id="Update.Unskip">
+        <source>&amp;Offer It Again</source>
+        <translation>&amp;Offer It Again</translation>
+    </message>
     <message id="User">
-        <source>User name</source>
-        <translation>User name</translation>
+        <source>User</source>
+        <translation>User</translation>
+    </message>
+    <message id="User.Group.Unlisted">
+        <source>The group stays as it is</source>
+        <translation>The group stays as it is</translation>
+    </message>
+    <message id="User.Hint">
+        <source>Each user logs in with a name and a password and belongs to one group.</source>
+        <translation>Each user logs in with a name and a password and belongs to one group.</translation>
     </message>
     <message id="UserCache">
         <source>User Cache</source>
@@ -487,6 +871,58 @@
         <source>Access not granted</source>
         <translation>Access not granted</translation>
     </message>
+    <message id="UserExistAlert">
+        <source>A user with this name already exists. Choose another name.</source>
+        <translation>A user with this name already exists. Choose another name.</translation>
+    </message>
+    <message id="UserGroup">
+        <source>User Group</source>
+        <translation>User Group</translation>
+    </message>
+    <message id="UserGroup.BasicInfo">
+        <source>Group</source>
+        <translation>Group</translation>
+    </message>
+    <message id="UserGroup.Hint">
+        <source>A group says what its users may see and change.</source>
+        <translation>A group says what its users may see and change.</translation>
+    </message>
+    <message id="UserGroup.Rights.Name">
+        <source>Rights of the group</source>
+        <translation>Rights of the group</translation>
+    </message>
+    <message id="UserGroupExistAlert">
+        <source>A group with this name already exists. Choose another name.</source>
+        <translation>A group with this name already exists. Choose another name.</translation>
+    </message>
+    <message id="UserGroupHasUsersAlert">
+        <source>The group still has users.</source>
+        <translation>The group still has users.</translation>
+    </message>
+    <message id="UserGroupHasUsersInfo">
+        <source>Move its users to another group or delete them, then delete the group.</source>
+        <translation>Move its users to another group or delete them, then delete the group.</translation>
+    </message>
+    <message id="UserGroupNullAlert">
+        <source>The group has no name yet. Enter one.</source>
+        <translation>The group has no name yet. Enter one.</translation>
+    </message>
+    <message id="UserGroupOverLenAlert">
+        <source>The group's name is too long. Use at most 100 characters.</source>
+        <translation>The group's name is too long. Use at most 100 characters.</translation>
+    </message>
+    <message id="UserNullAlert">
+        <source>The user has no name yet. Enter one.</source>
+        <translation>The user has no name yet. Enter one.</translation>
+    </message>
+    <message id="UserOverLenAlert">
+        <source>The user's name is too long. Use at most 100 characters.</source>
+        <translation>The user's name is too long. Use at most 100 characters.</translation>
+    </message>
+    <message id="View">
+        <source>View</source>
+        <translation>View</translation>
+    </message>
     <message id="Voice">
         <source>&amp;Voice</source>
         <translation>&amp;Voice</translation>
@@ -498,6 +934,10 @@
     <message id="VolumeNameNull">
         <source>The volume has no name yet. Enter the name that the image is to show.</source>
         <translation>The volume has no name yet. Enter the name that the image is to show.</translation>
+    </message>
+    <message id="Web">
+        <source>Opens the maker's web site in your browser</source>
+        <translation>Opens the maker's web site in your browser</translation>
     </message>
     <message id="Welcome.Hint">
         <source>Choose a tool on the left.</source>

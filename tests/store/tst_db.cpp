@@ -156,9 +156,8 @@ private Q_SLOTS:
         QCOMPARE(DB::exec(u"CREATE TABLE IF NOT EXISTS Price(ID INTEGER PRIMARY KEY AUTOINCREMENT,"
                           "Name TEXT,Amount REAL)"_s),
                  0);
-        QCOMPARE(DB::exec(u"INSERT INTO Price(Name,Amount) VALUES('Tür',1.5);"
-                          "INSERT INTO Price(Name) VALUES('b')"_s),
-                 0);
+        QCOMPARE(DB::exec(u"INSERT INTO Price(Name,Amount) VALUES('Tür',1.5); "_s), 0);
+        QCOMPARE(DB::exec(u"INSERT INTO Price(Name) VALUES('b')"_s), 0);
         QCOMPARE(DB::getTables(), QStringList{u"Price"_s});
         const QStringList columns{u"ID"_s, u"Name"_s, u"Amount"_s};
         QCOMPARE(DB::getColumns(u"Price"_s), columns);
@@ -174,6 +173,19 @@ private Q_SLOTS:
         QVERIFY(LogLines::take().isEmpty());
         DB::getRecordsBySQL(u"SELECT * FROM Price"_s, u"it's"_s);
         QCOMPARE(LogLines::take(), QStringList(2, u"[DB](getColumns):Select Failed."_s));
+    }
+
+    void aCallRunsOneStatement()
+    {
+        DB::open();
+        QCOMPARE(DB::exec(u"CREATE TABLE Price(ID INTEGER,Name TEXT)"_s), 0);
+        QCOMPARE(DB::exec(u"INSERT INTO Price VALUES(1,'a;b')"_s), 0);
+        QVERIFY(LogLines::take().isEmpty());
+        // What a value holds that ends its own quotes.
+        QCOMPARE(DB::exec(u"INSERT INTO Price VALUES(2,'x');DROP TABLE Price;--')"_s),
+                 SQLITE_MISUSE);
+        QCOMPARE(LogLines::take(), QStringList{u"[DB]->(exec):more than one statement"_s});
+        QCOMPARE(DB::getRecords(u"Price"_s).size(), 1);
     }
 
     void columnsAreCutOutByLength_data()

@@ -12,3 +12,5 @@ void visitVideo(Tour &tour);
 void visitSpeech(Tour &tour);
 void visitUserCache(Tour &tour);
 void visitUpdate(Tour &tour);
+void visitAbout(Tour &tour);
+void visitRecords(Tour &tour);

@@ -28,6 +28,8 @@ void visitAll(Tour &tour)
     visitSpeech(tour);
     visitUserCache(tour);
     visitUpdate(tour);
+    visitAbout(tour);
+    visitRecords(tour);
 }
 
 void resize(QWidget &window, const QString &size)

@@ -2,14 +2,11 @@
 
 #include "ui_UpdateViewController.h"
 
-#include <QCoreApplication>
-
-UpdateViewController::UpdateViewController(JobList &, QWidget *parent)
+UpdateViewController::UpdateViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::UpdateViewController>())
 {
     ui->setupUi(this);
-    ui->versionLabel->setText(
-        qtTrId("Update.Installed").arg(QCoreApplication::applicationVersion()));
+    ui->updateCheck->setJobs(jobs, objectName());
     awakeFromNib();
 }
 

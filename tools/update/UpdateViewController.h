@@ -11,7 +11,8 @@ class UpdateViewController;
 
 class JobList;
 
-/// The page for updates of the program itself. Holds its label and nothing else.
+/// The page for updates of the program itself. Holds its label and nothing else; the check is the
+/// UpdateCheckView that its interface description hosts.
 class UpdateViewController : public QWidget
 {
     Q_OBJECT

@@ -1,0 +1,203 @@
+// What a list of 1,000 applications with cached icons costs on the About page: work of the
+// interface thread until it stands there, pauses while it scrolls, memory for its icons. Rows end
+// with the figure, its limit and "ok" or "PASSED"; the exit status is 1 when one is passed.
+
+#include "AboutViewController.h"
+#include "MiscTool.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QStandardItemModel>
+#include <QTableView>
+#include <QTest>
+#include <QTranslator>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int apps = 1000;
+constexpr int rounds = 9;
+constexpr int step = 5 * 44; // pixels of one turn of the wheel, in rows
+
+bool row(const char *name, const char *unit, double value, double limit)
+{
+    std::printf("%-44s %-14s %7.2f %6.1f %s\n", name, unit, value, limit,
+                value <= limit ? "ok" : "PASSED");
+    return value <= limit;
+}
+
+QString textOf(int app)
+{
+    return u"Application %1 that does one thing well, and says so at some length"_s.arg(app);
+}
+
+void writeFile(const QString &name, const QByteArray &bytes)
+{
+    QFile file(QDir(MiscTool::getAppDocumentFolder()).filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("cannot write the sample list");
+}
+
+// Pictures that cannot be packed well, each another one.
+void writeIcon(int app)
+{
+    QImage image(128, 128, QImage::Format_ARGB32);
+    quint32 state = quint32(app);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            state = state * 1664525 + 1013904223;
+            image.setPixel(x, y, state | 0xff000000U);
+        }
+    }
+    image.save(QDir(MiscTool::getAppDocumentFolder()).filePath(u"icon-%1"_s.arg(app)), "png");
+}
+
+void writeList()
+{
+    QByteArray list = "<plist version=\"1.0\"><dict><key>Apps</key><array>";
+    for (int app = 0; app < apps; ++app) {
+        list += "<dict><key>Icon</key><string>icon-" + QByteArray::number(app)
+            + "</string><key>Name</key><string>" + QByteArray::number(app)
+            + "</string><key>Desc</key><string>" + textOf(app).toUtf8()
+            + "</string><key>Type</key><string>Tool</string></dict>";
+        writeIcon(app);
+    }
+    writeFile(u"Apps.plist"_s, list + "</array></dict></plist>");
+}
+
+/// Milliseconds that this thread has worked.
+double work()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
+double memory()
+{
+    QFile status(u"/proc/self/status"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    const QByteArray text = status.readAll();
+    return text.mid(text.indexOf("VmRSS:") + 6).trimmed().split(' ').first().toDouble() / 1024;
+}
+
+bool showsIcons(QTableView &table)
+{
+    const int last = std::max(0, table.rowAt(table.viewport()->height() - 1));
+    for (int line = table.rowAt(0); line <= last; ++line) {
+        const QModelIndex cell = table.model()->index(line, 0);
+        if (!cell.isValid() || cell.data(Qt::DecorationRole).value<QIcon>().isNull())
+            return false;
+    }
+    return true;
+}
+
+double pageWork(std::unique_ptr<AboutViewController> &page)
+{
+    page.reset();
+    const double begin = work();
+    page = std::make_unique<AboutViewController>();
+    page->resize(820, 600);
+    page->show();
+    auto &table = *page->findChild<QTableView *>();
+    if (!QTest::qWaitFor([&table] { return showsIcons(table); }))
+        qFatal("the icons do not come");
+    table.viewport()->repaint();
+    return work() - begin;
+}
+
+/// A bare table that has everything in memory already.
+double peerWork(const QIcon &icon)
+{
+    const double begin = work();
+    QWidget window;
+    auto *table = new QTableView;
+    (new QVBoxLayout(&window))->addWidget(table);
+    QStandardItemModel model;
+    for (int app = 0; app < apps; ++app)
+        model.appendRow({new QStandardItem(icon, {}), new QStandardItem(QString::number(app)),
+                         new QStandardItem(textOf(app)), new QStandardItem(u"Tool"_s)});
+    table->setIconSize({32, 32});
+    table->verticalHeader()->setDefaultSectionSize(44);
+    table->setModel(&model);
+    window.resize(820, 600);
+    window.show();
+    QTest::qWait(20);
+    table->viewport()->repaint();
+    return work() - begin;
+}
+
+bool appears(std::unique_ptr<AboutViewController> &page)
+{
+    QPixmap pixmap(64, 64);
+    pixmap.fill(Qt::red);
+    std::vector<double> ours, ratios;
+    for (int i = 0; i < rounds; ++i) {
+        ours.push_back(pageWork(page));
+        ratios.push_back(ours.back() / peerWork(QIcon(pixmap)));
+    }
+    std::sort(ours.begin(), ours.end());
+    std::sort(ratios.begin(), ratios.end());
+    const bool isQuick =
+        row("1,000 applications, interface thread", "milliseconds", ours[rounds / 2], 200);
+    return row("  against a bare table", "times", ratios[rounds / 2], 3) && isQuick;
+}
+
+// A pause is what one turn of the wheel keeps the interface thread from anything else: the scroll,
+// its repaint, and what arrives meanwhile.
+bool scrolls(AboutViewController &page)
+{
+    auto &table = *page.findChild<QTableView *>();
+    QScrollBar &bar = *table.verticalScrollBar();
+    const double before = memory();
+    double longest = 0;
+    for (int position = 0; position < bar.maximum(); position += step) {
+        QElapsedTimer clock;
+        clock.start();
+        bar.setValue(position);
+        table.viewport()->repaint();
+        longest = std::max(longest, double(clock.nsecsElapsed()) / 1e6);
+        const bool isShown = QTest::qWaitFor([&] {
+            clock.start();
+            QCoreApplication::processEvents();
+            longest = std::max(longest, double(clock.nsecsElapsed()) / 1e6);
+            return showsIcons(table);
+        });
+        if (!isShown)
+            qFatal("the icons do not come");
+    }
+    const bool isSmooth = row("scrolling through all, longest pause", "milliseconds", longest, 50);
+    return row("scrolling through all, more memory", "megabytes", memory() - before, 30)
+        && isSmooth;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QTranslator texts;
+    if (texts.load(u":/localisation/toolvane_en.qm"_s))
+        QCoreApplication::installTranslator(&texts);
+    Theme::install();
+    if (!MiscTool::getUserHome().startsWith(qEnvironmentVariable("TOOLVANE_TEST_SANDBOX", u"?"_s)))
+        qFatal("run this through tests/support/isolated");
+    writeList();
+    std::unique_ptr<AboutViewController> page;
+    const bool isQuick = appears(page);
+    return scrolls(*page) && isQuick ? 0 : 1;
+}

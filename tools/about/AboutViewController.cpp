@@ -1,0 +1,151 @@
+#include "AboutViewController.h"
+
+#include "AppsList.h"
+#include "MiscTool.h"
+#include "NamedImage.h"
+#include "PageStatus.h"
+#include "SafeAddress.h"
+#include "ServerAddress.h"
+#include "ui_AboutViewController.h"
+
+#include <QCoreApplication>
+#include <QHeaderView>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr int rowHeight = 44;
+constexpr int iconColumnWidth = 56;
+constexpr int nameColumnWidth = 160;
+constexpr int typeColumnWidth = 110;
+
+} // namespace
+
+AboutViewController::AboutViewController(QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::AboutViewController>()),
+      m_icons(MiscTool::getAppDocumentFolder()), m_table(m_icons)
+{
+    ui->setupUi(this);
+    ui->versionLabel->setText(qtTrId("About.Version").arg(QCoreApplication::applicationVersion()));
+    setUpTable();
+    connectButtons();
+    awakeFromNib();
+}
+
+AboutViewController::~AboutViewController() = default;
+
+void AboutViewController::setUpTable()
+{
+    ui->table->setModel(&m_table);
+    ui->table->setIconSize(QSize(IconCache::side, IconCache::side));
+    ui->table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    ui->table->verticalHeader()->setDefaultSectionSize(rowHeight);
+    QHeaderView *header = ui->table->horizontalHeader();
+    header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
+    header->setSectionResizeMode(AppsTable::IconColumn, QHeaderView::Fixed);
+    header->setSectionResizeMode(AppsTable::DescColumn, QHeaderView::Stretch);
+    header->resizeSection(AppsTable::IconColumn, iconColumnWidth);
+    header->resizeSection(AppsTable::NameColumn, nameColumnWidth);
+    header->resizeSection(AppsTable::TypeColumn, typeColumnWidth);
+    connect(ui->table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &AboutViewController::tableViewSelectionDidChange);
+}
+
+void AboutViewController::connectButtons()
+{
+    ui->webButton->setIcon(namedImage(u"website"_s));
+    ui->emailButton->setIcon(namedImage(u"mail"_s));
+    connect(ui->webButton, &QPushButton::clicked, this, &AboutViewController::webAction);
+    connect(ui->emailButton, &QPushButton::clicked, this, &AboutViewController::emailAction);
+    connect(ui->twitterButton, &QPushButton::clicked, this, &AboutViewController::twitterAction);
+    connect(ui->facebookButton, &QPushButton::clicked, this, &AboutViewController::facebookAction);
+    connect(ui->googlePlusButton, &QPushButton::clicked, this,
+            &AboutViewController::googlePlusAction);
+}
+
+void AboutViewController::awakeFromNib()
+{
+    connect(ui->table, &QTableView::doubleClicked, this, &AboutViewController::goAction);
+    initLocalizables();
+    m_loader = std::jthread([this](const std::stop_token &stop) { reloadData(stop); });
+}
+
+void AboutViewController::initLocalizables()
+{
+    ui->appsBox->setTitle(qtTrId("Apps"));
+    m_table.setTitle(AppsTable::IconColumn, qtTrId("Icon"));
+    m_table.setTitle(AppsTable::NameColumn, qtTrId("Name"));
+    m_table.setTitle(AppsTable::DescColumn, qtTrId("Desc"));
+    m_table.setTitle(AppsTable::TypeColumn, qtTrId("Type"));
+    ui->socialBox->setTitle(qtTrId("Social"));
+    ui->webButton->setToolTip(qtTrId("Web"));
+    ui->emailButton->setToolTip(qtTrId("Email"));
+}
+
+void AboutViewController::reloadData(const std::stop_token &stop)
+{
+    QMetaObject::invokeMethod(this, &AboutViewController::beginLoading, Qt::QueuedConnection);
+    const QString server = serverAddress(Server::Configuration);
+    const AppsList list =
+        AppsList::load(server, MiscTool::getAppDocumentFolder(), stop).value_or(AppsList());
+    const auto end = [this, server, configuration = list.dictionary, apps = list.apps(),
+                      social = list.social()] { endLoading(configuration, apps, social, server); };
+    QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
+}
+
+void AboutViewController::beginLoading()
+{
+    ui->table->hide();
+    PageStatus::setIdle(*ui->progressIndicator, false);
+}
+
+void AboutViewController::endLoading(const QVariantMap &configuration, const QVariantList &apps,
+                                     const QVariantMap &social, const QString &server)
+{
+    confDict = configuration;
+    data = apps;
+    socialDict = social;
+    m_icons.setServer(server);
+    m_table.setApps(data);
+    ui->table->show();
+    PageStatus::setIdle(*ui->progressIndicator, true);
+}
+
+void AboutViewController::tableViewSelectionDidChange()
+{
+    goAction();
+}
+
+void AboutViewController::goAction()
+{
+    const QModelIndexList rows = ui->table->selectionModel()->selectedRows();
+    if (!rows.isEmpty())
+        openSafely(data.at(rows.first().row()).toMap().value(u"URL"_s).toString());
+}
+
+void AboutViewController::webAction()
+{
+    openSafely(socialDict.value(u"Web"_s).toString());
+}
+
+void AboutViewController::emailAction()
+{
+    openSafely(u"mailto:"_s + socialDict.value(u"Email"_s).toString());
+}
+
+void AboutViewController::twitterAction()
+{
+    openSafely(socialDict.value(u"Twitter"_s).toString());
+}
+
+void AboutViewController::facebookAction()
+{
+    openSafely(socialDict.value(u"Facebook"_s).toString());
+}
+
+void AboutViewController::googlePlusAction()
+{
+    openSafely(socialDict.value(u"Google+"_s).toString());
+}

@@ -1,0 +1,97 @@
+#include "AppsTable.h"
+
+#include "IconCache.h"
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const std::array<QString, 4> identifiers{u"Icon"_s, u"Name"_s, u"Desc"_s, u"Type"_s};
+constexpr qsizetype longestText = 500;
+
+} // namespace
+
+AppsTable::AppsTable(IconCache &icons, QObject *parent)
+    : QAbstractTableModel(parent), m_icons(icons)
+{
+    connect(&m_icons, &IconCache::arrived, this, &AppsTable::showIcon);
+}
+
+void AppsTable::setApps(const QVariantList &apps)
+{
+    beginResetModel();
+    m_apps = apps;
+    endResetModel();
+}
+
+void AppsTable::setTitle(Column column, const QString &title)
+{
+    m_titles.at(column) = title;
+    Q_EMIT headerDataChanged(Qt::Horizontal, column, column);
+}
+
+QString AppsTable::text(const QString &key, int row) const
+{
+    const QVariant value = m_apps.at(row).toMap().value(key);
+    if (value.metaType() != QMetaType::fromType<QString>())
+        return {};
+    return value.toString().left(longestText).simplified();
+}
+
+QVariant AppsTable::objectValueForTableColumn(const QString &identifier, int row) const
+{
+    if (identifier == identifiers[IconColumn])
+        return m_icons.icon(text(identifier, row));
+    if (identifier == identifiers[NameColumn] || identifier == identifiers[DescColumn]
+        || identifier == identifiers[TypeColumn])
+        return text(identifier, row);
+    return {};
+}
+
+int AppsTable::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : numberOfRowsInTableView();
+}
+
+int AppsTable::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : static_cast<int>(identifiers.size());
+}
+
+QVariant AppsTable::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid))
+        return {};
+    const QString &identifier = identifiers.at(static_cast<std::size_t>(index.column()));
+    if (index.column() == IconColumn) {
+        if (role == Qt::DecorationRole)
+            return objectValueForTableColumn(identifier, index.row());
+        if (role == Qt::AccessibleTextRole)
+            return text(identifiers[NameColumn], index.row());
+        return {};
+    }
+    if (role == Qt::DisplayRole)
+        return objectValueForTableColumn(identifier, index.row());
+    if (role == Qt::ToolTipRole)
+        return u"<p>%1</p>"_s.arg(text(identifier, index.row()).toHtmlEscaped());
+    return {};
+}
+
+QVariant AppsTable::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0
+        || section >= columnCount())
+        return {};
+    return m_titles.at(static_cast<std::size_t>(section));
+}
+
+void AppsTable::showIcon(const QString &name)
+{
+    for (int row = 0; row < numberOfRowsInTableView(); ++row) {
+        if (text(identifiers[IconColumn], row) != name)
+            continue;
+        const QModelIndex cell = index(row, IconColumn);
+        Q_EMIT dataChanged(cell, cell, {Qt::DecorationRole});
+    }
+}

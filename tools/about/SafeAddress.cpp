@@ -1,0 +1,28 @@
+#include "SafeAddress.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr qsizetype longest = 2048;
+
+bool isSafe(const QUrl &url)
+{
+    const bool isWeb = url.scheme() == "http"_L1 || url.scheme() == "https"_L1;
+    return url.isValid()
+        && ((isWeb && !url.host().isEmpty())
+            || (url.scheme() == "mailto"_L1 && !url.path().isEmpty()));
+}
+
+} // namespace
+
+void openSafely(const QString &address)
+{
+    const QUrl url(address.left(longest));
+    if (isSafe(url))
+        QDesktopServices::openUrl(url);
+}

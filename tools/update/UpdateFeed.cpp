@@ -1,0 +1,196 @@
+#include "UpdateFeed.h"
+
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+// The name spaces' identifiers; nothing is ever fetched from them.
+constexpr auto castNamespace = "http://www.andymatuschak.org/xml-namespaces/sparkle"_L1;
+constexpr auto ownNamespace = "urn:toolvane:feed"_L1;
+
+constexpr qsizetype mostNotes = 16 * 1024;
+constexpr qsizetype mostText = 200;
+
+QByteArray fromBase64(QByteArrayView text)
+{
+    const auto result =
+        QByteArray::fromBase64Encoding(text.toByteArray(), QByteArray::AbortOnBase64DecodingErrors);
+    return result ? *result : QByteArray();
+}
+
+class FeedReader
+{
+public:
+    explicit FeedReader(QByteArrayView bytes)
+        : m_xml(QByteArray::fromRawData(bytes.data(), bytes.size()))
+    {
+    }
+
+    std::optional<UpdateFeed> read()
+    {
+        if (!readTopElement())
+            return {};
+        while (m_xml.readNextStartElement()) {
+            if (isPlain("channel"_L1))
+                readChannel();
+            else
+                m_xml.skipCurrentElement();
+        }
+        while (!m_xml.atEnd()) // what follows the top element must be well-formed, too
+            m_xml.readNext();
+        if (m_xml.hasError() || !m_hasChannel)
+            return {};
+        return std::move(m_feed);
+    }
+
+private:
+    // A document type can only do harm here; its entities are the known way to do it.
+    bool readTopElement()
+    {
+        while (!m_xml.atEnd()) {
+            const QXmlStreamReader::TokenType token = m_xml.readNext();
+            if (token == QXmlStreamReader::DTD)
+                return false;
+            if (token == QXmlStreamReader::StartElement)
+                return m_xml.name() == "rss"_L1;
+        }
+        return false;
+    }
+
+    bool isPlain(QLatin1String name) const
+    {
+        return m_xml.name() == name && m_xml.namespaceUri().isEmpty();
+    }
+    bool isCast(QLatin1String name) const
+    {
+        return m_xml.name() == name && m_xml.namespaceUri() == castNamespace;
+    }
+
+    QString text(qsizetype most = mostText)
+    {
+        return m_xml.readElementText(QXmlStreamReader::SkipChildElements).left(most);
+    }
+
+    void readChannel()
+    {
+        m_hasChannel = true;
+        while (m_xml.readNextStartElement()) {
+            if (isPlain("lastBuildDate"_L1))
+                m_feed.date = QDateTime::fromString(text().trimmed(), Qt::RFC2822Date).toUTC();
+            else if (isPlain("item"_L1))
+                readItem();
+            else
+                m_xml.skipCurrentElement();
+        }
+    }
+
+    void readItem()
+    {
+        UpdateItem item;
+        while (m_xml.readNextStartElement())
+            readItemElement(item);
+        if (item.version.isNull())
+            return;
+        if (item.shortVersion.isEmpty())
+            item.shortVersion = item.version.toString();
+        if (m_feed.items.size() >= UpdateFeed::mostItems)
+            m_xml.raiseError(u"too many items"_s);
+        m_feed.items += item;
+    }
+
+    void readItemElement(UpdateItem &item)
+    {
+        if (isCast("version"_L1))
+            item.version = versionOf(text().trimmed());
+        else if (isCast("shortVersionString"_L1))
+            item.shortVersion = text().simplified();
+        else if (isCast("minimumSystemVersion"_L1))
+            item.minimumSystem = versionOf(text().trimmed());
+        else if (isCast("channel"_L1))
+            item.channel = text().trimmed();
+        else if (isPlain("description"_L1))
+            readNotes(item);
+        else if (isPlain("enclosure"_L1))
+            readEnclosure(item);
+        else if (m_xml.namespaceUri() == ownNamespace && m_xml.name() == "withdrawn"_L1)
+            readWithdrawn(item);
+        else
+            m_xml.skipCurrentElement();
+    }
+
+    void readNotes(UpdateItem &item)
+    {
+        const QXmlStreamAttributes attributes = m_xml.attributes();
+        const bool isPlainText = attributes.value(castNamespace, "format"_L1) == "plain-text"_L1;
+        item.notesFormat =
+            isPlainText ? UpdateItem::NotesFormat::Plain : UpdateItem::NotesFormat::Html;
+        item.notes = text(mostNotes);
+    }
+
+    void readEnclosure(UpdateItem &item)
+    {
+        const QXmlStreamAttributes attributes = m_xml.attributes();
+        m_xml.skipCurrentElement();
+        if (!item.address.isEmpty()) // an item has one file
+            return;
+        const auto cast = [&attributes](QLatin1String name) {
+            return attributes.value(castNamespace, name).trimmed();
+        };
+        item.address = attributes.value("url"_L1).trimmed().toUtf8();
+        item.length = attributes.value("length"_L1).toLongLong();
+        item.signature = fromBase64(cast("edSignature"_L1).toLatin1());
+        item.system = cast("os"_L1).left(mostText).toString();
+        // Older feeds name the versions here.
+        if (item.version.isNull())
+            item.version = versionOf(cast("version"_L1));
+        if (item.shortVersion.isEmpty())
+            item.shortVersion =
+                cast("shortVersionString"_L1).left(mostText).toString().simplified();
+    }
+
+    void readWithdrawn(UpdateItem &item)
+    {
+        item.withdrawn = true;
+        m_xml.skipCurrentElement();
+    }
+
+    QXmlStreamReader m_xml;
+    UpdateFeed m_feed;
+    bool m_hasChannel = false;
+};
+
+} // namespace
+
+std::optional<UpdateFeed> UpdateFeed::read(QByteArrayView bytes)
+{
+    if (bytes.size() > mostBytes)
+        return {};
+    return FeedReader(bytes).read();
+}
+
+SignedFeed SignedFeed::split(QByteArrayView bytes)
+{
+    constexpr QByteArrayView begin("<!-- edSignature: ");
+    constexpr QByteArrayView end(" -->");
+    const QByteArrayView trimmed = bytes.trimmed();
+    const qsizetype at = trimmed.lastIndexOf(begin);
+    if (at < 1 || trimmed[at - 1] != '\n')
+        return {bytes, {}};
+    const QByteArrayView rest = trimmed.sliced(at + begin.size());
+    if (!rest.endsWith(end))
+        return {bytes, {}};
+    const qsizetype lead = trimmed.data() - bytes.data();
+    return {bytes.first(lead + at), fromBase64(rest.chopped(end.size()))};
+}
+
+QVersionNumber versionOf(QStringView text)
+{
+    constexpr qsizetype longest = 64;
+    qsizetype suffix = 0;
+    const QVersionNumber version =
+        QVersionNumber::fromString(text.left(longest).toString(), &suffix);
+    return suffix == text.size() ? version.normalized() : QVersionNumber();
+}

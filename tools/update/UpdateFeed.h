@@ -1,0 +1,60 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QList>
+#include <QString>
+#include <QVersionNumber>
+
+#include <optional>
+
+/// One version that a feed announces. Every field comes from the server: nothing in it is safe to
+/// be interpreted as markup or used as a file name.
+struct UpdateItem {
+    enum class NotesFormat { Plain, Html };
+
+    QVersionNumber version = {}; ///< Normalised: 1.2.0 is 1.2. Never null.
+    QString shortVersion = {}; ///< What people call it; else its digits.
+    QVersionNumber minimumSystem = {}; ///< Null: runs everywhere.
+    QString system = {}; ///< "linux", "macos", …; empty: for all.
+    QString channel = {}; ///< Empty: for everybody.
+    QString notes = {};
+    NotesFormat notesFormat = NotesFormat::Html;
+    QByteArray address = {}; ///< Of the file; empty where the item has none.
+    qint64 length = 0; ///< Of the file, in bytes; 0 where the feed does not say.
+    QByteArray signature = {}; ///< Ed25519, over the file's bytes; may be missing.
+    bool withdrawn = false; ///< The maker has taken this version back.
+};
+
+/// A feed of versions: RSS 2.0 (https://www.rssboard.org/rss-specification) with the elements that
+/// application-cast feeds have added to it. What is read: the channel's `lastBuildDate`; of each
+/// item `version`, `shortVersionString`, `minimumSystemVersion`, `channel`, `description` and the
+/// `enclosure` with its address, length, system and signature; and an element `withdrawn` of our
+/// own name space. Everything else is passed over.
+struct UpdateFeed {
+    QDateTime date = {}; ///< In UTC; invalid where the feed does not say.
+    QList<UpdateItem> items = {}; ///< In the feed's order; only those with a numeric version.
+
+    static constexpr qsizetype mostBytes = 256 * 1024;
+    static constexpr int mostItems = 200;
+
+    /// None for what is no such feed: no XML, a document type (and with it, entities), another top
+    /// element, more than the limits. Any thread.
+    static std::optional<UpdateFeed> read(QByteArrayView bytes);
+};
+
+/// A feed and the maker's signature over it, which is its last line:
+///
+///     <!-- edSignature: (Base64) -->
+///
+/// What is signed is every byte before that line. One file thus holds both, so that no reader meets
+/// a new feed with an old signature while the maker publishes.
+struct SignedFeed {
+    QByteArrayView feed;
+    QByteArray signature = {}; ///< Empty when the feed has no such line.
+
+    static SignedFeed split(QByteArrayView bytes);
+};
+
+/// A version made of numbers and dots, normalised; null for anything else ("1.2-beta").
+QVersionNumber versionOf(QStringView text);

@@ -1,0 +1,83 @@
+#include "UpdateMemory.h"
+
+#include "UpdateFeed.h"
+
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+constexpr qsizetype mostWithdrawn = 200;
+constexpr auto skippedKey = "Update/Skipped"_L1;
+constexpr auto checkTimeKey = "Update/LastCheck/Time"_L1;
+constexpr auto checkResultKey = "Update/LastCheck/Result"_L1;
+constexpr auto checkArgumentKey = "Update/LastCheck/Argument"_L1;
+
+QDateTime dateOf(const QVariant &value)
+{
+    return QDateTime::fromString(value.toString(), Qt::ISODate).toUTC();
+}
+
+} // namespace
+
+UpdateMemory::UpdateMemory(const QByteArray &publicKey)
+    : m_group(u"Update/Key-"_s
+              + QString::fromLatin1(
+                  publicKey.toHex().first(std::min<qsizetype>(16, 2 * publicKey.size()))))
+{
+}
+
+QDateTime UpdateMemory::newestFeed() const
+{
+    return dateOf(QSettings().value(m_group + u"/NewestFeed"_s));
+}
+
+QList<QVersionNumber> UpdateMemory::withdrawn() const
+{
+    QList<QVersionNumber> versions;
+    const QStringList texts = QSettings().value(m_group + u"/Withdrawn"_s).toStringList();
+    for (const QString &text : texts)
+        versions += versionOf(text);
+    return versions;
+}
+
+void UpdateMemory::remember(const UpdateFeed &feed) const
+{
+    QSettings settings;
+    settings.setValue(m_group + u"/NewestFeed"_s, feed.date.toString(Qt::ISODate));
+    QStringList texts = settings.value(m_group + u"/Withdrawn"_s).toStringList();
+    for (const UpdateItem &item : feed.items) {
+        if (item.withdrawn && !texts.contains(item.version.toString()))
+            texts += item.version.toString();
+    }
+    settings.setValue(m_group + u"/Withdrawn"_s,
+                      texts.mid(std::max<qsizetype>(0, texts.size() - mostWithdrawn)));
+}
+
+QVersionNumber UpdateMemory::skipped()
+{
+    return versionOf(QSettings().value(skippedKey).toString());
+}
+
+void UpdateMemory::setSkipped(const QVersionNumber &version)
+{
+    QSettings().setValue(skippedKey, version.toString());
+}
+
+UpdateMemory::LastCheck UpdateMemory::lastCheck()
+{
+    const QSettings settings;
+    return {.time = dateOf(settings.value(checkTimeKey)),
+            .result = settings.value(checkResultKey).toString(),
+            .argument = settings.value(checkArgumentKey).toString()};
+}
+
+void UpdateMemory::setLastCheck(const LastCheck &check)
+{
+    QSettings settings;
+    settings.setValue(checkTimeKey, check.time.toString(Qt::ISODate));
+    settings.setValue(checkResultKey, check.result);
+    settings.setValue(checkArgumentKey, check.argument);
+}
