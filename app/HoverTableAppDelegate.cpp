@@ -8,7 +8,9 @@
 
 #include <QApplication>
 #include <QFontInfo>
-#include <QSet>
+
+#include <algorithm>
+#include <utility>
 
 HoverTableAppDelegate::HoverTableAppDelegate(const QList<Tool> &tools, JobList &jobs,
                                              AppDelegate &appDelegate, HoverTableView &tableView,
@@ -44,7 +46,7 @@ void HoverTableAppDelegate::tableViewSelectionDidChange()
         font.setPointSize(static_cast<int>(QFontInfo(rowView->textField()->font()).pointSizeF()));
         font.setBold(rowView->isSelected());
         rowView->textField()->setFont(font);
-        if (rowView->isSelected())
+        if (rowView->isSelected() && row < m_viewItems.size())
             m_appDelegate.container->setContentView(m_viewItems.at(row));
     }
 }
@@ -69,6 +71,8 @@ QVariant HoverTableAppDelegate::data(const QModelIndex &index, int role) const
         return item.name;
     case HoverTableView::ImageNameRole:
         return item.icon;
+    case Qt::AccessibleDescriptionRole: // the mark on the row is nothing that a screen reader finds
+        return isRunning(index.row()) ? qtTrId("Sidebar.Running") : QString();
     default:
         return {};
     }
@@ -76,17 +80,22 @@ QVariant HoverTableAppDelegate::data(const QModelIndex &index, int role) const
 
 void HoverTableAppDelegate::closePages()
 {
-    qDeleteAll(m_viewItems);
-    m_viewItems.clear();
+    qDeleteAll(std::exchange(m_viewItems, {})); // what they still end reads the list
 }
 
 void HoverTableAppDelegate::showRunningJobs()
 {
-    QSet<QString> busyPages;
-    for (const RunningJob &job : m_jobs.running())
-        busyPages += job.description.page;
     for (int row = 0; row < m_viewItems.size(); ++row) {
         if (HoverTableRowView *rowView = m_tableView.rowView(row))
-            rowView->setRunning(busyPages.contains(m_viewItems.at(row)->objectName()));
+            rowView->setRunning(isRunning(row));
+        Q_EMIT dataChanged(index(row), index(row), {Qt::AccessibleDescriptionRole});
     }
+}
+
+bool HoverTableAppDelegate::isRunning(int row) const
+{
+    return std::ranges::any_of(m_jobs.running(), [&](const RunningJob &job) {
+        return row < m_viewItems.size()
+            && job.description.page == m_viewItems.at(row)->objectName();
+    });
 }

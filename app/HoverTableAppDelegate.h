@@ -42,6 +42,7 @@ public:
 
 private:
     void showRunningJobs();
+    bool isRunning(int row) const;
 
     AppDelegate &m_appDelegate;
     HoverTableView &m_tableView;

@@ -17,6 +17,8 @@ constexpr int gap = 12;
 constexpr double separatorHeight = 1.0;
 constexpr double selectionInset = 5.5;
 constexpr double selectionRadius = 10.0;
+constexpr double focusRingInset = 4;
+constexpr double focusRingWidth = 2;
 constexpr float selectionStroke = 0.72F; // shades of grey, 1 is white
 constexpr float selectionFill = 0.82F;
 
@@ -62,6 +64,14 @@ void HoverTableRowView::setSelected(bool selected)
     update();
 }
 
+void HoverTableRowView::setFocusRing(bool shown)
+{
+    if (m_focusRing == shown)
+        return;
+    m_focusRing = shown;
+    update();
+}
+
 void HoverTableRowView::setSelectionHighlightStyle(SelectionHighlightStyle style)
 {
     m_highlightStyle = style;
@@ -96,6 +106,8 @@ void HoverTableRowView::paintEvent(QPaintEvent *)
     if (m_selected)
         drawSelectionInRect(painter);
     drawSeparatorInRect(painter);
+    if (m_focusRing)
+        drawFocusRing(painter);
 }
 
 void HoverTableRowView::resizeEvent(QResizeEvent *event)
@@ -128,4 +140,13 @@ void HoverTableRowView::drawSelectionInRect(QPainter &painter) const
 void HoverTableRowView::drawSeparatorInRect(QPainter &painter) const
 {
     FadingGradient::separator().draw(painter, separatorRect());
+}
+
+void HoverTableRowView::drawFocusRing(QPainter &painter) const
+{
+    painter.setPen(QPen(palette().color(QPalette::Highlight), focusRingWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(
+        QRectF(rect()).adjusted(focusRingInset, focusRingInset, -focusRingInset, -focusRingInset),
+        selectionRadius, selectionRadius);
 }

@@ -26,6 +26,9 @@ public:
     void setSelected(bool selected);
     void setSelectionHighlightStyle(SelectionHighlightStyle style);
 
+    /// Shows that the keyboard is at this row.
+    void setFocusRing(bool shown);
+
     /// Says on the row that its page is at work.
     void setRunning(bool running);
 
@@ -44,6 +47,7 @@ private:
     void drawBackgroundInRect(QPainter &painter) const;
     void drawSelectionInRect(QPainter &painter) const;
     void drawSeparatorInRect(QPainter &painter) const;
+    void drawFocusRing(QPainter &painter) const;
 
     IconView *m_imageView;
     ElidedLabel *m_textField;
@@ -51,4 +55,5 @@ private:
     SelectionHighlightStyle m_highlightStyle = SelectionHighlightStyle::Regular;
     bool m_mouseInside = false;
     bool m_selected = false;
+    bool m_focusRing = false;
 };

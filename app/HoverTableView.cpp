@@ -3,6 +3,9 @@
 #include "FadingGradient.h"
 #include "HoverTableRowView.h"
 
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QResizeEvent>
 #include <QStyledItemDelegate>
@@ -42,6 +45,11 @@ HoverTableView::HoverTableView(QWidget *parent) : QListView(parent)
     viewport()->setBackgroundRole(QPalette::Window);
 }
 
+int HoverTableView::rowCount() const
+{
+    return model() ? model()->rowCount() : 0; // the model may go before the list
+}
+
 int HoverTableView::rowHeight() const
 {
     return qMax(smallestRowHeight, fontMetrics().height() + roomAroundText);
@@ -49,10 +57,9 @@ int HoverTableView::rowHeight() const
 
 double HoverTableView::yPositionPastLastRow() const
 {
-    const int rows = model() ? model()->rowCount() : 0;
-    if (rows == 0)
+    if (rowCount() == 0)
         return 0;
-    const QRect last = visualRect(model()->index(rows - 1, 0));
+    const QRect last = visualRect(model()->index(rowCount() - 1, 0));
     return last.y() + last.height();
 }
 
@@ -95,7 +102,7 @@ void HoverTableView::selectionChanged(const QItemSelection &selected,
                                       const QItemSelection &deselected)
 {
     QListView::selectionChanged(selected, deselected);
-    for (int row = 0; row < model()->rowCount(); ++row) {
+    for (int row = 0; row < rowCount(); ++row) {
         if (HoverTableRowView *view = rowView(row))
             view->setSelected(selectionModel()->isRowSelected(row));
     }
@@ -108,5 +115,51 @@ void HoverTableView::drawGridInClipRect()
     while (y < viewport()->height()) {
         FadingGradient::separator().draw(painter, QRectF(0, y, viewport()->width(), 1.0));
         y += rowHeight();
+    }
+}
+
+void HoverTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QListView::currentChanged(current, previous);
+    setKeyboardIsHere(m_keyboardIsHere);
+}
+
+void HoverTableView::focusInEvent(QFocusEvent *event)
+{
+    QListView::focusInEvent(event);
+    const Qt::FocusReason reason = event->reason();
+    setKeyboardIsHere(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason);
+}
+
+void HoverTableView::focusOutEvent(QFocusEvent *event)
+{
+    QListView::focusOutEvent(event);
+    setKeyboardIsHere(false);
+}
+
+// As long as no tool is chosen, the first arrow key chooses the row where the keyboard is, instead
+// of going past it.
+void HoverTableView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (isArrow && rowCount() > 0 && !selectionModel()->hasSelection())
+        setCurrentIndex(currentIndex().isValid() ? currentIndex() : model()->index(0, 0));
+    else
+        QListView::keyPressEvent(event);
+    setKeyboardIsHere(true);
+}
+
+void HoverTableView::mousePressEvent(QMouseEvent *event)
+{
+    QListView::mousePressEvent(event);
+    setKeyboardIsHere(false);
+}
+
+void HoverTableView::setKeyboardIsHere(bool here)
+{
+    m_keyboardIsHere = here;
+    for (int row = 0; row < rowCount(); ++row) {
+        if (HoverTableRowView *view = rowView(row))
+            view->setFocusRing(here && currentIndex().row() == row);
     }
 }

@@ -28,12 +28,21 @@ public:
     void setModel(QAbstractItemModel *model) override;
 
 protected:
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void selectionChanged(const QItemSelection &selected,
                           const QItemSelection &deselected) override;
 
 private:
+    int rowCount() const;
     void insertRowViews();
     void drawGridInClipRect();
+    void setKeyboardIsHere(bool here);
+
+    bool m_keyboardIsHere = false; ///< The pointer needs no focus ring.
 };

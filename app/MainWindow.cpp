@@ -129,5 +129,10 @@ void MainWindow::quitWithoutFinishing()
     QSettings().setValue(geometryKey, saveGeometry());
     connect(&m_jobs, &JobList::allEnded, qApp, &QCoreApplication::quit);
     hide();
+    const auto children = findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        if (child->isWindow())
+            child->close(); // a program that quits takes no more input
+    }
     Q_EMIT abandonRuns();
 }

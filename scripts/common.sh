@@ -1,6 +1,7 @@
 # Sourced by the other scripts: the project's root, packages, configuring and building.
 
 set -euo pipefail
+started_in=$PWD
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
@@ -21,7 +22,7 @@ packages_of() {
 install_packages() {
     local missing=() package
     for package in $(packages_of "$@"); do
-        dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed \
+        dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed \
             || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0

@@ -380,8 +380,8 @@
         <translation>Provider</translation>
     </message>
     <message id="Quit.Consequence">
-        <source>What runs now is stopped, and nothing half-written is left behind.</source>
-        <translation>What runs now is stopped, and nothing half-written is left behind.</translation>
+        <source>What runs now is stopped. A result that is already finished is still brought to its place.</source>
+        <translation>What runs now is stopped. A result that is already finished is still brought to its place.</translation>
     </message>
     <message id="Quit.KeepWorking">
         <source>Keep Working</source>

@@ -98,6 +98,7 @@ private Q_SLOTS:
     void init() { pagesMade = 0; }
     void makesEachPageOnceAndKeepsIt();
     void showsNothingUntilARowIsChosen();
+    void theFirstArrowChoosesTheFirstTool();
     void boldsTheSelectedNameOnly();
     void truncatesTheFontSize();
     void localisesNamesTwice();
@@ -134,6 +135,19 @@ void tst_Sidebar::showsNothingUntilARowIsChosen()
     QCOMPARE(sidebar.container.contentView(), sidebar.delegate.viewItem(2));
     QTest::keyClick(&sidebar.list, Qt::Key_Up);
     QCOMPARE(sidebar.container.contentView(), sidebar.delegate.viewItem(1));
+}
+
+void tst_Sidebar::theFirstArrowChoosesTheFirstTool()
+{
+    Sidebar sidebar(3);
+    sidebar.list.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&sidebar.list));
+    sidebar.list.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&sidebar.list, Qt::Key_Down);
+    QCOMPARE(sidebar.container.contentView(), sidebar.delegate.viewItem(0));
+    const QImage withRing = sidebar.list.rowView(0)->grab().toImage();
+    QTest::mousePress(sidebar.list.rowView(0), Qt::LeftButton);
+    QVERIFY(withRing != sidebar.list.rowView(0)->grab().toImage()); // the pointer needs no ring
 }
 
 void tst_Sidebar::boldsTheSelectedNameOnly()
@@ -189,6 +203,9 @@ void tst_Sidebar::marksTheRowsWhosePageIsAtWork()
         const Job job = sidebar.jobs.begin({.page = u"page2"_s, .title = {}});
         QVERIFY(marked(1));
         QVERIFY(!marked(0));
+        QVERIFY(
+            !sidebar.delegate.index(1).data(Qt::AccessibleDescriptionRole).toString().isEmpty());
+        QVERIFY(sidebar.delegate.index(0).data(Qt::AccessibleDescriptionRole).toString().isEmpty());
     }
     QVERIFY(!marked(1));
 }

@@ -58,7 +58,8 @@ private Q_SLOTS:
         DB::reset();
         QFile::remove(DB::dbFilePath());
         DB::open();
-        DB::exec(u"CREATE TABLE Price(ID INTEGER PRIMARY KEY,Name TEXT,Amount REAL);BEGIN"_s);
+        DB::exec(u"CREATE TABLE Price(ID INTEGER PRIMARY KEY,Name TEXT,Amount REAL)"_s);
+        DB::exec(u"BEGIN"_s);
         for (int i = 0; i < 25; ++i)
             DB::exec(u"INSERT INTO Price VALUES(%1,'n%1',%1.5)"_s.arg(i));
         DB::exec(u"COMMIT"_s);

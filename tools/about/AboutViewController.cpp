@@ -11,6 +11,8 @@
 #include <QCoreApplication>
 #include <QHeaderView>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -46,7 +48,6 @@ void AboutViewController::setUpTable()
     header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     header->setSectionResizeMode(AppsTable::IconColumn, QHeaderView::Fixed);
     header->setSectionResizeMode(AppsTable::DescColumn, QHeaderView::Stretch);
-    header->resizeSection(AppsTable::IconColumn, iconColumnWidth);
     header->resizeSection(AppsTable::NameColumn, nameColumnWidth);
     header->resizeSection(AppsTable::TypeColumn, typeColumnWidth);
     connect(ui->table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
@@ -76,6 +77,10 @@ void AboutViewController::initLocalizables()
 {
     ui->appsBox->setTitle(qtTrId("Apps"));
     m_table.setTitle(AppsTable::IconColumn, qtTrId("Icon"));
+    QHeaderView *header = ui->table->horizontalHeader();
+    header->resizeSection(
+        AppsTable::IconColumn,
+        std::max(iconColumnWidth, header->sectionSizeHint(AppsTable::IconColumn)));
     m_table.setTitle(AppsTable::NameColumn, qtTrId("Name"));
     m_table.setTitle(AppsTable::DescColumn, qtTrId("Desc"));
     m_table.setTitle(AppsTable::TypeColumn, qtTrId("Type"));

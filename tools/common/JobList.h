@@ -19,7 +19,8 @@ struct RunningJob {
 /// What runs now: child processes as well as work on threads. The application owns the one list
 /// and hands it to its pages; it outlives them. Interface thread only.
 ///
-/// A window that closes while something runs calls stopAll() and quits on allEnded().
+/// Quitting while something runs: the pages are destroyed, which ends their runs, and the program
+/// quits on allEnded().
 class JobList : public QObject
 {
     Q_OBJECT

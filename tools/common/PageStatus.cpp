@@ -2,6 +2,7 @@
 
 #include "BusyIndicator.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPushButton>
 
@@ -25,7 +26,9 @@ public:
         const bool isReturn = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
         if (!isReturn || press->isAutoRepeat() || !m_button.isVisible())
             return false;
-        m_button.click(); // does nothing when disabled
+        // A button that has the focus is what the user means.
+        auto *focused = qobject_cast<QPushButton *>(QApplication::focusWidget());
+        (focused ? *focused : m_button).click(); // does nothing when disabled
         return true;
     }
 

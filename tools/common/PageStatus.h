@@ -12,8 +12,8 @@ namespace PageStatus
 void setIdle(BusyIndicator &indicator, bool idle);
 
 /// Return presses the button from every control of the page that has no use of its own for the
-/// key; a disabled or hidden button is not pressed. The default button of a dialog does the same,
-/// but a page is none.
+/// key, another push button excepted, which is pressed itself; a disabled or hidden button is not
+/// pressed. The default button of a dialog does the same, but a page is none.
 void pressOnReturn(QWidget &page, QPushButton &button);
 
 } // namespace PageStatus

@@ -118,8 +118,8 @@ void UpdateChecker::conclude(const FetchedFeed &fetched)
     }
     m_offer.reset();
     if (m_problem) {
-        record(isDistrust(m_problem.kind) ? "Update.Result.NotTrusted"
-                                          : "Update.Result.NotReached");
+        record(isDistrust(m_problem.kind) ? QT_TRID_NOOP("Update.Result.NotTrusted")
+                                          : QT_TRID_NOOP("Update.Result.NotReached"));
         enter(Phase::NotChecked);
         return;
     }

@@ -22,11 +22,14 @@ void showAsPlainText(QMessageBox &box)
 }
 
 // A box belongs to the window that the user is in, or, while another program is in front, to the
-// one that is shown.
+// one that is shown. Never to a dialog: that may close, and take its children along, while the box
+// is still shown.
 QWidget *windowForBoxes()
 {
-    if (QWidget *active = QApplication::activeWindow())
-        return active;
+    for (QWidget *active = QApplication::activeWindow(); active; active = active->parentWidget()) {
+        if (active->windowType() == Qt::Window)
+            return active;
+    }
     const auto windows = QApplication::topLevelWidgets();
     const auto shown = std::ranges::find_if(windows, [](const QWidget *window) {
         return window->isVisible() && window->windowType() == Qt::Window;
