@@ -5,6 +5,7 @@
 #include "UpdateTexts.h"
 #include "ui_UpdateCheckView.h"
 
+#include <QApplication>
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QUrl>
@@ -85,6 +86,10 @@ void UpdateCheckView::showOffer()
     ui->openButton->setVisible(phase == Phase::Downloaded);
     ui->downloadButton->setDefault(canDownload);
     ui->checkButton->setDefault(!canDownload);
+    // The button that had the keyboard was disabled meanwhile: it is not to stay where chance put
+    // it, on Skip for one.
+    if (canDownload && isAncestorOf(QApplication::focusWidget()))
+        ui->downloadButton->setFocus(Qt::OtherFocusReason);
 }
 
 void UpdateCheckView::showProgress()

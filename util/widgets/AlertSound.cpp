@@ -1,6 +1,6 @@
 #include "AlertSound.h"
 
-#include <QLibrary>
+#include "LibrarySymbol.h"
 
 #include <canberra.h>
 
@@ -14,11 +14,11 @@ class Player
 public:
     Player() : m_library(QStringLiteral("canberra"), 0)
     {
-        resolve(m_create, "ca_context_create");
-        resolve(m_play, "ca_context_play");
-        resolve(m_destroy, "ca_context_destroy");
         ca_context *context = nullptr;
-        if (m_create && m_play && m_destroy && m_create(&context) == CA_SUCCESS)
+        if (resolveSymbol(m_library, "ca_context_create", m_create)
+            && resolveSymbol(m_library, "ca_context_play", m_play)
+            && resolveSymbol(m_library, "ca_context_destroy", m_destroy)
+            && m_create(&context) == CA_SUCCESS)
             m_context = context;
     }
     ~Player()
@@ -36,12 +36,6 @@ public:
     }
 
 private:
-    template <typename Function>
-    void resolve(Function *&function, const char *name)
-    {
-        function = reinterpret_cast<Function *>(m_library.resolve(name));
-    }
-
     QLibrary m_library;
     decltype(ca_context_create) *m_create = nullptr;
     decltype(ca_context_play) *m_play = nullptr;
