@@ -12,6 +12,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <clocale>
 #include <csignal>
 #include <functional>
 
@@ -47,6 +48,8 @@ class TestOutputFile : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The system's words are compared here, so they must be English.
+    void initTestCase() { std::setlocale(LC_MESSAGES, "C"); }
     void init()
     {
         m_dir = std::make_unique<QTemporaryDir>();
