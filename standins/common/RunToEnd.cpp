@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <thread>
 
 namespace standin
 {
@@ -16,14 +17,20 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
+constexpr ssize_t fewBytes = 16384;
+constexpr auto untilMoreGathered = std::chrono::milliseconds(1);
+
 // Reads once; closes the descriptor at its end.
 void readSome(FileDescriptor &from, const OutputSink &sink)
 {
     std::array<char, 65536> buffer;
     const auto count = ::read(from.number(), buffer.data(), buffer.size());
-    if (count > 0)
+    if (count > 0) {
         sink({buffer.data(), static_cast<std::size_t>(count)});
-    else if (count == 0 || errno != EINTR)
+        // Who writes in small pieces would wake us for each: let some gather in the pipe.
+        if (count < fewBytes)
+            std::this_thread::sleep_for(untilMoreGathered);
+    } else if (count == 0 || errno != EINTR)
         from.close();
 }
 
