@@ -62,7 +62,7 @@ void UNZIPViewController::outputSelectAction()
 void UNZIPViewController::openAction()
 {
     const QString folder = ui->outputField->text();
-    m_runner.run(UnzipCommand::show(folder), job("Unzip.Open", folder));
+    m_runner.run(UnzipCommand::show(folder), job(folder));
 }
 
 void UNZIPViewController::clearAction()
@@ -99,7 +99,7 @@ QCoro::Task<> UNZIPViewController::generateAction()
     QDir().mkpath(folder); // what cannot be made here makes unzip fail
     const Command command = UnzipCommand::extract(archive, folder);
 
-    const CommandResult result = co_await m_runner.run(command, job("Unzip", archive));
+    const CommandResult result = co_await m_runner.run(command, job(archive));
     if (!self || !result.couldStart())
         co_return;
     MiscTool::showAlert(qtTrId(result.succeeded() ? "UnzipSuc" : "UnzipFail"), QString());
@@ -107,9 +107,9 @@ QCoro::Task<> UNZIPViewController::generateAction()
         setStatus(true);
 }
 
-JobDescription UNZIPViewController::job(const char *titleKey, const QString &subject) const
+JobDescription UNZIPViewController::job(const QString &subject) const
 {
-    return {.page = objectName(), .title = qtTrId(titleKey), .subject = subject};
+    return {.page = objectName(), .title = qtTrId("Unzip"), .subject = subject};
 }
 
 void UNZIPViewController::setStatus(bool idle)

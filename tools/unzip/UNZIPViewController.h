@@ -39,7 +39,7 @@ private:
 
     /// None for a file name that is too short.
     std::optional<QString> destination() const;
-    JobDescription job(const char *titleKey, const QString &subject) const;
+    JobDescription job(const QString &subject) const;
 
     std::unique_ptr<Ui::UNZIPViewController> ui;
     CommandRunner m_runner;

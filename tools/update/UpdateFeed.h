@@ -26,11 +26,11 @@ struct UpdateItem {
     bool withdrawn = false; ///< The maker has taken this version back.
 };
 
-/// A feed of versions: RSS 2.0 (https://www.rssboard.org/rss-specification) with the elements that
-/// application-cast feeds have added to it. What is read: the channel's `lastBuildDate`; of each
-/// item `version`, `shortVersionString`, `minimumSystemVersion`, `channel`, `description` and the
-/// `enclosure` with its address, length, system and signature; and an element `withdrawn` of our
-/// own name space. Everything else is passed over.
+/// A feed of versions: RSS 2.0, as the RSS Advisory Board (rssboard.org) keeps it, with the
+/// elements that application-cast feeds have added to it. What is read: the channel's
+/// `lastBuildDate`; of each item `version`, `shortVersionString`, `minimumSystemVersion`,
+/// `channel`, `description` and the `enclosure` with its address, length, system and signature; and
+/// an element `withdrawn` of our own name space. Everything else is passed over.
 struct UpdateFeed {
     QDateTime date = {}; ///< In UTC; invalid where the feed does not say.
     QList<UpdateItem> items = {}; ///< In the feed's order; only those with a numeric version.
