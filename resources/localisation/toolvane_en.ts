@@ -107,6 +107,18 @@
         <source>&amp;Clear</source>
         <translation>&amp;Clear</translation>
     </message>
+    <message id="CommandLine.Description">
+        <source>Everyday file and media tools in one window.</source>
+        <translation>Everyday file and media tools in one window.</translation>
+    </message>
+    <message id="CommandLine.Page">
+        <source>The page to open: %1.</source>
+        <translation>The page to open: %1.</translation>
+    </message>
+    <message id="CommandLine.UnknownPage">
+        <source>There is no page "%1". These are the pages: %2.</source>
+        <translation>There is no page "%1". These are the pages: %2.</translation>
+    </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>
         <translation>Com&amp;pression</translation>
@@ -231,6 +243,22 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Makes a CD image (ISO) of a folder that every desktop system can read.</translation>
     </message>
+    <message id="Jobs.Name">
+        <source>Running work</source>
+        <translation>Running work</translation>
+    </message>
+    <message id="Jobs.Show.Tip">
+        <source>Shows the page of this run</source>
+        <translation>Shows the page of this run</translation>
+    </message>
+    <message id="Jobs.Stop">
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message id="Jobs.Stop.Name">
+        <source>Stop: %1</source>
+        <translation>Stop: %1</translation>
+    </message>
     <message id="Login.Button">
         <source>&amp;Log In</source>
         <translation>&amp;Log In</translation>
@@ -298,6 +326,22 @@
     <message id="Not Authorized Error">
         <source>Access to your home folder is not granted yet.</source>
         <translation>Access to your home folder is not granted yet.</translation>
+    </message>
+    <message id="Notice.Failed">
+        <source>%1 failed</source>
+        <translation>%1 failed</translation>
+    </message>
+    <message id="Notice.Show">
+        <source>Show</source>
+        <translation>Show</translation>
+    </message>
+    <message id="Notice.Stopped">
+        <source>%1 was stopped</source>
+        <translation>%1 was stopped</translation>
+    </message>
+    <message id="Notice.Succeeded">
+        <source>%1 is finished</source>
+        <translation>%1 is finished</translation>
     </message>
     <message id="OK">
         <source>OK</source>
@@ -470,6 +514,14 @@
     <message id="Setting">
         <source>Settings</source>
         <translation>Settings</translation>
+    </message>
+    <message id="ShowInFolder">
+        <source>Show in Fol&amp;der</source>
+        <translation>Show in Fol&amp;der</translation>
+    </message>
+    <message id="ShowInFolder.Name">
+        <source>Show the file that was made in the file manager</source>
+        <translation>Show the file that was made in the file manager</translation>
     </message>
     <message id="Sidebar.Running">
         <source>Working</source>
