@@ -2,8 +2,8 @@
 // Rows end with the ratio, its limit and "ok" or "PASSED"; the exit status is 1 when one is passed.
 
 #include "ProcessCost.h"
+#include "Row.h"
 
-#include <cstdio>
 #include <string>
 #include <vector>
 
@@ -11,21 +11,6 @@ namespace
 {
 
 constexpr int rounds = 25;
-
-bool row(const char *name, const char *remark, double ratio, double limit)
-{
-    const bool within = ratio <= limit;
-    std::printf("%-36s %-44s %6.2f %5.2f %s\n", name, remark, ratio, limit,
-                within ? "ok" : "PASSED");
-    return within;
-}
-
-std::string between(double ours, double theirs, const char *unit)
-{
-    char text[64];
-    std::snprintf(text, sizeof text, "%.1f %s against %.1f %s", ours, unit, theirs, unit);
-    return text;
-}
 
 } // namespace
 
@@ -44,10 +29,15 @@ int main()
     }
     const ProcessCost mine = ProcessCost::median(ours);
     const ProcessCost peer = ProcessCost::median(theirs);
-    const std::string time = between(mine.processor * 1e3, peer.processor * 1e3, "ms");
-    const std::string memory = between(mine.memory, peer.memory, "MB");
-    const bool fast =
-        row("start, processor time", time.c_str(), mine.processor / peer.processor, 1.6);
-    const bool small = row("start, memory", memory.c_str(), mine.memory / peer.memory, 1.3);
+    const bool fast = Row{.work = "start, processor time",
+                          .figure = mine.processor / peer.processor,
+                          .limit = 1.6,
+                          .detail = against(mine.processor * 1e3, peer.processor * 1e3, "ms")}
+                          .print();
+    const bool small = Row{.work = "start, memory",
+                           .figure = mine.memory / peer.memory,
+                           .limit = 1.3,
+                           .detail = against(mine.memory, peer.memory, "MB")}
+                           .print();
     return fast && small ? 0 : 1;
 }

@@ -3,6 +3,7 @@
 // passed.
 
 #include "CommandRunner.h"
+#include "Row.h"
 #include "ZIPViewController.h"
 
 #include <QApplication>
@@ -18,7 +19,6 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -28,14 +28,6 @@ namespace
 constexpr int files = 50;
 constexpr qint64 fileSize = 10'000'000;
 constexpr int runs = 41;
-
-bool row(const char *name, const QString &remark, double value, double limit)
-{
-    const bool within = value <= limit;
-    std::printf("%-36s %-44s %6.1f %5.1f %s\n", name, qPrintable(remark), value, limit,
-                within ? "ok" : "PASSED");
-    return within;
-}
 
 double milliseconds(const QElapsedTimer &clock)
 {
@@ -108,7 +100,11 @@ bool staysAlive()
     });
     answer.start(20);
     const bool finished = QTest::qWaitFor([&] { return longest > 0; }, 300'000);
-    return row("zip of 500 MB, longest pause", u"milliseconds"_s, longest, 50) && finished;
+    const Row row{.work = "zip of 500 MB, longest pause of the window",
+                  .figure = longest,
+                  .limit = 50,
+                  .unit = "ms"};
+    return row.print() && finished;
 }
 
 double throughRunner()
@@ -144,8 +140,11 @@ bool addsLittle()
     std::vector<double> added;
     for (int i = 0; i < runs; ++i)
         added.push_back(throughRunner() - plain());
-    std::ranges::sort(added);
-    return row("runner, added to a command", u"milliseconds, median"_s, added[runs / 2], 20);
+    return Row{.work = "runner, added to a command",
+               .figure = median(std::move(added)),
+               .limit = 20,
+               .unit = "ms"}
+        .print();
 }
 
 } // namespace

@@ -1,13 +1,13 @@
 #include "StandinRatio.h"
 
 #include "ProcessCost.h"
+#include "Turns.h"
 
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -16,21 +16,6 @@ namespace
 {
 
 constexpr double largestMegabytes = 20;
-
-double median(std::vector<double> values)
-{
-    std::ranges::sort(values);
-    return values[values.size() / 2];
-}
-
-bool report(const char *name, double value, double limit, const char *unit)
-{
-    const bool isOk = value <= limit;
-    std::printf("%-40s %6.2f of at most %5.2f %-5s  %s\n", name, value, limit, unit,
-                isOk ? "ok" : "PASSED");
-    std::fflush(stdout);
-    return isOk;
-}
 
 // Grows only, so the last look before the end is the peak.
 double peakOf(pid_t process)
@@ -59,23 +44,14 @@ ProcessCost costOf(const Command &command)
 
 bool isWithin(const char *name, double limit, int rounds, const Command &ours, const Command &peer)
 {
-    std::vector<ProcessCost> ourCosts;
-    std::vector<ProcessCost> peerCosts;
-    std::vector<double> ratios;
-    for (int round = 0; round < rounds; ++round) {
-        const bool oursFirst = round % 2 == 0;
-        const auto first = costOf(oursFirst ? ours : peer);
-        const auto second = costOf(oursFirst ? peer : ours);
-        ourCosts.push_back(oursFirst ? first : second);
-        peerCosts.push_back(oursFirst ? second : first);
-        ratios.push_back(ourCosts.back().processor / peerCosts.back().processor);
-    }
-    const auto our = ProcessCost::median(ourCosts);
-    const auto other = ProcessCost::median(peerCosts);
-    const bool isOk = report(name, median(ratios), limit, "times");
-    std::printf("    %.3f s against %.3f s, processor %.3f s against %.3f s\n", our.wall,
-                other.wall, our.processor, other.processor);
-    return isOk;
+    const auto turns = Turns<ProcessCost>::taken(
+        rounds, [&] { return costOf(ours); }, [&] { return costOf(peer); });
+    return Row{.work = name,
+               .figure = turns.ratio([](const ProcessCost &cost) { return cost.processor; }),
+               .limit = limit,
+               .detail = against(ProcessCost::median(turns.ours).processor,
+                                 ProcessCost::median(turns.peers).processor, "s")}
+        .print();
 }
 
 bool isSmall(const char *name, const Command &command)
@@ -92,7 +68,11 @@ bool isSmall(const char *name, const Command &command)
         megabytes = std::max(megabytes, peakOf(child));
         usleep(500);
     }
-    return report(name, megabytes, largestMegabytes, "MB") && megabytes > 0;
+    const Row row{.work = std::string(name) + ", memory",
+                  .figure = megabytes,
+                  .limit = largestMegabytes,
+                  .unit = "MB"};
+    return row.print() && megabytes > 0;
 }
 
 const std::string &workFolder()

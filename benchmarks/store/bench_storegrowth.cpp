@@ -26,12 +26,14 @@ bool takesTheSameTimeForEach(BLGeneral &gateway)
         for (int i = 0; i < (count > 100'000 ? 5 : 15); ++i)
             times.push_back(Ratio::seconds(
                 [&] { expect(gateway.select("1=1", UserSchema{})->size() == count, "select"); }));
-        perRow.push_back(Ratio::median(times) / count * 1e9);
-        std::printf("  %7d records: %.0f ns each\n", count, perRow.back());
+        perRow.push_back(median(times) / count * 1e9);
     }
     const auto [least, most] = std::minmax_element(perRow.begin(), perRow.end());
-    return Ratio::report("time of a record, 1,000 to 1,000,000", *most / *least, 1.6,
-                         "dearest against cheapest");
+    return Row{.work = "a record of a select, 1,000 to 1,000,000",
+               .figure = *most / *least,
+               .limit = 1.6,
+               .detail = against(*most, *least, "ns")}
+        .print();
 }
 
 /// Kilobytes behind a word of /proc/self/status.
@@ -69,9 +71,11 @@ bool takesTheMemoryOfTheRecords()
 {
     const double ours = peakOf(u"ours"_s);
     const double byHand = peakOf(u"hand"_s);
-    std::printf("  1,000,000 records: %.0f MB at the peak, %.0f MB by hand\n", ours / 1024,
-                byHand / 1024);
-    return Ratio::report("memory of a select", ours / byHand, 1.05, "peaks");
+    return Row{.work = "memory of a select of 1,000,000",
+               .figure = ours / byHand,
+               .limit = 1.05,
+               .detail = against(ours / 1024, byHand / 1024, "MB")}
+        .print();
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "AboutViewController.h"
 #include "MiscTool.h"
+#include "Row.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -19,7 +20,6 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
-#include <cstdio>
 #include <ctime>
 #include <vector>
 
@@ -31,13 +31,6 @@ namespace
 constexpr int apps = 1000;
 constexpr int rounds = 9;
 constexpr int step = 5 * 44; // pixels of one turn of the wheel, in rows
-
-bool row(const char *name, const char *unit, double value, double limit)
-{
-    std::printf("%-44s %-14s %7.2f %6.1f %s\n", name, unit, value, limit,
-                value <= limit ? "ok" : "PASSED");
-    return value <= limit;
-}
 
 QString textOf(int app)
 {
@@ -150,11 +143,16 @@ bool appears(std::unique_ptr<AboutViewController> &page)
         ours.push_back(pageWork(page));
         ratios.push_back(ours.back() / peerWork(QIcon(pixmap)));
     }
-    std::sort(ours.begin(), ours.end());
-    std::sort(ratios.begin(), ratios.end());
-    const bool isQuick =
-        row("1,000 applications, interface thread", "milliseconds", ours[rounds / 2], 200);
-    return row("  against a bare table", "times", ratios[rounds / 2], 3) && isQuick;
+    const bool isQuick = Row{.work = "1,000 applications, interface thread",
+                             .figure = median(std::move(ours)),
+                             .limit = 200,
+                             .unit = "ms"}
+                             .print();
+    return Row{.work = "1,000 applications, against a bare table",
+               .figure = median(std::move(ratios)),
+               .limit = 3}
+               .print()
+        && isQuick;
 }
 
 // A pause is what one turn of the wheel keeps the interface thread from anything else: the scroll,
@@ -180,8 +178,16 @@ bool scrolls(AboutViewController &page)
         if (!isShown)
             qFatal("the icons do not come");
     }
-    const bool isSmooth = row("scrolling through all, longest pause", "milliseconds", longest, 50);
-    return row("scrolling through all, more memory", "megabytes", memory() - before, 30)
+    const bool isSmooth = Row{.work = "1,000 applications, longest pause scrolling",
+                              .figure = longest,
+                              .limit = 50,
+                              .unit = "ms"}
+                              .print();
+    return Row{.work = "1,000 applications, memory for icons",
+               .figure = memory() - before,
+               .limit = 30,
+               .unit = "MB"}
+               .print()
         && isSmooth;
 }
 

@@ -7,6 +7,7 @@
 #include "DB.h"
 #include "Global.h"
 #include "RecordTable.h"
+#include "Row.h"
 #include "Theme.h"
 #include "UserGroupViewController.h"
 #include "UserViewController.h"
@@ -18,7 +19,6 @@
 
 #include <sqlite3.h>
 
-#include <algorithm>
 #include <ctime>
 #include <functional>
 #include <vector>
@@ -38,12 +38,6 @@ double threadTime()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) * 1e-6;
 }
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 /// Times one step in each round, with what must precede it untimed.
 bool isWithin(const char *name, const std::function<void()> &prepare,
               const std::function<void()> &step)
@@ -59,11 +53,11 @@ bool isWithin(const char *name, const std::function<void()> &prepare,
         thread.push_back(threadTime() - begin);
         clock.push_back(double(watch.nsecsElapsed()) * 1e-6);
     }
-    const double taken = median(thread);
-    std::printf("%-40s %6.2f ms of at most %.0f  %s  (%.2f ms by the clock)\n", name, taken, limit,
-                taken <= limit ? "ok    " : "PASSED", median(clock));
-    std::fflush(stdout);
-    return taken <= limit;
+    char detail[64];
+    std::snprintf(detail, sizeof detail, "%.1f ms by the clock", median(clock));
+    return Row{
+        .work = name, .figure = median(thread), .limit = limit, .unit = "ms", .detail = detail}
+        .print();
 }
 
 /// Names out of order, so that sorting has work to do, with escapes, so that showing them has.

@@ -5,11 +5,11 @@
 
 #include "HybridImage.h"
 #include "ProcessCost.h"
+#include "Turns.h"
 
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -43,7 +43,6 @@ private:
     Command image(bool isHfs, const std::string &source) const;
     ProcessCost costOf(const Command &command) const;
     void compare(const char *name, double limit, const Command &ours, const Command &peer);
-    void report(const char *name, double figure, double limit, const char *unit);
 
     fs::path m_folder;
     bool m_passed = false;
@@ -89,33 +88,14 @@ ProcessCost ImageBench::costOf(const Command &command) const
 
 void ImageBench::compare(const char *name, double limit, const Command &ours, const Command &peer)
 {
-    std::vector<double> ratios;
-    std::vector<ProcessCost> ourCosts;
-    std::vector<ProcessCost> peerCosts;
-    for (int round = 0; round < 7; ++round) {
-        const bool oursFirst = round % 2 == 0;
-        const auto first = costOf(oursFirst ? ours : peer);
-        const auto second = costOf(oursFirst ? peer : ours);
-        ourCosts.push_back(oursFirst ? first : second);
-        peerCosts.push_back(oursFirst ? second : first);
-        ratios.push_back(ourCosts.back().wall / peerCosts.back().wall);
-    }
-    std::ranges::sort(ratios);
-    report(name, ratios[ratios.size() / 2], limit, "times");
-    const auto median = ProcessCost::median(ourCosts);
-    const auto peerMedian = ProcessCost::median(peerCosts);
-    std::printf("    %.2f s against %.2f s, processor %.2f s against %.2f s, memory %.0f MB\n",
-                median.wall, peerMedian.wall, median.processor, peerMedian.processor,
-                median.memory);
-}
-
-void ImageBench::report(const char *name, double figure, double limit, const char *unit)
-{
-    const bool isOk = figure <= limit;
-    m_passed = m_passed || !isOk;
-    std::printf("%-40s %6.2f of at most %5.2f %-5s  %s\n", name, figure, limit, unit,
-                isOk ? "ok" : "PASSED");
-    std::fflush(stdout);
+    const auto turns = Turns<ProcessCost>::taken(
+        7, [&] { return costOf(ours); }, [&] { return costOf(peer); });
+    const Row row{.work = name,
+                  .figure = turns.ratio([](const ProcessCost &cost) { return cost.wall; }),
+                  .limit = limit,
+                  .detail = against(ProcessCost::median(turns.ours).wall,
+                                    ProcessCost::median(turns.peers).wall, "s")};
+    m_passed = !row.print() || m_passed;
 }
 
 void ImageBench::compareHfs()
@@ -144,8 +124,11 @@ void ImageBench::limitMemory()
         for (int link = 1; link < 200; ++link)
             fs::create_hard_link(folder / "file 0", folder / ("file " + std::to_string(link)));
     }
-    report("memory for an HFS+ image of 20,000 files", costOf(image(true, path("many"))).memory, 40,
-           "MB");
+    const Row row{.work = "HFS+ image of 20,000 files, memory",
+                  .figure = costOf(image(true, path("many"))).memory,
+                  .limit = 40,
+                  .unit = "MB"};
+    m_passed = !row.print() || m_passed;
 }
 
 } // namespace

@@ -1,11 +1,12 @@
 #include "ProcessCost.h"
 
+#include "Row.h"
+
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -75,8 +76,7 @@ ProcessCost ProcessCost::median(const std::vector<ProcessCost> &costs)
         std::vector<double> figures;
         for (const ProcessCost &cost : costs)
             figures.push_back(cost.*figure);
-        std::ranges::sort(figures);
-        return figures[figures.size() / 2];
+        return ::median(std::move(figures));
     };
     return {.processor = middle(&ProcessCost::processor),
             .wall = middle(&ProcessCost::wall),
