@@ -1,0 +1,53 @@
+"""The program's own tables of texts, for the files by which a desktop describes it."""
+
+import re
+import xml.etree.ElementTree as xml
+from pathlib import Path
+
+# What `toolvane PAGE` takes, in the sidebar's order, and the key of the page's name.
+PAGES = {
+    "video": "AV Convert",
+    "cache": "UserCache",
+    "speech": "Speech Synthesis",
+    "zip": "Zip",
+    "unzip": "Unzip",
+    "dmg": "DMG",
+    "iso": "ISO",
+    "update": "Update",
+}
+
+
+def read_tables(folder):
+    """{language: {key: text}}, English first, then by name. Languages of tests (XA…XZ) are left out."""
+    tables = {}
+    for path in sorted(Path(folder).glob("toolvane_*.ts")):
+        language = path.stem.removeprefix("toolvane_")
+        if re.fullmatch(r"[a-z]{2,3}(_(?!X)[A-Z]{2})?", language):
+            tables[language] = _read_table(path)
+    return {"en": tables.pop("en"), **tables}
+
+
+def _read_table(path):
+    table = {}
+    for message in xml.parse(path).iter("message"):
+        if text := (message.findtext("translation") or "").strip():
+            table[message.get("id")] = text
+    return table
+
+
+def phrase(text):
+    """A sentence as menus and software centres want it: without its full stop."""
+    return text.rstrip(".。।")
+
+
+def translated(tables, text_of):
+    """(language, text) for each language whose text is not the English one."""
+    english = text_of(tables["en"])
+    yield "en", english
+    for language, table in list(tables.items())[1:]:
+        try:
+            text = text_of(table)
+        except KeyError:  # not translated yet; English answers
+            continue
+        if text != english:
+            yield language, text
