@@ -5,7 +5,9 @@
 #include "HoverTableRowView.h"
 #include "HoverTableView.h"
 #include "JobList.h"
+#include "Notifier.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QFontInfo>
 
@@ -28,6 +30,7 @@ HoverTableAppDelegate::HoverTableAppDelegate(const QList<Tool> &tools, JobList &
     connect(m_tableView.selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &HoverTableAppDelegate::tableViewSelectionDidChange);
     connect(&m_jobs, &JobList::changed, this, &HoverTableAppDelegate::showRunningJobs);
+    connect(&m_jobs, &JobList::jobEnded, this, &HoverTableAppDelegate::announceEnd);
 }
 
 HoverTableAppDelegate::NaviItem HoverTableAppDelegate::getNaviItem(const QString &name,
@@ -54,6 +57,20 @@ void HoverTableAppDelegate::tableViewSelectionDidChange()
 void HoverTableAppDelegate::selectTool(int row)
 {
     m_tableView.setCurrentIndex(index(row));
+}
+
+bool HoverTableAppDelegate::showPage(const QString &page)
+{
+    const qsizetype row = rowOf(page);
+    if (row >= 0)
+        selectTool(static_cast<int>(row));
+    return row >= 0;
+}
+
+qsizetype HoverTableAppDelegate::rowOf(const QString &page) const
+{
+    const auto item = std::ranges::find(m_viewItems, page, &QObject::objectName);
+    return item == m_viewItems.end() ? -1 : item - m_viewItems.begin();
 }
 
 int HoverTableAppDelegate::rowCount(const QModelIndex &parent) const
@@ -98,4 +115,15 @@ bool HoverTableAppDelegate::isRunning(int row) const
         return row < m_viewItems.size()
             && job.description.page == m_viewItems.at(row)->objectName();
     });
+}
+
+// A screen reader hears of it wherever its user is.
+void HoverTableAppDelegate::announceEnd(const RunningJob &job, JobOutcome outcome)
+{
+    const qsizetype row = rowOf(job.description.page);
+    if (row < 0 || (outcome == JobOutcome::Succeeded && !job.description.successIsNews))
+        return;
+    m_viewItems.at(row)->setAccessibleDescription(Notifier::summary(job.description, outcome));
+    QAccessibleEvent alert(m_viewItems.at(row), QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }

@@ -1,12 +1,14 @@
 #pragma once
 
 #include "AppDelegate.h"
+#include "Job.h"
 #include "Tool.h"
 
 #include <QAbstractListModel>
 #include <QList>
 
 class HoverTableView;
+struct RunningJob;
 
 /// The sidebar's data source and delegate, and the owner of the tool pages: it makes each page
 /// once, in the order of the list, and puts the page of the chosen row into the main window's
@@ -34,6 +36,9 @@ public:
 
     QWidget *viewItem(int row) const { return m_viewItems.at(row); }
     void selectTool(int row);
+    /// Chooses the tool whose page has this name (its class name, as in JobDescription::page).
+    /// False, and nothing happens, where no tool has such a page.
+    bool showPage(const QString &page);
     /// Destroys the pages for good, and with each the runs that it still has.
     void closePages();
 
@@ -41,8 +46,10 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
+    qsizetype rowOf(const QString &page) const; ///< -1 for a page of no tool.
     void showRunningJobs();
     bool isRunning(int row) const;
+    void announceEnd(const RunningJob &job, JobOutcome outcome);
 
     AppDelegate &m_appDelegate;
     HoverTableView &m_tableView;

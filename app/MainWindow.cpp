@@ -6,6 +6,7 @@
 #include "JobList.h"
 #include "LoginDelegate.h"
 #include "MiscTool.h"
+#include "Mnemonics.h"
 #include "NamedImage.h"
 #include "RecordWindow.h"
 #include "ToolbarTitle.h"
@@ -29,6 +30,7 @@ constexpr auto geometryKey = "MainWindow/Geometry"_L1;
 MainWindow::MainWindow(JobList &jobs) : ui(std::make_unique<Ui::MainWindow>()), m_jobs(jobs)
 {
     ui->setupUi(this);
+    ui->jobStrip->setJobs(m_jobs);
     fillToolbar();
     connect(ui->aboutItem, &QAction::triggered, this, &MainWindow::showAbout);
     connect(ui->quitItem, &QAction::triggered, this, &QWidget::close);
@@ -68,6 +70,7 @@ void MainWindow::connectOutlets(AppDelegate &delegate)
 
 void MainWindow::connectTools(HoverTableAppDelegate &tools)
 {
+    connect(ui->jobStrip, &JobStrip::pageWanted, &tools, &HoverTableAppDelegate::showPage);
     for (int row = 0; row < tools.numberOfRowsInTableView(); ++row) {
         const auto [icon, name] = tools.objectValueForTableColumn(row);
         QAction *item = ui->toolsMenu->addAction(name);
@@ -92,6 +95,15 @@ void MainWindow::connectRecords(LoginDelegate &login)
 HoverTableView &MainWindow::tableView() const
 {
     return *ui->tableView;
+}
+
+void MainWindow::comeToFront(const QString &activationToken)
+{
+    // Qt takes the token from there, and from the environment, with the request that follows.
+    if (!activationToken.isEmpty() && QGuiApplication::platformName().startsWith("wayland"_L1))
+        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    MiscTool::showWindow(this);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -121,6 +133,7 @@ void MainWindow::askBeforeClosing()
     connect(quit, &QPushButton::clicked, this, &MainWindow::quitWithoutFinishing);
     // Once the last run has ended there is nothing left to ask.
     connect(&m_jobs, &JobList::allEnded, question, &QWidget::close);
+    Mnemonics::keepUnique(question);
     question->open();
 }
 

@@ -29,13 +29,17 @@ public:
 
     /// Fills the delegate's outlets with this window and its parts.
     void connectOutlets(AppDelegate &delegate);
-    /// Lists the tools in the menu, each with Ctrl and its number.
+    /// Lists the tools in the menu, each with Ctrl and its number, and lets what runs lead to them.
     void connectTools(HoverTableAppDelegate &tools);
 
     /// Lets the Records menu open the login window and the record pages.
     void connectRecords(LoginDelegate &login);
 
     HoverTableView &tableView() const;
+
+    /// Shows the window above others. Where the desktop wants to see a token before it allows that,
+    /// this is the one it gave.
+    void comeToFront(const QString &activationToken = {});
 
 Q_SIGNALS:
     /// The user wants to quit although something runs: the pages are to go, and their runs with

@@ -24,6 +24,8 @@ constexpr std::size_t manyEntries = 10'000;
 class Emptier
 {
 public:
+    explicit Emptier(const std::stop_token &stop) : m_stop(stop) { }
+
     void removeEntries(FolderDescent &descent);
     void removeWaiting(FolderDescent &descent, FolderShare &share);
     const EmptyingTally &tally() const { return m_tally; }
@@ -39,6 +41,7 @@ private:
     bool removeItem(int parent, const char *name, int flags);
     void sortPlaces();
 
+    const std::stop_token &m_stop;
     EmptyingTally m_tally;
     FolderEntries m_entries{entriesBlock};
     std::vector<Place> m_places;
@@ -70,8 +73,11 @@ void Emptier::removeEntries(FolderDescent &descent)
             m_places.push_back({.inode = entry.inode, .position = position});
         });
         sortPlaces();
-        for (const Place &place : m_places)
+        for (const Place &place : m_places) {
+            if (m_stop.stop_requested())
+                return;
             removeEntry(descent, m_entries.entryAt(place.position));
+        }
     } while (!m_entries.atEnd());
 }
 
@@ -129,6 +135,8 @@ void Emptier::removeWaiting(FolderDescent &descent, FolderShare &share)
 {
     for (;;) {
         while (const char *name = descent.nextSubfolder()) {
+            if (m_stop.stop_requested())
+                return;
             enterOrRemove(descent, name);
             if (!share.wanted())
                 continue;
@@ -161,15 +169,15 @@ void EmptyingTally::add(const EmptyingTally &other)
         firstError = other.firstError;
 }
 
-EmptyingTally emptyFolder(FileDescriptor folder, unsigned helpers)
+EmptyingTally emptyFolder(FileDescriptor folder, unsigned helpers, const std::stop_token &stop)
 {
     FolderDescent descent({.folder = std::move(folder), .names = {}});
-    Emptier first;
+    Emptier first(stop);
     first.removeEntries(descent);
     EmptyingTally total = first.tally();
     std::mutex mutex;
     FolderShare::run(helpers, descent, [&](FolderShare &share, FolderDescent &part) {
-        Emptier emptier;
+        Emptier emptier(stop);
         emptier.removeWaiting(part, share);
         const std::scoped_lock lock(mutex);
         total.add(emptier.tally());

@@ -70,7 +70,7 @@ bool openOrRemove(int parent, const char *name, FileDescriptor &folder, Emptying
     return false;
 }
 
-EmptyingTally removeItem(int parent, const char *name)
+EmptyingTally removeItem(int parent, const char *name, const std::stop_token &stop)
 {
     const unsigned helpers = std::clamp(std::thread::hardware_concurrency(), 1u, 2u) - 1;
     EmptyingTally total;
@@ -81,14 +81,14 @@ EmptyingTally removeItem(int parent, const char *name)
         FileDescriptor folder;
         if (!openOrRemove(parent, name, folder, total))
             return total;
-        const EmptyingTally tally = emptyFolder(std::move(folder), pass == 0 ? helpers : 0);
+        const EmptyingTally tally = emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop);
         total.add(tally);
         if (::unlinkat(parent, name, AT_REMOVEDIR) == 0) {
             ++total.removed;
             return total;
         }
-        const int error = errno;
-        if (tally.removed == 0 || pass + 1 == mostPasses) {
+        const int error = stop.stop_requested() ? ECANCELED : errno;
+        if (error == ECANCELED || tally.removed == 0 || pass + 1 == mostPasses) {
             if (total.refused == 0)
                 total.refuse(error);
             break;
@@ -99,8 +99,11 @@ EmptyingTally removeItem(int parent, const char *name)
 
 } // namespace
 
-FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path)
+FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
+                                const std::stop_token &stop)
 {
+    if (stop.stop_requested())
+        return refusal(ECANCELED, base, path);
     if (!isPlainWay(path))
         return refusal(EINVAL, base, path);
     FileDescriptor parent = openBase(base);
@@ -114,7 +117,7 @@ FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path)
         if (!parent)
             return refusal(errno, base, path);
     }
-    const EmptyingTally tally = removeItem(parent.get(), path.mid(slash + 1).constData());
+    const EmptyingTally tally = removeItem(parent.get(), path.mid(slash + 1).constData(), stop);
     if (tally.refused > 0)
         qInfo().noquote() << u"%1 items stayed at \"%2\" below \"%3\": %4"_s.arg(
             QString::number(tally.refused), QFile::decodeName(path), QFile::decodeName(base),

@@ -3,6 +3,7 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <stop_token>
 
 /// What a removal came to.
 struct FolderRemovalResult {
@@ -26,5 +27,7 @@ struct FolderRemovalResult {
 /// Refused as a whole, with a line in the system log: a base that is empty, relative, unreadable or
 /// "/" under whatever name; a path that is empty, absolute, or has an empty, "." or ".." component;
 /// a NUL in either. Otherwise one line says how much stayed, if anything did.
-/// Uses two threads; may be called on any thread, takes as long as it takes.
-FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path);
+/// Uses two threads; may be called on any thread, takes as long as it takes. Told to stop, it
+/// leaves what it has not removed yet; ECANCELED is then the error where nothing refused before.
+FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
+                                const std::stop_token &stop = {});

@@ -16,12 +16,13 @@ namespace
 constexpr std::size_t entriesBlock = 64 * 1024;
 
 // Adds up the innermost folder's entries and lets its sub-folders wait.
-std::uint64_t sizeOfEntries(FolderDescent &descent, FolderEntries &entries)
+std::uint64_t sizeOfEntries(FolderDescent &descent, FolderEntries &entries,
+                            const std::stop_token &stop)
 {
     std::uint64_t sum = 0;
     const int folder = descent.folder();
     do {
-        if (!entries.read(folder))
+        if (stop.stop_requested() || !entries.read(folder))
             return sum;
         entries.forEach([&](const FolderEntries::Entry &listed, std::size_t) {
             const auto entry = FolderAccess::entry(folder, listed.name);
@@ -35,16 +36,19 @@ std::uint64_t sizeOfEntries(FolderDescent &descent, FolderEntries &entries)
     return sum;
 }
 
-std::uint64_t sizeOfWaiting(FolderDescent &descent, FolderEntries &entries, FolderShare &share)
+std::uint64_t sizeOfWaiting(FolderDescent &descent, FolderEntries &entries, FolderShare &share,
+                            const std::stop_token &stop)
 {
     std::uint64_t sum = 0;
     for (;;) {
         while (const char *name = descent.nextSubfolder()) {
+            if (stop.stop_requested())
+                return sum;
             FileDescriptor folder = FolderAccess::openFolder(descent.folder(), name);
             if (!folder)
                 continue;
             descent.enter(std::move(folder));
-            sum += sizeOfEntries(descent, entries);
+            sum += sizeOfEntries(descent, entries, stop);
             if (!share.wanted())
                 continue;
             if (auto batch = descent.split())
@@ -57,7 +61,7 @@ std::uint64_t sizeOfWaiting(FolderDescent &descent, FolderEntries &entries, Fold
 
 } // namespace
 
-std::int64_t folderSize(const QByteArray &path)
+std::int64_t folderSize(const QByteArray &path, const std::stop_token &stop)
 {
     if (path.contains('\0'))
         return 0;
@@ -66,11 +70,11 @@ std::int64_t folderSize(const QByteArray &path)
         return 0;
     FolderDescent descent({.folder = std::move(top), .names = {}});
     FolderEntries topEntries(entriesBlock);
-    std::atomic<std::uint64_t> sum = sizeOfEntries(descent, topEntries);
+    std::atomic<std::uint64_t> sum = sizeOfEntries(descent, topEntries, stop);
     const unsigned helpers = std::clamp(std::thread::hardware_concurrency(), 1u, 4u) - 1;
-    FolderShare::run(helpers, descent, [&sum](FolderShare &share, FolderDescent &part) {
+    FolderShare::run(helpers, descent, [&sum, &stop](FolderShare &share, FolderDescent &part) {
         FolderEntries entries(entriesBlock);
-        sum += sizeOfWaiting(part, entries, share);
+        sum += sizeOfWaiting(part, entries, share, stop);
     });
     return static_cast<std::int64_t>(sum.load());
 }

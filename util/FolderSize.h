@@ -3,11 +3,13 @@
 #include <QByteArray>
 
 #include <cstdint>
+#include <stop_token>
 
 /// Total size in bytes of everything below a folder at any depth: files, links and the sub-folders'
 /// own entries; the folder itself is not counted, a file with several names counts once for each,
 /// what is mounted below counts too. Links below are not followed; a path that is itself a link to
 /// a folder is (a path means what it leads to). What cannot be read counts 0; a file, a missing or
 /// unreadable folder, or a path with a NUL gives 0.
+/// Told to stop, it gives what it has added up so far, soon.
 /// Works on bytes, so on every name and at every depth; uses up to four threads; any thread.
-std::int64_t folderSize(const QByteArray &path);
+std::int64_t folderSize(const QByteArray &path, const std::stop_token &stop = {});

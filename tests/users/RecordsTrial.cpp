@@ -17,8 +17,6 @@ RecordsTrial::RecordsTrial()
     QCoreApplication::setOrganizationName(u"Toolvane"_s);
     QCoreApplication::setApplicationName(u"Toolvane"_s);
     QSettings().clear();
-    DB::reset();
-    Global::reset();
     QFile::remove(databaseFile());
     owner.show();
 }
@@ -29,7 +27,7 @@ RecordsTrial::~RecordsTrial()
     DB::reset();
 }
 
-QWidget &RecordsTrial::open(RecordWindow::Page page)
+AbstractViewController &RecordsTrial::open(RecordWindow::Page page)
 {
     RecordWindow::closeOf(owner);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -38,7 +36,7 @@ QWidget &RecordsTrial::open(RecordWindow::Page page)
         qFatal("the record window does not open");
     constexpr const char *pages[] = {"UserGroupViewController", "UserViewController",
                                      "TemplateViewController"};
-    return this->page(pages[int(page)]);
+    return PageControls::control<AbstractViewController>(window(), pages[int(page)]);
 }
 
 RecordWindow &RecordsTrial::window() const
@@ -81,11 +79,6 @@ int stored(const QString &table, const Record &record)
 
 } // namespace
 
-int RecordsTrial::store(const UserGroupSchema &group)
-{
-    return stored(u"UserGroup"_s, group);
-}
-
 int RecordsTrial::store(const UserSchema &user)
 {
     return stored(u"User"_s, user);
@@ -96,7 +89,7 @@ int RecordsTrial::storeGroup(const QString &name, const QString &permission)
     UserGroupSchema group;
     group.Name = name;
     group.Permission = permission;
-    return store(group);
+    return stored(u"UserGroup"_s, group);
 }
 
 int RecordsTrial::storeUser(const QString &name, int groupID, const QString &password)
@@ -140,6 +133,19 @@ void Using::selectRow(const QWidget &page, int row)
     const QModelIndex index = list.model()->index(row, 0);
     list.scrollTo(index);
     QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
+}
+
+void Using::doubleClickRow(const QWidget &page, int row)
+{
+    selectRow(page, row);
+    const QPoint onRow = table(page).visualRect(table(page).currentIndex()).center();
+    QTest::mouseDClick(table(page).viewport(), Qt::LeftButton, {}, onRow);
+}
+
+void Using::edit(const QWidget &page, int row)
+{
+    selectRow(page, row);
+    press(page, "editButton");
 }
 
 void Using::type(const QWidget &page, const char *field, const QString &text)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AbstractViewController.h"
 #include "MessageBoxes.h"
 #include "PageControls.h"
 #include "RecordTable.h"
@@ -22,7 +23,7 @@ public:
     MessageBoxes boxes;
 
     /// Opens the window anew, with this page in front.
-    QWidget &open(RecordWindow::Page page);
+    AbstractViewController &open(RecordWindow::Page page);
     RecordWindow &window() const;
     QWidget &page(const char *name) const;
 
@@ -30,8 +31,7 @@ public:
     static QString sqlite(const QString &sql);
     static QString databaseFile();
 
-    static int store(const UserGroupSchema &group); ///< Gives the new row's key.
-    static int store(const UserSchema &user);
+    static int store(const UserSchema &user); ///< Gives the new row's key, as those below.
     static int storeGroup(const QString &name, const QString &permission = {});
     static int storeUser(const QString &name, int groupID,
                          const QString &password = QStringLiteral("pw"));
@@ -44,11 +44,16 @@ namespace Using
 {
 
 using PageControls::control;
+using PageControls::press;
+using PageControls::text;
+using enum RecordWindow::Page;
 
 RecordTable &table(const QWidget &page);
 QString cell(const QWidget &page, int row, int column = 0);
 QStringList names(const QWidget &page); ///< The first column, from top to bottom.
 void selectRow(const QWidget &page, int row); ///< By a click.
+void doubleClickRow(const QWidget &page, int row);
+void edit(const QWidget &page, int row); ///< By the button.
 /// Replaces what stands in the field, as an input method would.
 void type(const QWidget &page, const char *field, const QString &text);
 void check(const QWidget &page, const char *box);

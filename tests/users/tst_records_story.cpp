@@ -15,7 +15,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace Using;
-using PageControls::press;
 
 namespace
 {
@@ -71,8 +70,8 @@ void makeGroup(const QWidget &page)
 {
     press(page, "addButton");
     QTest::keyClicks(panel(page).focusWidget(), u"Clerks"_s);
-    for (const char *box : {"userGroupViewCB", "userGroupEditCB", "userAddCB"})
-        check(page, box);
+    for (const char *box : {"userGroupEditCB", "userGroupViewCB", "userAddCB"})
+        check(page, box); // stored in their own order
     QTest::keyClick(&control<QLineEdit>(page, "memoField"), Qt::Key_Return);
     QVERIFY(!panel(page).isVisible());
 }
@@ -98,76 +97,65 @@ class tst_RecordsStory : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Application::prepare(); }
-    void fromRootToAnOrdinaryUser();
-    void loggingInClosesWhatAnotherUserHadOpen();
-    void theSheetBelongsToItsWindow();
-    void closingTheMainWindowQuits();
-};
 
-void tst_RecordsStory::fromRootToAnOrdinaryUser()
-{
-    RecordsTrial trial;
-    trial.owner.hide();
+    void fromRootToAnOrdinaryUser()
     {
+        RecordsTrial trial;
+        trial.owner.hide();
+        {
+            Started program;
+            QVERIFY(!QFile::exists(RecordsTrial::databaseFile()));
+            program.logIn(u"root"_s, u"kelp"_s);
+            makeGroup(program.open(Qt::Key_G, "UserGroupViewController"));
+            makeUser(program.open(Qt::Key_U, "UserViewController"));
+        }
+        QCOMPARE(RecordsTrial::sqlite(u"SELECT Name, Permission FROM UserGroup WHERE ID=2"_s),
+                 u"Clerks|A1A3B2"_s);
+        QCOMPARE(RecordsTrial::sqlite(u"SELECT UserGroupID, User, Password FROM User WHERE ID=2"_s),
+                 u"2|alice|secret"_s);
+
+        DB::reset();
+        Global::reset();
         Started program;
-        QVERIFY(!QFile::exists(RecordsTrial::databaseFile()));
-        program.logIn(u"root"_s, u"kelp"_s);
-        makeGroup(program.open(Qt::Key_G, "UserGroupViewController"));
-        makeUser(program.open(Qt::Key_U, "UserViewController"));
+        QCOMPARE(program.window().windowTitle(), u"Toolvane"_s);
+        program.logIn(u"alice"_s, u"secret"_s);
+        const QStringList buttons{u"addButton"_s, u"editButton"_s, u"delButton"_s};
+        const QWidget &groups = program.open(Qt::Key_G, "UserGroupViewController");
+        QVERIFY(groups.isVisible());
+        QCOMPARE(PageControls::enabledOf(groups, buttons), QStringList{u"editButton"_s});
+        const QWidget &users = program.open(Qt::Key_U, "UserViewController");
+        QVERIFY(users.isVisible());
+        QCOMPARE(PageControls::enabledOf(users, buttons), QStringList{u"addButton"_s});
+        QCOMPARE(trial.boxes.texts, QStringList());
     }
-    QCOMPARE(RecordsTrial::sqlite(u"SELECT Name, Permission FROM UserGroup WHERE ID=2"_s),
-             u"Clerks|A1A3B2"_s);
-    QCOMPARE(RecordsTrial::sqlite(u"SELECT UserGroupID, User, Password FROM User WHERE ID=2"_s),
-             u"2|alice|secret"_s);
 
-    DB::reset();
-    Global::reset();
-    Started program;
-    QCOMPARE(program.window().windowTitle(), u"Toolvane"_s);
-    program.logIn(u"alice"_s, u"secret"_s);
-    const QStringList buttons{u"addButton"_s, u"editButton"_s, u"delButton"_s};
-    const QWidget &groups = program.open(Qt::Key_G, "UserGroupViewController");
-    QVERIFY(groups.isVisible());
-    QCOMPARE(PageControls::enabledOf(groups, buttons), QStringList{u"editButton"_s});
-    const QWidget &users = program.open(Qt::Key_U, "UserViewController");
-    QVERIFY(users.isVisible());
-    QCOMPARE(PageControls::enabledOf(users, buttons), QStringList{u"addButton"_s});
-    QCOMPARE(trial.boxes.texts, QStringList());
-}
+    void loggingInClosesWhatAnotherUserHadOpen()
+    {
+        const RecordsTrial trial;
+        Started program;
+        program.open(Qt::Key_S, "TemplateViewController");
+        const QWidget &page = program.open(Qt::Key_U, "UserViewController");
+        press(page, "addButton");
+        QCOMPARE(panel(page).windowModality(), Qt::WindowModal);
+        QCOMPARE(panel(page).windowHandle()->transientParent(), program.records()->windowHandle());
+        QCOMPARE(program.window().findChildren<RecordWindow *>().size(), 1);
+        const QPointer<RecordWindow> records = program.records();
+        program.logIn(u"root"_s, u"kelp"_s);
+        QTRY_VERIFY(!records);
+    }
 
-void tst_RecordsStory::loggingInClosesWhatAnotherUserHadOpen()
-{
-    const RecordsTrial trial;
-    Started program;
-    program.open(Qt::Key_S, "TemplateViewController");
-    press(program.open(Qt::Key_U, "UserViewController"), "addButton"); // with its sheet open
-    QCOMPARE(program.window().findChildren<RecordWindow *>().size(), 1);
-    const QPointer<RecordWindow> records = program.records();
-    program.logIn(u"root"_s, u"kelp"_s);
-    QTRY_VERIFY(!records);
-}
-
-void tst_RecordsStory::theSheetBelongsToItsWindow()
-{
-    const RecordsTrial trial;
-    Started program;
-    const QWidget &page = program.open(Qt::Key_U, "UserViewController");
-    press(page, "addButton");
-    QCOMPARE(panel(page).windowModality(), Qt::WindowModal);
-    QCOMPARE(panel(page).windowHandle()->transientParent(), program.records()->windowHandle());
-}
-
-void tst_RecordsStory::closingTheMainWindowQuits()
-{
-    RecordsTrial trial;
-    trial.owner.hide();
-    Started program;
-    program.open(Qt::Key_U, "UserViewController");
-    program.choose(Qt::Key_L);
-    QTimer::singleShot(0, &program.window(), &QWidget::close);
-    QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
-    QCOMPARE(QApplication::exec(), 0); // ended by the window, not by the watchdog
-}
+    void closingTheMainWindowQuits()
+    {
+        RecordsTrial trial;
+        trial.owner.hide();
+        Started program;
+        program.open(Qt::Key_U, "UserViewController");
+        program.choose(Qt::Key_L);
+        QTimer::singleShot(0, &program.window(), &QWidget::close);
+        QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QApplication::exec(), 0); // ended by the window, not by the watchdog
+    }
+};
 
 QTEST_MAIN(tst_RecordsStory)
 #include "tst_records_story.moc"

@@ -130,14 +130,11 @@ SampleTree::Snapshot SampleTree::snapshot(const QByteArray &top)
 
 QList<QByteArray> SampleTree::difference(const Snapshot &before, const Snapshot &after)
 {
-    QList<QByteArray> names;
-    for (auto item = before.begin(); item != before.end(); ++item) {
-        if (after.value(item.key(), "gone") != item.value())
-            names += item.key();
-    }
-    for (const QByteArray &name : after.keys()) {
-        if (!before.contains(name))
-            names += name;
-    }
+    Snapshot all = before;
+    all.insert(after);
+    QList<QByteArray> names = all.keys();
+    names.removeIf([&](const QByteArray &name) {
+        return before.value(name, "missing") == after.value(name, "missing");
+    });
     return names;
 }

@@ -28,41 +28,34 @@ constexpr qint64 mostTime = 4'000; // Milliseconds, for a machine that has much 
 constexpr int wantedSwaps = 3'000;
 constexpr int wantedRounds = 30;
 
-void quiet(QtMsgType, const QMessageLogContext &, const QString &)
+using Pair = std::pair<QByteArray, QByteArray>;
+
+// Keeps exchanging the two names of each pair, on a thread of its own, until it goes out of scope.
+std::jthread swapper(const QList<Pair> &pairs, std::atomic<int> *swaps)
 {
+    return std::jthread([pairs, swaps](const std::stop_token &stop) {
+        while (!stop.stop_requested()) {
+            for (const auto &[one, other] : pairs)
+                *swaps += renameat2(AT_FDCWD, one.constData(), AT_FDCWD, other.constData(),
+                                    RENAME_EXCHANGE)
+                    == 0;
+            // Without a pause the removal would hardly get at the folders in between.
+            std::this_thread::sleep_for(std::chrono::microseconds(1));
+        }
+    });
 }
 
-struct Pair {
-    QByteArray one;
-    QByteArray other;
-};
-
-// Keeps exchanging two names of each pair, on a thread of its own, until it goes out of scope.
-class Swapper
+bool mountHere(const QByteArray &what, const QByteArray &path)
 {
-public:
-    Swapper(const QList<Pair> &pairs, std::atomic<int> *swaps)
-        : m_thread([pairs, swaps](const std::stop_token &stop) {
-              while (!stop.stop_requested()) {
-                  for (const Pair &pair : pairs)
-                      *swaps += swapNames(pair);
-                  // Without a pause the removal would hardly get at the folders in between.
-                  std::this_thread::sleep_for(std::chrono::microseconds(1));
-              }
-          })
-    {
-    }
+    return mount(what.constData(), path.constData(), nullptr, MS_BIND, nullptr) == 0;
+}
 
-private:
-    static bool swapNames(const Pair &pair)
-    {
-        return renameat2(AT_FDCWD, pair.one.constData(), AT_FDCWD, pair.other.constData(),
-                         RENAME_EXCHANGE)
-            == 0;
-    }
-
-    std::jthread m_thread;
-};
+/// An empty file system of its own at the path, which this process alone sees.
+bool mountMemory(const QByteArray &path)
+{
+    return unshare(CLONE_NEWNS) == 0 && mount("", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0
+        && mount("none", path.constData(), "tmpfs", 0, nullptr) == 0;
+}
 
 } // namespace
 
@@ -79,7 +72,8 @@ class tst_FolderRemoval_Attacks : public QObject
     template <class Build>
     void removeWhileSwapping(Build build)
     {
-        const auto before = qInstallMessageHandler(quiet);
+        const auto before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
         std::atomic<int> swaps = 0;
         quint64 removed = 0;
         int rounds = 0;
@@ -91,7 +85,7 @@ class tst_FolderRemoval_Attacks : public QObject
             makeFolder(home + "/Library");
             const QList<Pair> pairs = build(home);
             const int swapsBefore = swaps;
-            const Swapper swapper(pairs, &swaps);
+            const std::jthread swapping = swapper(pairs, &swaps);
             while (swaps == swapsBefore && timer.elapsed() < mostTime)
                 std::this_thread::yield();
             removed += removeBelow(home, "Library/Caches").removed;
@@ -152,24 +146,16 @@ private Q_SLOTS:
 
     void whatIsMountedBelowStays()
     {
-        if (unshare(CLONE_NEWNS) != 0)
-            QSKIP(qPrintable(u"no mounts of our own: "_s + qt_error_string(errno)));
-        QVERIFY(mount("", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0);
         const QByteArray top = m_home + "/Library/Caches";
         makeNested(top, 3, 4);
         makeFolder(top + "/d0/memory");
         makeFolder(top + "/d1/bound");
         makeFile(top + "/d2/boundfile", "");
-        // A bind mount has the same device number as the folder around it.
-        if (mount("none", (top + "/d0/memory").constData(), "tmpfs", 0, nullptr) != 0)
+        if (!mountMemory(top + "/d0/memory"))
             QSKIP(qPrintable(u"may not mount: "_s + qt_error_string(errno)));
-        QVERIFY(
-            mount(m_outside.constData(), (top + "/d1/bound").constData(), nullptr, MS_BIND, nullptr)
-            == 0);
-        const QByteArray file = m_outside + "/Caches/inner/f0";
-        QVERIFY(
-            mount(file.constData(), (top + "/d2/boundfile").constData(), nullptr, MS_BIND, nullptr)
-            == 0);
+        // These have the same device number as the folder around them.
+        QVERIFY(mountHere(m_outside, top + "/d1/bound"));
+        QVERIFY(mountHere(m_outside + "/Caches/inner/f0", top + "/d2/boundfile"));
         makeFile(top + "/d0/memory/kept", "kept");
         QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^3 items stayed at "_s));
         const FolderRemovalResult result = removeBelow(m_home, "Library/Caches");
@@ -181,11 +167,8 @@ private Q_SLOTS:
 
     void aMountedItemIsEmptiedAndStays()
     {
-        if (unshare(CLONE_NEWNS) != 0)
-            QSKIP(qPrintable(u"no mounts of our own: "_s + qt_error_string(errno)));
-        QVERIFY(mount("", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0);
         const QByteArray top = m_home + "/Library/Caches";
-        if (mount("none", top.constData(), "tmpfs", 0, nullptr) != 0)
+        if (!mountMemory(top))
             QSKIP(qPrintable(u"may not mount: "_s + qt_error_string(errno)));
         const int items = makeNested(top, 3, 4);
         QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^1 items stayed at "_s));

@@ -19,16 +19,13 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         const QString key = folder.filePath(u"key.pem"_s);
         const QString certificate = folder.filePath(u"certificate.pem"_s);
-        QCOMPARE(QProcess::execute(u"openssl"_s,
-                                   {u"req"_s, u"-x509"_s, u"-newkey"_s, u"ec"_s, u"-pkeyopt"_s,
-                                    u"ec_paramgen_curve:prime256v1"_s, u"-nodes"_s, u"-keyout"_s,
-                                    key, u"-out"_s, certificate, u"-subj"_s, u"/CN=127.0.0.1"_s,
-                                    u"-addext"_s, u"subjectAltName=IP:127.0.0.1"_s}),
-                 0);
+        const QString request =
+            u"req -x509 -newkey ec -pkeyopt ec_paramgen_curve:prime256v1 -nodes -keyout %1 -out %2 "
+            "-subj /CN=127.0.0.1 -addext subjectAltName=IP:127.0.0.1"_s.arg(key, certificate);
+        QCOMPARE(QProcess::execute(u"openssl"_s, QProcess::splitCommand(request)), 0);
         QProcess server;
-        server.start(u"openssl"_s,
-                     {u"s_server"_s, u"-www"_s, u"-accept"_s, u"127.0.0.1:0"_s, u"-cert"_s,
-                      certificate, u"-key"_s, key});
+        server.startCommand(
+            u"openssl s_server -www -accept 127.0.0.1:0 -cert %1 -key %2"_s.arg(certificate, key));
         QByteArray output;
         while (!output.contains("ACCEPT ") || !output.endsWith('\n')) {
             QVERIFY(server.waitForReadyRead());

@@ -18,41 +18,25 @@ class tst_MiscTool_Text : public QObject
 private Q_SLOTS:
     void initTestCase() { std::setlocale(LC_ALL, ""); }
 
-    void convertBytes_data()
-    {
-        QTest::addColumn<quint64>("count");
-        QTest::addColumn<QString>("text");
-        const auto row = [](quint64 count, const char *text) {
-            QTest::addRow("%llu", count) << count << QString::fromLatin1(text);
-        };
-        row(0, "--");
-        row(1, "1 Bytes");
-        row(1023, "1023 Bytes");
-        row(1024, "1.0 KB");
-        row(1280, "1.2 KB"); // A tie, to the even digit.
-        row(1536, "1.5 KB");
-        row(1048575, "1024.0 KB");
-        row(1048576, "1.0 MB");
-        row(1073741823, "1.00 GB"); // Single precision makes it 2^30.
-        row(1073741759, "1024.0 MB"); // The last one that it does not.
-        row(5368709120, "5.00 GB");
-        row(1000000000000, "931.32 GB");
-        row(std::numeric_limits<quint64>::max(), "17179869184.00 GB");
-    }
     void convertBytes()
     {
-        QFETCH(quint64, count);
-        QTEST(MiscTool::convertBytes(count), "text");
+        QCOMPARE(MiscTool::convertBytes(0), u"--"_s);
+        QCOMPARE(MiscTool::convertBytes(1023), u"1023 Bytes"_s);
+        QCOMPARE(MiscTool::convertBytes(1024), u"1.0 KB"_s);
+        QCOMPARE(MiscTool::convertBytes(1280), u"1.2 KB"_s); // A tie, to the even digit.
+        QCOMPARE(MiscTool::convertBytes(1048575), u"1024.0 KB"_s);
+        QCOMPARE(MiscTool::convertBytes(1048576), u"1.0 MB"_s);
+        QCOMPARE(MiscTool::convertBytes(1073741823), u"1.00 GB"_s); // In single precision 2^30.
+        QCOMPARE(MiscTool::convertBytes(1073741759), u"1024.0 MB"_s); // The last that is not.
+        QCOMPARE(MiscTool::convertBytes(std::numeric_limits<quint64>::max()),
+                 u"17179869184.00 GB"_s);
     }
 
     void fixedTextRoundsExactly()
     {
-        QCOMPARE(fixedText(0.125, 2), u"0.12"_s);
         QCOMPARE(fixedText(-2.5, 0), u"-2"_s);
         QCOMPARE(fixedText(1.005, 2), u"1.00"_s); // The double lies below.
         QCOMPARE(fixedText(1234567.891, 2), u"1234567.89"_s);
-        QCOMPARE(fixedText(0.1, 6), u"0.100000"_s);
-        QCOMPARE(fixedText(-0.0, 1), u"-0.0"_s);
         QCOMPARE(fixedText(std::numeric_limits<double>::max(), 100).size(), 309 + 1 + 100);
         QCOMPARE(fixedText(-std::numeric_limits<double>::infinity(), 2), u"-inf"_s);
     }
@@ -83,55 +67,33 @@ private Q_SLOTS:
         MiscTool::printMsg(QString(), u"a b"_s, u"\"quoted\" \\ %s %1\nnext "_s);
     }
 
-    void percentEscapes_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("escaped");
-        const QString kept = u"AZaz09-_.!~*'();/?:@&=+$,#"_s;
-        QTest::newRow("what may stand") << kept << kept;
-        QTest::newRow("what may not")
-            << u" \"%<>[\\]^`{|}\u007f"_s << u"%20%22%25%3C%3E%5B%5C%5D%5E%60%7B%7C%7D%7F"_s;
-        QTest::newRow("beyond ASCII") << u"é€😀"_s << u"%C3%A9%E2%82%AC%F0%9F%98%80"_s;
-        QTest::newRow("control") << u"a\n\u0000b"_s << u"a%0A%00b"_s;
-        QTest::newRow("byte order mark") << u"\ufeffa"_s << u"%EF%BB%BFa"_s;
-        QTest::newRow("escaped already") << u"%41"_s << u"%2541"_s;
-        QTest::newRow("Turkish i") << u"Iiıİ"_s << u"Ii%C4%B1%C4%B0"_s;
-        QTest::newRow("empty") << u""_s << u""_s;
-    }
     void percentEscapes()
     {
-        QFETCH(QString, text);
-        QTEST(MiscTool::encode2UTF8(text), "escaped");
-        QCOMPARE(MiscTool::decodeFromUTF8(MiscTool::encode2UTF8(text)), text);
-    }
-
-    void unpairedSurrogates()
-    {
+        const QString kept = u"AZaz09-_.!~*'();/?:@&=+$,#"_s;
+        const std::pair<QString, QString> escapes[] = {
+            {kept, kept},
+            {u" \"%<>[\\]^`{|}\u007f%41"_s, u"%20%22%25%3C%3E%5B%5C%5D%5E%60%7B%7C%7D%7F%2541"_s},
+            {u"\ufeffé€😀"_s, u"%EF%BB%BF%C3%A9%E2%82%AC%F0%9F%98%80"_s},
+            {u"a\n\u0000b"_s, u"a%0A%00b"_s},
+            {u"Iiıİ"_s, u"Ii%C4%B1%C4%B0"_s},
+        };
+        for (const auto &[text, escaped] : escapes) {
+            QCOMPARE(MiscTool::encode2UTF8(text), escaped);
+            QCOMPARE(MiscTool::decodeFromUTF8(escaped), text);
+        }
         const QString torn = QString(u'a') + QChar(0xd83d) + u'b' + QChar(0xde00);
         QCOMPARE(MiscTool::encode2UTF8(torn), u"a%EF%BF%BDb%EF%BF%BD"_s);
         QCOMPARE(MiscTool::decodeFromUTF8(torn), u"a\ufffdb\ufffd"_s);
     }
 
-    void decoding_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<std::optional<QString>>("decoded");
-        using Result = std::optional<QString>;
-        QTest::newRow("lower case") << u"%c3%a9+"_s << Result(u"é+"_s);
-        QTest::newRow("no digits") << u"100% %zz %4 %"_s << Result(u"100% %zz %4 %"_s);
-        QTest::newRow("digit of another script") << u"%4\u0661"_s << Result(u"%4\u0661"_s);
-        QTest::newRow("plain text") << u"é"_s << Result(u"é"_s);
-        QTest::newRow("noncharacter") << u"%EF%BF%BE"_s << Result(QString(QChar(0xfffe)));
-        QTest::newRow("Latin-1") << u"%E9"_s << Result();
-        QTest::newRow("cut off") << u"a%E2%82"_s << Result();
-        QTest::newRow("overlong") << u"%C0%AF"_s << Result();
-        QTest::newRow("surrogate") << u"%ED%A0%80"_s << Result();
-        QTest::newRow("beyond Unicode") << u"%F4%90%80%80"_s << Result();
-    }
     void decoding()
     {
-        QFETCH(QString, text);
-        QTEST(MiscTool::decodeFromUTF8(text), "decoded");
+        QCOMPARE(MiscTool::decodeFromUTF8(u"é%c3%a9+"_s), u"éé+"_s);
+        for (const QString &text : {u"100% %zz %4 %"_s, u"%4\u0661"_s}) // No digits of ASCII.
+            QCOMPARE(MiscTool::decodeFromUTF8(text), text);
+        QCOMPARE(MiscTool::decodeFromUTF8(u"%EF%BF%BE"_s), QString(QChar(0xfffe)));
+        for (const QString &text : {u"%E9"_s, u"a%E2%82"_s, u"%C0%AF"_s, u"%ED%A0%80"_s})
+            QVERIFY2(!MiscTool::decodeFromUTF8(text), qPrintable(text));
     }
 
     void nowIsWrittenWithoutPadding()

@@ -10,7 +10,7 @@
 namespace
 {
 
-constexpr std::size_t kernelChunk = 64U << 20U;
+constexpr std::size_t kernelChunk = 8U << 20U; // between two looks at the order to stop
 constexpr std::size_t bufferSize = 1U << 20U;
 
 // Each copies some bytes and returns their number, 0 at the end, -1 with errno.
@@ -47,7 +47,7 @@ bool isRefusal(int error)
 
 } // namespace
 
-int copyBytes(int from, int to)
+int copyBytes(int from, int to, const std::stop_token &stop)
 {
     // Every way continues where the one before it stopped. Some file systems end a kernel copy
     // early without an error, so an end counts only when plain reading sees it too.
@@ -55,6 +55,8 @@ int copyBytes(int from, int to)
     for (const Way way : std::array<Way, 3>{copyRange, sendRange, readAndWrite}) {
         ssize_t count = 0;
         do {
+            if (stop.stop_requested())
+                return ECANCELED;
             count = way(from, to);
         } while (count > 0 || (count < 0 && errno == EINTR));
         if (count < 0 && (way == readAndWrite || !isRefusal(errno)))

@@ -46,7 +46,7 @@ bool isSameEntry(const Place &one, const Place &other)
         && stat(other.folder.constData(), &second) == 0 && isSame(first, second);
 }
 
-int copyInto(const UnpublishedFile &target, const QByteArray &source)
+int copyInto(const UnpublishedFile &target, const QByteArray &source, const std::stop_token &stop)
 {
     if (target.error() != 0)
         return target.error();
@@ -56,7 +56,7 @@ int copyInto(const UnpublishedFile &target, const QByteArray &source)
         return errno;
     if (!S_ISREG(origin.st_mode)) // a pipe would never end
         return EINVAL;
-    if (const int error = copyBytes(from.get(), target.descriptor()); error != 0)
+    if (const int error = copyBytes(from.get(), target.descriptor(), stop); error != 0)
         return error;
     // What the target's file system cannot keep is no reason to lose the content.
     [[maybe_unused]] const int mode = fchmod(target.descriptor(), origin.st_mode & 07777U);
@@ -68,41 +68,51 @@ int copyInto(const UnpublishedFile &target, const QByteArray &source)
     return copy.st_size == origin.st_size ? 0 : EIO;
 }
 
-int copyTo(const Place &from, const Place &to)
+int copyTo(const Place &from, const Place &to, const std::stop_token &stop)
 {
     struct stat standing = {};
     if (lstat(to.path.constData(), &standing) == 0)
         return EEXIST; // before gigabytes are copied for nothing
     UnpublishedFile target(to.folder);
-    const int error = copyInto(target, from.path);
-    return error == 0 ? target.publish(to.name) : error;
+    if (const int error = copyInto(target, from.path, stop); error != 0)
+        return error;
+    return stop.stop_requested() ? ECANCELED : target.publish(to.name);
 }
 
-FilePlacement place(const Place &from, const Place &to)
+FilePlacement place(const Place &from, const Place &to, const std::stop_token &stop)
 {
     struct stat source = {};
     if (isSameEntry(from, to))
         return lstat(from.path.constData(), &source) == 0
             ? FilePlacement(FilePlacement::End::AlreadyThere, 0)
             : FilePlacement(FilePlacement::End::NotPlaced, errno);
-    if (renameat2(AT_FDCWD, from.path.constData(), AT_FDCWD, to.path.constData(), RENAME_NOREPLACE)
-        == 0)
-        return {FilePlacement::End::Renamed, 0};
-    const int error = errno == EEXIST ? EEXIST : copyTo(from, to);
+    int error = ECANCELED;
+    if (!stop.stop_requested()) {
+        if (renameat2(AT_FDCWD, from.path.constData(), AT_FDCWD, to.path.constData(),
+                      RENAME_NOREPLACE)
+            == 0)
+            return {FilePlacement::End::Renamed, 0};
+        error = errno == EEXIST ? EEXIST : copyTo(from, to, stop);
+    }
     unlink(from.path.constData());
     return error == 0 ? FilePlacement(FilePlacement::End::Copied, 0)
                       : FilePlacement(FilePlacement::End::NotPlaced, error);
 }
 
-FilePlacement placeAndLog(const QString &from, const QString &to)
+FilePlacement placeAndLog(const QString &from, const QString &to, const std::stop_token &stop)
 {
-    const FilePlacement placement = place(Place(from), Place(to));
+    const FilePlacement placement = place(Place(from), Place(to), stop);
     if (!placement.succeeded())
         qWarning().noquote() << to.simplified() + u": "_s + placement.description();
     return placement;
 }
 
 } // namespace
+
+bool FilePlacement::wasStopped() const
+{
+    return m_end == End::NotPlaced && m_error == ECANCELED;
+}
 
 QString FilePlacement::description() const
 {
@@ -119,7 +129,8 @@ QString FilePlacement::description() const
     Q_UNREACHABLE();
 }
 
-QFuture<FilePlacement> placeFile(const QString &from, const QString &to)
+QFuture<FilePlacement> placeFile(const QString &from, const QString &to,
+                                 const std::stop_token &stop)
 {
-    return QtConcurrent::run(placeAndLog, from, to);
+    return QtConcurrent::run(placeAndLog, from, to, stop);
 }

@@ -3,6 +3,8 @@
 #include <QFuture>
 #include <QString>
 
+#include <stop_token>
+
 /// What became of a finished file on its way to its place.
 class FilePlacement
 {
@@ -19,6 +21,7 @@ public:
     End end() const { return m_end; }
     bool succeeded() const { return m_end != End::NotPlaced; }
     int error() const { return m_error; } ///< The `errno` of the failure, 0 for success.
+    bool wasStopped() const; ///< Not placed because of the order to stop.
     /// In a few English words on one line, for the log.
     QString description() const;
 
@@ -31,4 +34,8 @@ private:
 /// byte; nothing half-written is ever left at `to` or beside it. Afterwards `from` is gone, even
 /// when the file could not be placed. A failure also goes to the log. May be called on any thread;
 /// the future has exactly one result.
-QFuture<FilePlacement> placeFile(const QString &from, const QString &to);
+///
+/// An order to stop counts until the file gets its name: then nothing is placed. What the system
+/// is flushing to a slow disk just then is waited for.
+QFuture<FilePlacement> placeFile(const QString &from, const QString &to,
+                                 const std::stop_token &stop = {});

@@ -12,6 +12,7 @@ struct JobDescription {
     QString page; ///< The `objectName` of the page, which is its class name.
     QString title; ///< What is being done, localised: mostly the page's title.
     QString subject = {}; ///< What it is done to, mostly a path. Plain text, shown as it stands.
+    bool successIsNews = true; ///< False where more of the run follows, or success shows itself.
 };
 
 enum class JobOutcome { Succeeded, Failed, Stopped };

@@ -12,7 +12,7 @@ Job JobList::begin(const JobDescription &description, std::function<void()> stop
     QElapsedTimer started;
     started.start();
     const JobId id = ++m_lastId;
-    m_running.push_back({id, description, started, std::move(stop)});
+    m_running.push_back({id, description, started, std::move(stop), false});
     Q_EMIT jobStarted(id);
     Q_EMIT changed();
     return Job(this, id);
@@ -26,10 +26,13 @@ const RunningJob *JobList::find(JobId id) const
 
 void JobList::stop(JobId id)
 {
+    const auto job = std::ranges::find(m_running, id, &RunningJob::id);
+    if (job == m_running.end() || !job->stop)
+        return;
+    job->stopRequested = true;
     // A copy: a stop function may end its job, and with it the entry that holds the function.
-    const RunningJob *job = find(id);
-    if (const auto stopJob = job ? job->stop : nullptr)
-        stopJob();
+    const auto stopJob = job->stop;
+    stopJob();
 }
 
 void JobList::stopAll()
@@ -47,7 +50,7 @@ void JobList::end(JobId id, JobOutcome outcome)
         return;
     const RunningJob ended = std::move(*job);
     m_running.erase(job);
-    Q_EMIT jobEnded(ended.description, outcome, ended.started.elapsed());
+    Q_EMIT jobEnded(ended, outcome);
     Q_EMIT changed();
     QMetaObject::invokeMethod(this, &JobList::tellIfAllEnded, Qt::QueuedConnection);
 }

@@ -14,6 +14,7 @@ struct RunningJob {
     JobDescription description;
     QElapsedTimer started;
     std::function<void()> stop; ///< Empty for a job that cannot be stopped.
+    bool stopRequested = false; ///< Somebody asked this list to stop it.
 };
 
 /// What runs now: child processes as well as work on threads. The application owns the one list
@@ -42,7 +43,7 @@ public:
 
 Q_SIGNALS:
     void jobStarted(JobId id);
-    void jobEnded(const JobDescription &description, JobOutcome outcome, qint64 milliseconds);
+    void jobEnded(const RunningJob &job, JobOutcome outcome); ///< It is off the list already.
     void changed(); ///< After each of the two.
     /// The list became empty and stayed so for one turn of the event loop: a coroutine whose
     /// command has just ended had its chance to begin the next job.

@@ -1,6 +1,7 @@
 #include "CacheCleaner.h"
 
 #include "FolderRemoval.h"
+#include "FolderSize.h"
 #include "MiscTool.h"
 #include "PathText.h"
 #include "SecurityScopedAccess.h"
@@ -30,8 +31,8 @@ void CacheCleaner::cleanDisk()
     resolveGrant();
     const SecurityScopedAccess access(m_bookmarkURL);
     const QByteArray home = QFile::encodeName(MiscTool::getUserHome());
-    forEachTicked([&home](CacheCategoryIndex category) {
-        removeBelow(home, cacheCategories.at(category).folder);
+    forEachTicked([&](CacheCategoryIndex category) {
+        removeBelow(home, cacheCategories.at(category).folder, m_stop);
     });
     checkDisk();
     m_report(DiskChanged{});
@@ -57,7 +58,9 @@ QString CacheCleaner::measuredFolder(const QString &base, CacheCategoryIndex cat
 void CacheCleaner::measure(CacheCategoryIndex category) const
 {
     const QString folder = measuredFolder(m_bookmarkURL.toLocalFile(), category);
-    m_report(FolderMeasured{category, MiscTool::getSize(folder)});
+    const std::int64_t bytes = folderSize(QFile::encodeName(folder), m_stop);
+    if (!m_stop.stop_requested()) // else that is not all of it
+        m_report(FolderMeasured{category, bytes});
 }
 
 void CacheCleaner::forEachTicked(const std::function<void(CacheCategoryIndex)> &act) const

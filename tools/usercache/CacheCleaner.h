@@ -15,7 +15,8 @@ public:
     using Report = std::function<void(const CacheUpdate &)>; ///< Called on the cleaner's thread.
 
     /// `bookmarkURL` is the folder that the user granted; empty where the stored grant has yet to
-    /// be resolved. Once `stop` is requested no further category is begun.
+    /// be resolved. Once `stop` is requested, what is not deleted yet stays, what is not measured
+    /// to its end is not told, and no further category is begun.
     CacheCleaner(const QUrl &bookmarkURL, CacheSelection ticked, Report report,
                  std::stop_token stop);
 

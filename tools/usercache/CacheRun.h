@@ -33,7 +33,7 @@ public:
              std::shared_ptr<std::mutex> turn);
     ~CacheRun() override;
 
-    /// Asks the run to begin no further category; returns at once.
+    /// Asks the run to end where it stands; returns at once.
     void stop();
 
 Q_SIGNALS:

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "JobList.h"
+
+#include <QScrollArea>
+#include <QTimer>
+
+#include <vector>
+
+class JobRow;
+
+/// The strip at the bottom of the main window's sidebar that lists what runs. It is there only
+/// while something runs, takes its room from the empty end of the list of tools, so that no page
+/// moves, and scrolls from the fourth row on. A run that ends at once is never shown: it would only
+/// flicker.
+class JobStrip : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit JobStrip(QWidget *parent = nullptr);
+
+    /// Shows what this list holds. Called once; the list must outlive the strip.
+    void setJobs(JobList &jobs);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
+
+Q_SIGNALS:
+    void pageWanted(const QString &page); ///< The name of a page, as in JobDescription.
+
+private:
+    void follow();
+    void removeEnded();
+    void addRows();
+    void addRow(const RunningJob &job);
+    void showElapsed();
+
+    JobList *m_jobs = nullptr;
+    std::vector<JobRow *> m_rows; ///< In the order of the list.
+    QTimer m_untilShown;
+    QTimer m_everySecond;
+};
