@@ -2,14 +2,15 @@
 
 #include "ConfiguredWebService.h"
 #include "HoverTableAppDelegate.h"
+#include "Language.h"
 #include "LoginDelegate.h"
 #include "NamedImage.h"
+#include "Notifier.h"
+#include "StartRequest.h"
 #include "Tool.h"
 
 #include <QApplication>
-#include <QLocale>
 #include <QTimer>
-#include <QTranslator>
 
 #include <chrono>
 
@@ -21,16 +22,6 @@ namespace
 
 constexpr auto windowIconDelay = 300ms;
 
-void installTexts()
-{
-    auto *english = new QTranslator(qApp);
-    if (english->load(u":/localisation/toolvane_en.qm"_s))
-        QCoreApplication::installTranslator(english);
-    auto *own = new QTranslator(qApp); // asked first; English answers for what it lacks
-    if (own->load(QLocale(), u"toolvane"_s, u"_"_s, u":/localisation"_s))
-        QCoreApplication::installTranslator(own);
-}
-
 } // namespace
 
 void Application::prepare()
@@ -40,7 +31,7 @@ void Application::prepare()
     QCoreApplication::setApplicationVersion(QLatin1String(TOOLVANE_VERSION));
     QGuiApplication::setApplicationDisplayName(u"Toolvane"_s);
     QGuiApplication::setDesktopFileName(u"toolvane"_s);
-    installTexts();
+    Language::install();
 }
 
 Application::Application()
@@ -53,18 +44,40 @@ Application::Application()
     m_tools = std::make_unique<HoverTableAppDelegate>(allTools(), m_jobs, m_delegate,
                                                       m_window.tableView());
     m_window.connectTools(*m_tools);
+    m_notifier = std::make_unique<Notifier>(m_jobs, m_window);
+    QObject::connect(m_notifier.get(), &Notifier::pageWanted, &m_window,
+                     [this](const QString &page, const QString &activationToken) {
+                         m_tools->showPage(page);
+                         m_window.comeToFront(activationToken);
+                     });
     QObject::connect(&m_window, &MainWindow::abandonRuns, m_tools.get(),
                      &HoverTableAppDelegate::closePages);
 }
 
 Application::~Application() = default;
 
-void Application::start()
+void Application::start(const QString &page)
 {
     openConfiguredWebService();
+    openPage(page);
     m_delegate.applicationDidFinishLaunching();
     // A window's icon is drawn in every size that a window manager may ask for, which is work that
     // nobody should wait for: the window comes first.
     QTimer::singleShot(windowIconDelay, qApp,
                        [] { QGuiApplication::setWindowIcon(namedImage(u"toolvane"_s)); });
+}
+
+bool Application::open(const StartRequest &request)
+{
+    if (!m_window.isVisible()) // closed already, while runs come to their end
+        return false;
+    openPage(request.page);
+    m_window.comeToFront(request.activationToken);
+    return true;
+}
+
+void Application::openPage(const QString &commandName)
+{
+    if (const auto row = rowOfTool(commandName))
+        m_tools->selectTool(*row);
 }

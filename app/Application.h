@@ -8,6 +8,8 @@
 
 class HoverTableAppDelegate;
 class LoginDelegate;
+class Notifier;
+struct StartRequest;
 
 /// Everything that the main interface description stands for, made and connected in the right
 /// order: the windows, the delegate, the sidebar with its pages, and the list of what runs.
@@ -21,7 +23,11 @@ public:
     /// texts of the user's language. Call once, before any window is made.
     static void prepare();
 
-    void start();
+    /// Shows the window, with the page of the tool of this command name where there is one.
+    void start(const QString &page = {});
+    /// Does what a later start of the program asks for: the window comes to the front. A name of no
+    /// tool opens no page. False, and nothing is done, when the window is closed already.
+    bool open(const StartRequest &request);
 
     MainWindow &window() { return m_window; }
     HoverTableAppDelegate &tools() { return *m_tools; }
@@ -29,9 +35,12 @@ public:
     AppDelegate &delegate() { return m_delegate; }
 
 private:
+    void openPage(const QString &commandName);
+
     JobList m_jobs;
     AppDelegate m_delegate;
     MainWindow m_window;
     std::unique_ptr<LoginDelegate> m_loginWindow;
     std::unique_ptr<HoverTableAppDelegate> m_tools;
+    std::unique_ptr<Notifier> m_notifier;
 };

@@ -24,13 +24,28 @@ QWidget *makePage(JobList &jobs, QWidget *parent)
 QList<Tool> allTools()
 {
     return {
-        {QT_TRID_NOOP("AV Convert"), "video", makePage<AVConvertViewController>},
-        {QT_TRID_NOOP("UserCache"), "clear", makePage<UserCacheViewController>},
-        {QT_TRID_NOOP("Speech Synthesis"), "synthesis", makePage<SynthesisViewController>},
-        {QT_TRID_NOOP("Zip"), "zip", makePage<ZIPViewController>},
-        {QT_TRID_NOOP("Unzip"), "unzip", makePage<UNZIPViewController>},
-        {QT_TRID_NOOP("DMG"), "image", makePage<DMGViewController>},
-        {QT_TRID_NOOP("ISO"), "image", makePage<ISOViewController>},
-        {QT_TRID_NOOP("Update"), "update", makePage<UpdateViewController>},
+        {QT_TRID_NOOP("AV Convert"), "video", "video", makePage<AVConvertViewController>},
+        {QT_TRID_NOOP("UserCache"), "clear", "cache", makePage<UserCacheViewController>},
+        {QT_TRID_NOOP("Speech Synthesis"), "synthesis", "speech",
+         makePage<SynthesisViewController>},
+        {QT_TRID_NOOP("Zip"), "zip", "zip", makePage<ZIPViewController>},
+        {QT_TRID_NOOP("Unzip"), "unzip", "unzip", makePage<UNZIPViewController>},
+        {QT_TRID_NOOP("DMG"), "image", "dmg", makePage<DMGViewController>},
+        {QT_TRID_NOOP("ISO"), "image", "iso", makePage<ISOViewController>},
+        {QT_TRID_NOOP("Update"), "update", "update", makePage<UpdateViewController>},
     };
+}
+
+QStringList toolCommandNames()
+{
+    QStringList names;
+    for (const Tool &tool : allTools())
+        names << QString::fromLatin1(tool.commandName);
+    return names;
+}
+
+std::optional<int> rowOfTool(const QString &commandName)
+{
+    const qsizetype row = toolCommandNames().indexOf(commandName);
+    return row < 0 ? std::nullopt : std::optional(static_cast<int>(row));
 }

@@ -66,7 +66,7 @@ Media encode(const Preset &preset, const std::string &source, const OutputFile &
     }
     const Finished finished = encoder->finish([](std::string_view) {});
     if (!finished.succeeded())
-        fail(source, finished.lastWords);
+        output.failWithWords(source, finished.lastWords);
     return media;
 }
 
@@ -79,7 +79,7 @@ void convert(const Job &job)
     const Media media = encode(*job.preset, source, output);
     const auto seconds = movieSeconds(output.descriptor());
     if (!seconds)
-        fail(job.output, "Was not written to its end");
+        output.failWithWords(job.output, "Was not written to its end");
     requireAnnouncedLength(media, *seconds, source);
     output.commit();
 }

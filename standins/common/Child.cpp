@@ -100,7 +100,7 @@ std::string ChildEnd::text() const
 std::string findProgram(const std::string &name, const std::string &package)
 {
     for (const char *folder : {"/usr/bin/", "/bin/"}) {
-        const std::string path = folder + name;
+        std::string path = folder + name;
         if (::access(path.c_str(), X_OK) == 0)
             return path;
     }

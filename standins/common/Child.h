@@ -20,6 +20,9 @@ struct Command {
     int errors = -1; // -1: our standard error
     std::vector<int> passed = {}; // descriptors that the child keeps, under the same numbers
 
+    // A line with this in it gives no reason: it is never among the last words. Empty: none.
+    std::string hollowWords = {};
+
     enum class Lifetime {
         EndsWithUs, // killed when we end, however we end
         // In a session of its own, goes on without us: what it shows belongs to the person, so it

@@ -15,8 +15,8 @@ void LastWords::add(std::string_view bytes)
             const bool control = static_cast<unsigned char>(byte) < 0x20 || byte == 0x7f;
             if (m_line.size() < longestLine)
                 m_line += control ? ' ' : byte;
-        } else if (!m_line.empty()) {
-            m_lastLine = m_line;
+        } else {
+            m_lastLine = text();
             m_line.clear();
         }
     }
@@ -24,7 +24,12 @@ void LastWords::add(std::string_view bytes)
 
 std::string LastWords::text() const
 {
-    return m_line.empty() ? m_lastLine : m_line;
+    return saysSomething() ? m_line : m_lastLine;
+}
+
+bool LastWords::saysSomething() const
+{
+    return !m_line.empty() && (m_hollow.empty() || m_line.find(m_hollow) == std::string::npos);
 }
 
 } // namespace standin

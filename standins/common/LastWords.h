@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace standin
 {
@@ -11,12 +12,18 @@ namespace standin
 class LastWords
 {
 public:
+    // Lines that hold these words are passed over.
+    explicit LastWords(std::string hollow = {}) : m_hollow(std::move(hollow)) { }
+
     void add(std::string_view bytes);
 
     // Empty when the child wrote none.
     std::string text() const;
 
 private:
+    bool saysSomething() const;
+
+    std::string m_hollow;
     std::string m_line;
     std::string m_lastLine;
 };

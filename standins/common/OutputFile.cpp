@@ -6,6 +6,7 @@
 #include <fcntl.h>
 #include <sys/random.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 
 #include <cerrno>
 #include <cstdint>
@@ -116,6 +117,14 @@ void OutputFile::write(const void *data, std::size_t size)
             size -= static_cast<std::size_t>(written);
         }
     }
+}
+
+void OutputFile::failWithWords(const std::string &path, const std::string &words) const
+{
+    struct statvfs room;
+    if (::fstatvfs(m_file.number(), &room) == 0 && room.f_bavail == 0)
+        failWithError(m_target, ENOSPC);
+    fail(path, words);
 }
 
 // linkat() cannot replace a file, so the file first gets a name that is free.

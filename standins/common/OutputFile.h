@@ -43,6 +43,10 @@ public:
     // Writes at the current position; a short write goes on, an error fails.
     void write(const void *data, std::size_t size);
 
+    // For a child that wrote to the file and failed: that there is no room left says more than the
+    // last words of most programs, which are given for `path` otherwise.
+    [[noreturn]] void failWithWords(const std::string &path, const std::string &words) const;
+
     // Gives the file the mode 0666 less the umask and renames it. Where it replaces an older file
     // it is flushed to the disk first, so that not even a power cut leaves neither of the two; a
     // new file need not wait for the disk.

@@ -70,7 +70,8 @@ Command connected(Command command, const Pipe &output, const Pipe &errors)
 } // namespace
 
 CapturedChild::CapturedChild(Command command)
-    : m_program(command.program), m_child(connected(std::move(command), m_output, m_errors))
+    : m_program(command.program), m_hollowWords(command.hollowWords),
+      m_child(connected(std::move(command), m_output, m_errors))
 {
     m_output.writeEnd.close();
     m_errors.writeEnd.close();
@@ -78,7 +79,7 @@ CapturedChild::CapturedChild(Command command)
 
 Finished CapturedChild::finish(const OutputSink &sink, std::chrono::milliseconds limit)
 {
-    LastWords words;
+    LastWords words(m_hollowWords);
     const OutputSink keepWords = [&words](std::string_view bytes) { words.add(bytes); };
     if (!drain(m_output.readEnd, sink, m_errors.readEnd, keepWords, limit))
         m_child.kill();

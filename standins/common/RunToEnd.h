@@ -36,6 +36,7 @@ public:
 
 private:
     std::string m_program;
+    std::string m_hollowWords;
     Pipe m_output;
     Pipe m_errors;
     Child m_child;

@@ -81,7 +81,8 @@ void writeHybridImage(const std::string &source, const std::string &volumeName,
     command.arguments = hybridArguments(standin::resolved(source), hybridVolumeName(volumeName),
                                         excludedPaths(output), output.descriptor());
     command.passed = {output.descriptor()};
+    command.hollowWords = "Image write cancelled"; // follows the reason
     const auto finished = standin::runToEnd(command, [](std::string_view) {});
     if (!finished.succeeded())
-        standin::fail(source, finished.lastWords);
+        output.failWithWords(source, finished.lastWords);
 }

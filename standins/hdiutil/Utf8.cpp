@@ -13,7 +13,7 @@ Utf8Character firstCharacter(std::string_view text)
     UChar32 code = 0;
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wconversion" // inside the macro
-    U8_NEXT(text.data(), next, length, code);
+    U8_NEXT(text, next, length, code);
 #pragma GCC diagnostic pop
     Utf8Character character{text.substr(0, static_cast<std::size_t>(next)), std::nullopt};
     if (code >= 0)

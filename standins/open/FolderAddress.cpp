@@ -19,6 +19,16 @@ std::string folderToShow(const std::string &path)
     return fs::is_directory(status) ? absolute.string() : absolute.parent_path().string();
 }
 
+std::string itemToShow(const std::string &path)
+{
+    namespace fs = std::filesystem;
+    std::error_code error;
+    if (!fs::exists(fs::symlink_status(path, error)))
+        throw Failure(Failed, "The file " + path + " does not exist.");
+    const fs::path absolute = fs::absolute(path).lexically_normal();
+    return absolute.has_filename() ? absolute.string() : absolute.parent_path().string();
+}
+
 std::string fileAddress(std::string_view path)
 {
     static constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz"

@@ -10,6 +10,10 @@ namespace standin
 // Fails for what does not exist.
 std::string folderToShow(const std::string &path);
 
+// The absolute path of a file, folder or link that is to be shown selected, without a slash at its
+// end. Fails for what does not exist.
+std::string itemToShow(const std::string &path);
+
 // file:// address of an absolute path (RFC 8089). Everything but letters, digits and "/-._~" is
 // percent-encoded, as some receivers split at other characters that an address may hold.
 std::string fileAddress(std::string_view path);

@@ -1,4 +1,5 @@
-// Shows a folder in the desktop's file manager, taking the arguments of macOS's open.
+// Shows a folder, or a file in its folder, in the desktop's file manager, taking the arguments of
+// macOS's open.
 
 #include "Failure.h"
 #include "FileManager.h"
@@ -9,9 +10,13 @@ using namespace standin;
 
 int main(int argc, char **argv)
 {
-    return runProgram("open", "open -a Finder FOLDER", argc, argv, [](const Arguments &arguments) {
-        if (arguments.size() != 3 || arguments[0] != "-a" || arguments[1] != "Finder")
+    const char *usage = "open -a Finder FOLDER | open -R FILE";
+    return runProgram("open", usage, argc, argv, [](const Arguments &arguments) {
+        if (arguments.size() == 3 && arguments[0] == "-a" && arguments[1] == "Finder")
+            showFolder(folderToShow(arguments[2]));
+        else if (arguments.size() == 2 && arguments[0] == "-R")
+            showItem(itemToShow(arguments[1]));
+        else
             throw WrongUsage();
-        showFolder(folderToShow(arguments[2]));
     });
 }

@@ -36,6 +36,8 @@ void AVConvertViewController::connectButtons()
     connect(ui->convertButton, &QPushButton::clicked, this,
             [this] { startPageAction(this, convertAction()); });
     PageStatus::pressOnReturn(*this, *ui->convertButton);
+    ui->sourceField->takeDropsOf(*this);
+    ui->outputField->setSource(*ui->sourceField);
 }
 
 void AVConvertViewController::awakeFromNib(const QString &presetList)
@@ -101,15 +103,18 @@ QCoro::Task<> AVConvertViewController::convertAction()
         co_return;
     setStatus(false);
     showProgress(true);
+    ui->showInFolderButton->withdraw();
     const QPointer<AVConvertViewController> self(this);
-    const Command command =
-        AVConvertCommand::convert(preset(), ui->sourceField->text(), ui->outputField->text());
+    const QString output = ui->outputField->text();
+    const Command command = AVConvertCommand::convert(preset(), ui->sourceField->text(), output);
 
     const CommandResult result = co_await m_runner.run(command, job());
     if (!self)
         co_return;
-    if (result.succeeded())
+    if (result.succeeded()) {
         clear();
+        ui->showInFolderButton->offer(output);
+    }
     MiscTool::showAlert(qtTrId(result.succeeded() ? "Convert is completed." : "Convert is failed."),
                         QString());
     if (!self)

@@ -1,29 +1,69 @@
 #include "Chooser.h"
 
+#include "ProposedFile.h"
+#include "RecentFolder.h"
 #include "Suffix.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
-static QFileDialog *makeSheet(QWidget *page, const QString &name, const QString &startFolder)
+namespace
+{
+
+constexpr auto folderChooser = "folderChooser"_L1;
+constexpr auto fileChooser = "fileChooser"_L1;
+constexpr auto saveChooser = "saveChooser"_L1;
+
+QString existing(const QString &folder)
+{
+    return !folder.isEmpty() && QFileInfo(folder).isDir() ? folder : QString();
+}
+
+QString firstOf(const QStringList &folders)
+{
+    for (const QString &folder : folders) {
+        if (!folder.isEmpty())
+            return folder;
+    }
+    return QDir::homePath();
+}
+
+/// The user's folder for files of this kind; empty where there is none.
+QString usualFolder(QLatin1String chooser, const QString &suffix)
+{
+    using Paths = QStandardPaths;
+    auto location = chooser == fileChooser ? Paths::DownloadLocation : Paths::DocumentsLocation;
+    if (suffix == "m4v"_L1)
+        location = Paths::MoviesLocation;
+    if (suffix == "aiff"_L1)
+        location = Paths::MusicLocation;
+    return existing(Paths::writableLocation(location));
+}
+
+QString folderOf(const QString &path)
+{
+    return QDir::isAbsolutePath(path) ? existing(QFileInfo(path).path()) : QString();
+}
+
+QFileDialog *makeSheet(QWidget *page, QLatin1String name, const QString &startFolder)
 {
     auto *sheet = new QFileDialog(page->window());
     sheet->setObjectName(name);
     sheet->setAttribute(Qt::WA_DeleteOnClose);
-    if (!startFolder.isEmpty() && QFileInfo(startFolder).isDir())
-        sheet->setDirectory(startFolder);
+    sheet->setDirectory(startFolder);
     // Not closed: that would still call back into a page which is half destroyed.
     QObject::connect(page, &QObject::destroyed, sheet, &QObject::deleteLater);
     return sheet;
 }
 
-static void show(QFileDialog *sheet, QWidget *page, Chooser::Chosen chosen,
-                 Chooser::Cancelled cancelled = {})
+void show(QFileDialog *sheet, QWidget *page, Chooser::Chosen chosen,
+          Chooser::Cancelled cancelled = {})
 {
     const auto finish = [sheet, chosen = std::move(chosen),
                          cancelled = std::move(cancelled)](int end) {
@@ -38,7 +78,7 @@ static void show(QFileDialog *sheet, QWidget *page, Chooser::Chosen chosen,
 }
 
 // Some desktops match the patterns case by case.
-static QString filterFor(const QStringList &suffixes)
+QString filterFor(const QStringList &suffixes)
 {
     QStringList patterns;
     for (const QString &suffix : suffixes)
@@ -46,33 +86,32 @@ static QString filterFor(const QStringList &suffixes)
     return patterns.join(u' ');
 }
 
-void Chooser::chooseFolder(QWidget *page, Chosen chosen, const QString &startFolder,
-                           Cancelled cancelled)
+Chooser::Chosen rememberingPlace(QWidget *page, QLatin1String chooser, Chooser::Chosen chosen)
 {
-    QFileDialog *sheet = makeSheet(page, u"folderChooser"_s, startFolder);
-    sheet->setFileMode(QFileDialog::Directory);
-    sheet->setOption(QFileDialog::ShowDirsOnly);
-    show(sheet, page, std::move(chosen), std::move(cancelled));
+    return [page, chooser, chosen = std::move(chosen)](const QString &path) {
+        RecentFolder::remember(*page, chooser, QFileInfo(path).path());
+        chosen(path);
+    };
 }
 
-void Chooser::chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen,
-                         const QString &startFolder)
+void askForFile(QWidget *page, const QStringList &suffixes, const Chooser::Chosen &chosen,
+                const QString &startFolder)
 {
-    QFileDialog *sheet = makeSheet(page, u"fileChooser"_s, startFolder);
+    QFileDialog *sheet = makeSheet(page, fileChooser, startFolder);
     sheet->setFileMode(QFileDialog::ExistingFile);
     sheet->setNameFilter(filterFor(suffixes));
     show(sheet, page, [=](const QString &path) {
         if (endsInSuffix(path, suffixes))
             chosen(path);
         else // typed past the filter: ask again
-            chooseFile(page, suffixes, chosen, QFileInfo(path).path());
+            askForFile(page, suffixes, chosen, QFileInfo(path).path());
     });
 }
 
-static void chooseSaveFileAt(QWidget *page, const QString &suffix, const Chooser::Chosen &chosen,
-                             const QString &startFolder, const QString &selected)
+void askForSaveFile(QWidget *page, const QString &suffix, const Chooser::Chosen &chosen,
+                    const QString &startFolder, const QString &selected)
 {
-    QFileDialog *sheet = makeSheet(page, u"saveChooser"_s, startFolder);
+    QFileDialog *sheet = makeSheet(page, saveChooser, startFolder);
     sheet->setAcceptMode(QFileDialog::AcceptSave);
     sheet->setFileMode(QFileDialog::AnyFile);
     sheet->setOption(QFileDialog::ReadOnly); // no new folders; nor renaming and deleting
@@ -85,15 +124,48 @@ static void chooseSaveFileAt(QWidget *page, const QString &suffix, const Chooser
         const QString whole = complete ? path : path + u'.' + suffix;
         if (!complete && QFileInfo::exists(whole))
             // The chooser asked about replacing another name: let it ask about this one.
-            chooseSaveFileAt(page, suffix, chosen, QFileInfo(whole).path(),
-                             QFileInfo(whole).fileName());
+            askForSaveFile(page, suffix, chosen, QFileInfo(whole).path(),
+                           QFileInfo(whole).fileName());
         else
             chosen(whole);
     });
 }
 
-void Chooser::chooseSaveFile(QWidget *page, const QString &suffix, Chosen chosen,
-                             const QString &startFolder)
+} // namespace
+
+void Chooser::chooseFolder(QWidget *page, Chosen chosen, const QString &startFolder,
+                           Cancelled cancelled)
 {
-    chooseSaveFileAt(page, suffix, chosen, startFolder, {});
+    const QString fixed = existing(startFolder);
+    const QString recent = fixed.isEmpty() ? RecentFolder::find(*page, folderChooser) : QString();
+    QFileDialog *sheet = makeSheet(page, folderChooser, firstOf({fixed, folderOf(recent)}));
+    sheet->setFileMode(QFileDialog::Directory);
+    sheet->setOption(QFileDialog::ShowDirsOnly);
+    if (!recent.isEmpty())
+        sheet->selectFile(recent);
+    const auto finish = [page, isFixed = !fixed.isEmpty(),
+                         chosen = std::move(chosen)](const QString &path) {
+        if (!isFixed)
+            RecentFolder::remember(*page, folderChooser, path);
+        chosen(path);
+    };
+    show(sheet, page, finish, std::move(cancelled));
+}
+
+void Chooser::chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen)
+{
+    const QString start = firstOf(
+        {RecentFolder::find(*page, fileChooser), usualFolder(fileChooser, suffixes.value(0))});
+    askForFile(page, suffixes, rememberingPlace(page, fileChooser, std::move(chosen)), start);
+}
+
+void Chooser::chooseSaveFile(QWidget *page, const QString &suffix, Chosen chosen,
+                             const QString &source)
+{
+    const QString start = firstOf({RecentFolder::find(*page, saveChooser), folderOf(source),
+                                   usualFolder(saveChooser, suffix)});
+    const QString name =
+        source.isEmpty() ? QString() : QFileInfo(proposedFile(start, source, suffix)).fileName();
+    askForSaveFile(page, suffix, rememberingPlace(page, saveChooser, std::move(chosen)), start,
+                   name);
 }

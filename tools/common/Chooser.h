@@ -11,26 +11,29 @@ class QWidget;
 /// OK with an absolute path, `cancelled`, where given, on anything else. Neither is called once the
 /// page is gone; the sheet goes with it. Interface thread only.
 ///
-/// The sheets' object names are `folderChooser`, `fileChooser` and `saveChooser`. An empty or
-/// missing start folder means the one that the desktop offers.
+/// The sheets' object names are `folderChooser`, `fileChooser` and `saveChooser`. Each starts where
+/// it was last used on this page (see RecentFolder.h), else in the user's folder for such files: a
+/// folder is then selected in the one that it lies in.
 namespace Chooser
 {
 
 using Chosen = std::function<void(const QString &path)>;
 using Cancelled = std::function<void()>;
 
-/// One existing folder.
+/// One existing folder. With a start folder that exists the chooser starts there and remembers
+/// nothing.
 void chooseFolder(QWidget *page, Chosen chosen, const QString &startFolder = {},
                   Cancelled cancelled = {});
 
 /// One existing file whose name ends in one of the suffixes ("zip", without the dot), in lower or
 /// upper case.
-void chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen,
-                const QString &startFolder = {});
+void chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen);
 
 /// A file to write. The path that `chosen` gets always ends in the suffix: it is added to a name
 /// typed without it. Folders cannot be created in this chooser, nor anything be renamed or deleted.
+/// With the path of a source the chooser proposes a free name like the source's, and starts beside
+/// the source when it was not used before.
 void chooseSaveFile(QWidget *page, const QString &suffix, Chosen chosen,
-                    const QString &startFolder = {});
+                    const QString &source = {});
 
 } // namespace Chooser

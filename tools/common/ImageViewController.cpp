@@ -47,6 +47,9 @@ void ImageViewController::connectForm()
     connect(ui->generateButton, &QPushButton::clicked, this,
             [this] { startPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
+    ui->srcFolderField->takeDropsOf(*this);
+    ui->srcFolderField->takeDropsOf(*ui->volumnNameField); // would take an address as its text
+    ui->outputField->setSource(*ui->srcFolderField);
 }
 
 void ImageViewController::setSourceFolder(const QString &path)
@@ -71,6 +74,7 @@ void ImageViewController::clearAction()
     ui->srcFolderField->clear();
     ui->volumnNameField->clear();
     ui->outputField->clear();
+    ui->showInFolderButton->withdraw();
 }
 
 bool ImageViewController::verify()
@@ -89,15 +93,18 @@ QCoro::Task<> ImageViewController::generateAction()
     if (!verify())
         co_return;
     setStatus(false);
+    ui->showInFolderButton->withdraw();
     const QPointer<ImageViewController> self(this);
-    const Command command =
-        ImageCommand::makeHybrid(m_kind.fileSystem, ui->outputField->text(),
-                                 ui->volumnNameField->text(), ui->srcFolderField->text());
+    const QString output = ui->outputField->text();
+    const Command command = ImageCommand::makeHybrid(
+        m_kind.fileSystem, output, ui->volumnNameField->text(), ui->srcFolderField->text());
 
     const CommandResult result = co_await m_runner.run(command, job());
     if (!self)
         co_return;
     setStatus(true);
+    if (result.succeeded())
+        ui->showInFolderButton->offer(output);
     // On purpose these two are shown as they stand, not looked up in the table of texts.
     MiscTool::showAlert(result.succeeded() ? u"GenerateImageSuc"_s : u"GenerateImageFail"_s,
                         QString());

@@ -1,5 +1,6 @@
 #include "PathField.h"
 
+#include "ProposedFile.h"
 #include "Suffix.h"
 
 #include <QDir>
@@ -7,6 +8,7 @@
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMimeData>
+#include <QStyleOptionFrame>
 
 using namespace Qt::StringLiterals;
 
@@ -36,20 +38,47 @@ bool PathField::takesPath(const QString &path) const
     if (path.isEmpty() || isReadOnly() || !isEnabled())
         return false;
     const QFileInfo item(path);
-    if (m_kind == Kind::Folder)
-        return item.isDir();
-    return item.isFile() && (m_suffixes.isEmpty() || endsInSuffix(path, m_suffixes));
+    if (item.isDir())
+        return m_kind != Kind::File;
+    return m_kind != Kind::Folder && item.isFile()
+        && (m_suffixes.isEmpty() || endsInSuffix(path, m_suffixes));
+}
+
+void PathField::setIsDropTarget(bool isTarget)
+{
+    m_isDropTarget = isTarget;
+    update();
+}
+
+void PathField::initStyleOption(QStyleOptionFrame *option) const
+{
+    QLineEdit::initStyleOption(option);
+    if (m_isDropTarget)
+        option->state |= QStyle::State_HasFocus;
 }
 
 // The source keeps its file whatever action it proposed.
-void PathField::considerDrag(QDragMoveEvent *event) const
+void PathField::considerDrag(QDragMoveEvent *event)
 {
-    if (takesPath(droppedPath(event->mimeData()))) {
-        event->setDropAction(Qt::CopyAction);
-        event->accept();
-    } else {
+    setIsDropTarget(takesPath(droppedPath(event->mimeData())));
+    event->setDropAction(Qt::CopyAction);
+    event->setAccepted(m_isDropTarget);
+}
+
+void PathField::takeDrop(QDropEvent *event)
+{
+    setIsDropTarget(false);
+    QString path = droppedPath(event->mimeData());
+    if (!takesPath(path)) {
         event->ignore();
+        return;
     }
+    if (m_kind == Kind::NewFile && QFileInfo(path).isDir())
+        path = proposedFile(path, m_source ? m_source->text() : QString(), m_suffixes.value(0));
+    setText(path);
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+    Q_EMIT pathDropped(path);
 }
 
 void PathField::dragEnterEvent(QDragEnterEvent *event)
@@ -68,19 +97,39 @@ void PathField::dragMoveEvent(QDragMoveEvent *event)
         QLineEdit::dragMoveEvent(event);
 }
 
+void PathField::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    setIsDropTarget(false);
+    QLineEdit::dragLeaveEvent(event);
+}
+
 void PathField::dropEvent(QDropEvent *event)
 {
-    if (!event->mimeData()->hasUrls()) {
+    if (event->mimeData()->hasUrls())
+        takeDrop(event);
+    else
         QLineEdit::dropEvent(event);
-        return;
-    }
-    const QString path = droppedPath(event->mimeData());
-    if (!takesPath(path)) {
-        event->ignore();
-        return;
-    }
-    setText(path);
-    event->setDropAction(Qt::CopyAction);
-    event->accept();
-    Q_EMIT pathDropped(path);
+}
+
+void PathField::takeDropsOf(QWidget &widget)
+{
+    widget.setAcceptDrops(true);
+    widget.installEventFilter(this);
+}
+
+bool PathField::eventFilter(QObject *, QEvent *event)
+{
+    const QEvent::Type type = event->type();
+    if (type == QEvent::DragLeave)
+        setIsDropTarget(false);
+    if (type != QEvent::DragEnter && type != QEvent::DragMove && type != QEvent::Drop)
+        return false;
+    auto *drop = static_cast<QDropEvent *>(event); // what all three are
+    if (!drop->mimeData()->hasUrls())
+        return false;
+    if (type == QEvent::Drop)
+        takeDrop(drop);
+    else
+        considerDrag(static_cast<QDragMoveEvent *>(drop));
+    return true;
 }

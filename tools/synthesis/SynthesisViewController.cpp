@@ -89,6 +89,7 @@ bool SynthesisViewController::verify()
 QCoro::Task<> SynthesisViewController::read(QString text)
 {
     setStatus(false);
+    ui->showInFolderButton->withdraw();
     const QPointer<SynthesisViewController> self(this);
     const Command command = SpeechCommand::read(text, manner());
     co_await m_runner.run(command, job(text));
@@ -99,6 +100,7 @@ QCoro::Task<> SynthesisViewController::read(QString text)
 QCoro::Task<> SynthesisViewController::save(QString file)
 {
     setStatus(false);
+    ui->showInFolderButton->withdraw();
     const QPointer<SynthesisViewController> self(this);
     const QString text = ui->textField->toPlainText();
     const Command command = SpeechCommand::save(text, manner(), file);
@@ -106,6 +108,8 @@ QCoro::Task<> SynthesisViewController::save(QString file)
     const CommandResult result = co_await m_runner.run(command, job(text));
     if (!self)
         co_return;
+    if (result.succeeded())
+        ui->showInFolderButton->offer(file);
     MiscTool::showAlert(qtTrId(result.succeeded() ? "SaveSuc" : "SaveFail"), QString());
     if (self)
         setStatus(true);

@@ -34,6 +34,7 @@ void UNZIPViewController::connectButtons()
     connect(ui->generateButton, &QPushButton::clicked, this,
             [this] { startPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
+    ui->srcFolderField->takeDropsOf(*this);
 }
 
 void UNZIPViewController::awakeFromNib()
@@ -61,8 +62,7 @@ void UNZIPViewController::outputSelectAction()
 
 void UNZIPViewController::openAction()
 {
-    const QString folder = ui->outputField->text();
-    m_runner.run(UnzipCommand::show(folder), job(folder));
+    m_fileManager.showFolder(ui->outputField->text());
 }
 
 void UNZIPViewController::clearAction()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CommandRunner.h"
+#include "FileManager.h"
 
 #include <QWidget>
 
@@ -43,4 +44,5 @@ private:
 
     std::unique_ptr<Ui::UNZIPViewController> ui;
     CommandRunner m_runner;
+    FileManager m_fileManager;
 };

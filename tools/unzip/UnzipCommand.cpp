@@ -21,8 +21,3 @@ Command UnzipCommand::extract(const QString &archive, const QString &destination
     return {.launchPath = u"/usr/bin/unzip"_s,
             .arguments = {u"-q"_s, archive, u"-d"_s, destination}};
 }
-
-Command UnzipCommand::show(const QString &folder)
-{
-    return {.launchPath = u"/usr/bin/open"_s, .arguments = {u"-a"_s, u"Finder"_s, folder}};
-}

@@ -14,7 +14,4 @@ std::optional<QString> destination(const QString &archive, const QString &output
 /// Extracts the archive into the destination.
 Command extract(const QString &archive, const QString &destination);
 
-/// Shows a folder in the file manager.
-Command show(const QString &folder);
-
 } // namespace UnzipCommand

@@ -139,7 +139,8 @@ FetchedFile fetchFile(const UpdateItem &item, const QByteArray &publicKey, const
     if (file.error() != 0)
         return {notWritten(file.error())};
     QFile target;
-    if (!target.open(file.descriptor(), QIODevice::ReadWrite))
+    // Unbuffered, because a buffer that only fits in part has no word for it.
+    if (!target.open(file.descriptor(), QIODevice::ReadWrite | QIODevice::Unbuffered))
         return {notWritten(EIO)};
     if (const UpdateProblem problem = receive(item, target, received, stop))
         return {problem};

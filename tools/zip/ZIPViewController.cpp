@@ -13,6 +13,18 @@
 
 using namespace Qt::StringLiterals;
 
+namespace
+{
+
+JobOutcome outcomeOf(const FilePlacement &placement)
+{
+    if (placement.succeeded())
+        return JobOutcome::Succeeded;
+    return placement.wasStopped() ? JobOutcome::Stopped : JobOutcome::Failed;
+}
+
+} // namespace
+
 ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::ZIPViewController>()), m_jobs(jobs), m_runner(jobs)
 {
@@ -23,10 +35,15 @@ ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     connect(ui->generateButton, &QPushButton::clicked, this,
             [this] { startPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
+    ui->srcFolderField->takeDropsOf(*this);
+    ui->outputField->setSource(*ui->srcFolderField);
     awakeFromNib();
 }
 
-ZIPViewController::~ZIPViewController() = default;
+ZIPViewController::~ZIPViewController()
+{
+    m_placing.request_stop();
+}
 
 void ZIPViewController::awakeFromNib()
 {
@@ -53,8 +70,9 @@ void ZIPViewController::srcSelectAction()
 
 void ZIPViewController::outputAction()
 {
-    Chooser::chooseSaveFile(this, u"zip"_s,
-                            [this](const QString &path) { ui->outputField->setText(path); });
+    Chooser::chooseSaveFile(
+        this, u"zip"_s, [this](const QString &path) { ui->outputField->setText(path); },
+        ui->srcFolderField->text());
 }
 
 void ZIPViewController::clearAction()
@@ -62,6 +80,7 @@ void ZIPViewController::clearAction()
     ui->srcFolderField->clear();
     ui->ratioPopUp->setCurrentIndex(ui->ratioPopUp->findData(ZipCommand::Faster));
     ui->outputField->clear();
+    ui->showInFolderButton->withdraw();
 }
 
 QString ZIPViewController::getCompressRatio() const
@@ -85,25 +104,42 @@ QCoro::Task<> ZIPViewController::generateAction()
     if (!verify())
         co_return;
     setStatus(false);
+    ui->showInFolderButton->withdraw();
     const QPointer<ZIPViewController> self(this);
     const QString output = ui->outputField->text();
     const QString archive = ZipCommand::temporaryArchive(MiscTool::getAppDocumentFolder(), output);
     const Command command =
         ZipCommand::pack(ui->srcFolderField->text(), archive, getCompressRatio());
 
-    const CommandResult result = co_await m_runner.run(command, job());
+    JobDescription packing = job();
+    packing.successIsNews = false;
+    const CommandResult result = co_await m_runner.run(command, packing);
     if (!self || !result.couldStart())
         co_return;
-    if (result.succeeded()) {
-        Job placing = m_jobs.begin(job());
-        co_await placeFile(ZipCommand::writtenArchive(archive), output);
-        placing.end(JobOutcome::Succeeded);
+    bool succeeded = result.succeeded();
+    bool isPlaced = false;
+    if (succeeded) {
+        Job placing = beginPlacing();
+        const FilePlacement placement =
+            co_await placeFile(ZipCommand::writtenArchive(archive), output, m_placing.get_token());
+        placing.end(outcomeOf(placement));
         if (!self)
             co_return;
+        isPlaced = placement.succeeded();
+        succeeded = !placement.wasStopped(); // no other failure of the placement is judged
     }
-    MiscTool::showAlert(qtTrId(result.succeeded() ? "ZipSuc" : "ZipFail"), QString());
-    if (self)
-        setStatus(true);
+    MiscTool::showAlert(qtTrId(succeeded ? "ZipSuc" : "ZipFail"), QString());
+    if (!self)
+        co_return;
+    setStatus(true);
+    if (isPlaced)
+        ui->showInFolderButton->offer(output); // where the progress was
+}
+
+Job ZIPViewController::beginPlacing()
+{
+    m_placing = std::stop_source();
+    return m_jobs.begin(job(), [stop = m_placing]() mutable { stop.request_stop(); });
 }
 
 JobDescription ZIPViewController::job() const

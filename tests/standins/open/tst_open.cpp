@@ -1,5 +1,5 @@
-// Proves that a folder reaches the file manager, on the bus or else by xdg-open, and that the
-// status says whether it did.
+// Proves that a folder or file reaches the file manager, on the bus or else by xdg-open, and that
+// the status says whether it did.
 #include "StandinRun.h"
 
 #include <QDBusConnection>
@@ -25,7 +25,15 @@ public:
     bool refuses = false;
 
 public Q_SLOTS:
-    void ShowFolders(const QStringList &addresses, const QString &)
+    void ShowFolders(const QStringList &addresses, const QString &) { show(addresses); }
+    void ShowItems(const QStringList &addresses, const QString &)
+    {
+        shown << u"selected"_s;
+        show(addresses);
+    }
+
+private:
+    void show(const QStringList &addresses)
     {
         shown << addresses;
         if (refuses)
@@ -89,6 +97,28 @@ private Q_SLOTS:
         QCOMPARE(m_manager.shown, QStringList{u"file://"_s + m_dir.filePath(shown)});
     }
 
+    void selectsItem_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::newRow("file") << u"-made, 1.zip"_s;
+        QTest::newRow("link that leads nowhere") << u"link"_s;
+        QTest::newRow("folder") << u"folder/"_s;
+    }
+    void selectsItem()
+    {
+        QFETCH(QString, path);
+        offerFileManager();
+        writeFile(m_dir.filePath(u"-made, 1.zip"_s), {});
+        QFile::link(u"/nowhere"_s, m_dir.filePath(u"link"_s));
+        QDir(m_dir.path()).mkdir(u"folder"_s);
+        const RunResult result = open({u"-R"_s, m_dir.filePath(path)});
+        QVERIFY2(result.status == 0, result.errors.constData());
+        const QByteArray name = QUrl::toPercentEncoding(path.remove(u'/'));
+        QCOMPARE(
+            m_manager.shown,
+            (QStringList{u"selected"_s, u"file://"_s + m_dir.filePath(QString::fromLatin1(name))}));
+    }
+
     void saysWhenNothingShowsIt()
     {
         offerFileManager();
@@ -105,23 +135,30 @@ private Q_SLOTS:
 
     void fallsBackToOpener_data()
     {
+        QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QByteArray>("script");
         QTest::addColumn<int>("status");
         const QByteArray record = "echo \"$1\" > \"$HOME/opened\"; ";
-        QTest::newRow("opened") << record + "exit 0" << 0;
-        QTest::newRow("failed") << record + "exit 4" << 1;
-        QTest::newRow("stays") << record + "echo $$ > \"$HOME/number\"; exec sleep 60" << 0;
+        const QStringList folder{u"-a"_s, u"Finder"_s, m_dir.path()};
+        QTest::newRow("opened") << folder << record + "exit 0" << 0;
+        QTest::newRow("folder of a file")
+            << QStringList{u"-R"_s, m_dir.filePath(u"file"_s)} << record + "exit 0" << 0;
+        QTest::newRow("failed") << folder << record + "exit 4" << 1;
+        QTest::newRow("stays") << folder << record + "echo $$ > \"$HOME/number\"; exec sleep 60"
+                               << 0;
     }
     // xdg-open on a desktop that it does not know starts the application that is registered for
     // folders.
     void fallsBackToOpener()
     {
+        QFETCH(QStringList, arguments);
         QFETCH(QByteArray, script);
+        writeFile(m_dir.filePath(u"file"_s), {});
         withdrawFileManager();
         registerApplication(script);
         QProcessEnvironment environment = onBus();
         environment.insert(u"DISPLAY"_s, u":250"_s);
-        const RunResult result = open({u"-a"_s, u"Finder"_s, m_dir.path()}, environment);
+        const RunResult result = open(arguments, environment);
         QTEST(result.status, "status");
         const QByteArray opened = contentOf(QDir::homePath() + u"/opened"_s).trimmed();
         QVERIFY2(opened.endsWith(m_dir.path().toUtf8()), opened.constData());
@@ -131,28 +168,16 @@ private Q_SLOTS:
         }
     }
 
-    void refuses_data()
+    void refusesWhatDoesNotExist()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<int>("status");
-        QTest::addColumn<QByteArray>("line");
-        QTest::newRow("empty") << QStringList{u"-a"_s, u"Finder"_s, QString()} << 1
-                               << "open: The file  does not exist.\n"_ba;
-        QTest::newRow("missing") << QStringList{u"-a"_s, u"Finder"_s, u"/none"_s} << 1
-                                 << "open: The file /none does not exist.\n"_ba;
-        const QByteArray usage = "usage: open -a Finder FOLDER\n";
-        QTest::newRow("nothing") << QStringList{} << 64 << usage;
-        QTest::newRow("no folder") << QStringList{u"-a"_s, u"Finder"_s} << 64 << usage;
-        QTest::newRow("other application")
-            << QStringList{u"-a"_s, u"Mail"_s, u"/"_s} << 64 << usage;
-        QTest::newRow("more") << QStringList{u"-a"_s, u"Finder"_s, u"/"_s, u"/"_s} << 64 << usage;
-    }
-    void refuses()
-    {
-        QFETCH(QStringList, arguments);
-        const RunResult result = open(arguments);
-        QTEST(result.status, "status");
-        QTEST(result.errors, "line");
+        for (const QStringList &arguments : {QStringList{u"-a"_s, u"Finder"_s, QString()},
+                                             {u"-a"_s, u"Finder"_s, u"/none"_s},
+                                             {u"-R"_s, u"/none"_s}}) {
+            const RunResult result = open(arguments);
+            QCOMPARE(result.status, 1);
+            QCOMPARE(result.errors,
+                     "open: The file " + arguments.last().toUtf8() + " does not exist.\n");
+        }
         QCOMPARE(m_manager.shown, QStringList());
     }
 

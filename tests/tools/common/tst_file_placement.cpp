@@ -5,8 +5,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <sched.h>
 #include <sys/mount.h>
@@ -39,6 +41,8 @@ private Q_SLOTS:
     void missingFolder();
     void readOnlyFileSystem();
     void fullDisk();
+    void stopped_data();
+    void stopped();
 
 private:
     static FilePlacement place(const QString &from, const QString &to)
@@ -209,6 +213,40 @@ void FilePlacementTest::fullDisk()
     QCOMPARE(placement.error(), ENOSPC);
     QCOMPARE(entries(m_elsewhere->path()), QStringList{u"filler"_s});
     QVERIFY(entries(m_here->path()).isEmpty());
+}
+
+void FilePlacementTest::stopped_data()
+{
+    QTest::addColumn<bool>("elsewhere");
+    QTest::addColumn<int>("after"); // milliseconds
+    QTest::newRow("before it would be renamed") << false << 0;
+    QTest::newRow("before it is copied") << true << 0;
+    QTest::newRow("in the middle") << true << 10;
+}
+
+void FilePlacementTest::stopped()
+{
+    QFETCH(bool, elsewhere);
+    QFETCH(int, after);
+    if (after > 0) {
+        if (!m_mounted)
+            QSKIP("mounting is not permitted here");
+        const QByteArray folder = QFile::encodeName(m_elsewhere->path());
+        QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT, "size=512m"), 0);
+        QVERIFY(QFile::resize(source(), 510 << 20)); // far more than can be copied until then
+    }
+    const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
+    std::stop_source stop;
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not placed"_s));
+    if (after == 0)
+        stop.request_stop();
+    const auto future = placeFile(source(), folder + u"/a"_s, stop.get_token());
+    QTimer::singleShot(after, this, [stop]() mutable { stop.request_stop(); });
+    QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 60000);
+    QVERIFY(future.result().wasStopped());
+    QCOMPARE(future.result().error(), ECANCELED);
+    QVERIFY(entries(folder).isEmpty());
+    QVERIFY(!QFile::exists(source()));
 }
 
 QTEST_GUILESS_MAIN(FilePlacementTest)

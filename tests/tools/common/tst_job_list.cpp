@@ -47,7 +47,7 @@ void JobListTest::tellsHowAJobEnded()
     JobList jobs;
     std::vector<JobOutcome> outcomes;
     connect(&jobs, &JobList::jobEnded, this,
-            [&](const JobDescription &, JobOutcome outcome) { outcomes.push_back(outcome); });
+            [&](const RunningJob &, JobOutcome outcome) { outcomes.push_back(outcome); });
     {
         Job job = jobs.begin({u"P"_s, u"succeeds"_s});
         job.end(JobOutcome::Succeeded);

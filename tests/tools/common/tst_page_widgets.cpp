@@ -10,7 +10,9 @@
 #include <QDropEvent>
 #include <QHBoxLayout>
 #include <QMimeData>
+#include <QProxyStyle>
 #include <QSignalSpy>
+#include <QStyleOption>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -23,6 +25,8 @@ class PageWidgets : public QObject
 private Q_SLOTS:
     void drops_data();
     void drops();
+    void newFileInADroppedFolder();
+    void takesTheDropsOfItsPage();
     void refusesWhileLocked();
     void toolTip();
     void busyIndicator();
@@ -32,17 +36,38 @@ private Q_SLOTS:
 
 private:
     /// Whether the field took what was dropped on it.
-    static bool drop(PathField &field, const QList<QUrl> &urls)
+    static bool drop(QWidget &target, PathField &field, const QList<QUrl> &urls)
     {
         QMimeData data;
         data.setUrls(urls);
         QDragEnterEvent enter({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&field, &enter);
+        QCoreApplication::sendEvent(&target, &enter);
+        if (enter.isAccepted() != looksFocused(field))
+            QTest::qFail("the field does not show what would happen", __FILE__, __LINE__);
         QDropEvent dropped({5, 5}, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(&field, &dropped);
+        QCoreApplication::sendEvent(&target, &dropped);
+        if (looksFocused(field))
+            QTest::qFail("the field shows a drag that is over", __FILE__, __LINE__);
         if (enter.isAccepted() != dropped.isAccepted())
             QTest::qFail("the drag promised something else", __FILE__, __LINE__);
         return dropped.isAccepted() && dropped.dropAction() == Qt::CopyAction;
+    }
+    static bool drop(PathField &field, const QList<QUrl> &urls) { return drop(field, field, urls); }
+
+    static bool looksFocused(PathField &field)
+    {
+        struct Style : QProxyStyle {
+            mutable bool focused = false;
+            void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *,
+                               const QWidget *) const override
+            {
+                focused |= element == PE_PanelLineEdit && (option->state & State_HasFocus);
+            }
+        } style;
+        field.setStyle(&style);
+        field.grab();
+        field.setStyle(nullptr);
+        return style.focused;
     }
 };
 
@@ -61,6 +86,9 @@ void PageWidgets::drops_data()
     QTest::newRow("other file") << Kind::File << zip << QStringList{u"b.txt"_s} << false;
     QTest::newRow("no file") << Kind::File << QStringList() << QStringList{u"a folder"_s} << false;
     QTest::newRow("gone") << Kind::File << zip << QStringList{u"gone.zip"_s} << false;
+    QTest::newRow("file to replace") << Kind::NewFile << zip << QStringList{u"A.ZIP"_s} << true;
+    QTest::newRow("new file, other kind")
+        << Kind::NewFile << zip << QStringList{u"b.txt"_s} << false;
     QTest::newRow("two") << Kind::File << QStringList() << QStringList{u"A.ZIP"_s, u"b.txt"_s}
                          << false;
 }
@@ -87,6 +115,44 @@ void PageWidgets::drops()
     QCOMPARE(drop(field, urls), taken);
     QCOMPARE(field.text(), taken ? folder.filePath(names.first()) : u"/before"_s);
     QCOMPARE(told.size(), taken ? 1 : 0);
+}
+
+void PageWidgets::newFileInADroppedFolder()
+{
+    const QTemporaryDir folder;
+    const QList<QUrl> urls{QUrl::fromLocalFile(folder.path())};
+    QLineEdit source;
+    PathField field;
+    field.setKind(PathField::Kind::NewFile);
+    field.setSuffixes({u"m4v"_s});
+    QVERIFY(drop(field, urls));
+    QCOMPARE(field.text(), folder.filePath(QDir(folder.path()).dirName() + u".m4v"_s));
+    field.setSource(source);
+    source.setText(u"/elsewhere/clip.part.avi"_s);
+    for (const QString &name : {u"clip.part.m4v"_s, u"clip.part 2.m4v"_s}) {
+        QVERIFY(drop(field, urls));
+        QCOMPARE(field.text(), folder.filePath(name));
+        QVERIFY(QFile(field.text()).open(QIODevice::WriteOnly)); // the next one makes way
+    }
+}
+
+void PageWidgets::takesTheDropsOfItsPage()
+{
+    QWidget page;
+    PathField field(&page);
+    field.takeDropsOf(page);
+    const QList<QUrl> home{QUrl::fromLocalFile(QDir::homePath())};
+    QVERIFY(drop(page, field, home));
+    QCOMPARE(field.text(), QDir::homePath());
+    QVERIFY(!drop(page, field, {QUrl::fromLocalFile(u"/gone"_s)}));
+
+    QMimeData data;
+    data.setUrls(home);
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&page, &enter);
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&page, &leave);
+    QVERIFY(!looksFocused(field));
 }
 
 void PageWidgets::refusesWhileLocked()

@@ -52,6 +52,7 @@ private Q_SLOTS:
     void aFullDiskAtTheOutput();
     void aMissingOutputFolderStillReportsSuccess();
     void aFileThatAppearedMeanwhileStays();
+    void aStoppedPlacementIsAFailure();
     void anAbandonedPageTakesItsRunAlong();
 };
 
@@ -147,6 +148,23 @@ void tst_ZipFailures::aFileThatAppearedMeanwhileStays()
     QFile file(zip.output());
     QVERIFY(file.open(QIODevice::ReadOnly));
     QCOMPARE(file.readAll(), QByteArray("somebody else's"));
+}
+
+void tst_ZipFailures::aStoppedPlacementIsAFailure()
+{
+    MessageBoxes boxes;
+    ZipPage zip;
+    int started = 0;
+    connect(&zip.jobs, &JobList::jobStarted, this, [&] {
+        if (++started == 2) // zip is through
+            zip.jobs.stopAll();
+    });
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not placed"_s));
+    zip.press("generateButton");
+    QTRY_COMPARE(boxes.texts, QStringList(u"ZipFail"_s));
+    QTRY_VERIFY(zip.isIdle());
+    QVERIFY(!QFile::exists(zip.output()));
+    QVERIFY(!QFile::exists(zip.temporary()));
 }
 
 void tst_ZipFailures::anAbandonedPageTakesItsRunAlong()
