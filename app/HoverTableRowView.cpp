@@ -5,6 +5,7 @@
 #include "IconView.h"
 #include "RunningMark.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPainter>
 
@@ -86,6 +87,17 @@ void HoverTableRowView::setRunning(bool running)
 QRectF HoverTableRowView::separatorRect() const
 {
     return QRectF(0, height() - separatorHeight, width(), separatorHeight);
+}
+
+// The name has a font of its own, bold where it is selected, and so inherits none.
+void HoverTableRowView::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() != QEvent::FontChange)
+        return;
+    QFont name = font();
+    name.setBold(m_textField->font().bold());
+    m_textField->setFont(name);
 }
 
 void HoverTableRowView::enterEvent(QEnterEvent *)

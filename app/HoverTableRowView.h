@@ -38,6 +38,7 @@ public:
     ElidedLabel *textField() const { return m_textField; }
 
 protected:
+    void changeEvent(QEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;

@@ -32,6 +32,17 @@ bool isHeader(QByteArrayView line, QByteArrayView name)
         && line.first(name.size()).compare(name, Qt::CaseInsensitive) == 0;
 }
 
+/// A disk that runs full takes a part and reports no error: that comes with the next write.
+bool writeAll(QIODevice &target, const char *data, qint64 size)
+{
+    qint64 written = 0;
+    while (size > 0 && (written = target.write(data, size)) > 0) {
+        data += written;
+        size -= written;
+    }
+    return size == 0;
+}
+
 /// One request; the call-backs below are told of it by its address.
 class Transfer
 {
@@ -146,7 +157,7 @@ private:
             self->m_body.append(data, qsizetype(size));
             return size;
         }
-        if (self->m_target->write(data, qint64(size)) == qint64(size))
+        if (writeAll(*self->m_target, data, qint64(size)))
             return size;
         self->m_refusal = HttpReply::End::NotWritten;
         return refused;

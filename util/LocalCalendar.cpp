@@ -34,7 +34,7 @@ bool setMoment(icu::Calendar *calendar, UErrorCode status, std::int64_t millisec
 {
     if (calendar && U_SUCCESS(status))
         calendar->setTime(static_cast<UDate>(milliseconds), status);
-    return calendar && U_SUCCESS(status);
+    return calendar != nullptr && U_SUCCESS(status) != 0;
 }
 
 } // namespace

@@ -104,7 +104,7 @@ std::int64_t MiscTool::getSize(const QByteArray &path)
 
 std::optional<QByteArray> MiscTool::bookmarkForURL(const QUrl &url)
 {
-    const std::optional<QByteArray> bookmark = FolderBookmark::make(localPath(url));
+    std::optional<QByteArray> bookmark = FolderBookmark::make(localPath(url));
     if (!bookmark)
         qInfo().noquote() << u"No bookmark for %1: %2"_s.arg(url.toDisplayString(),
                                                              qt_error_string(errno));
@@ -124,7 +124,7 @@ std::optional<QUrl> MiscTool::urlForBookmark(const QByteArray &bookmark)
 
 QString MiscTool::getAppDocumentFolder()
 {
-    const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QFileInfo info(folder);
     if (!info.exists()) {
         // Documents and the record database are nobody else's business; what leads there has the

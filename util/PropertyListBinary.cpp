@@ -143,7 +143,7 @@ private:
         constexpr double farthest = 1e12; // some 30,000 years; the calendar reckons no further
         if (bytes.isNull())
             return {};
-        const double seconds = std::bit_cast<double>(bigEndian(bytes));
+        const auto seconds = std::bit_cast<double>(bigEndian(bytes));
         if (!(std::abs(seconds) <= farthest))
             return {};
         return QDateTime::fromMSecsSinceEpoch(epoch * 1000 + qint64(seconds * 1000), Qt::UTC);

@@ -109,8 +109,10 @@ void drawing::pushButtonLabel(QPainter &painter, const QStyleOptionButton &optio
 void drawing::iconAndText(QPainter &painter, const QStyleOption &option, const Label &label)
 {
     const QColor color = option.palette.color(label.role);
-    const int flags = Qt::AlignVCenter | Qt::AlignLeft | Qt::TextShowMnemonic | Qt::TextSingleLine;
-    const int iconWidth = label.icon.isNull() ? 0 : label.iconSize.width() + iconGap;
+    const int flags =
+        Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine | mnemonicFlag(option.direction);
+    const int gap = label.text.isEmpty() ? 0 : iconGap;
+    const int iconWidth = label.icon.isNull() ? 0 : label.iconSize.width() + gap;
     const int textWidth = option.fontMetrics.size(flags, label.text).width();
     const int room = option.rect.width();
     const int width = std::min(room, iconWidth + textWidth);

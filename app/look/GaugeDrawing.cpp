@@ -201,10 +201,11 @@ QRect drawing::scrollBarPart(const QStyleOptionSlider &option, QStyle::SubContro
     }
 }
 
-void drawing::scrollBar(QPainter &painter, const QStyleOptionSlider &option)
+void drawing::scrollBar(QPainter &painter, const QStyleOptionSlider &option,
+                        QPalette::ColorRole ground)
 {
     const QPalette &palette = option.palette;
-    painter.fillRect(option.rect, palette.color(QPalette::Base));
+    painter.fillRect(option.rect, palette.color(ground));
     if (option.maximum <= option.minimum)
         return;
     const bool isHeld = option.state & QStyle::State_Sunken;

@@ -24,6 +24,6 @@ void slider(QPainter &painter, const QStyleOptionSlider &option);
 QRect scrollBarHandle(const QStyleOptionSlider &option);
 /// Empty for the parts that this bar does not have.
 QRect scrollBarPart(const QStyleOptionSlider &option, QStyle::SubControl part);
-void scrollBar(QPainter &painter, const QStyleOptionSlider &option);
+void scrollBar(QPainter &painter, const QStyleOptionSlider &option, QPalette::ColorRole ground);
 
 } // namespace drawing

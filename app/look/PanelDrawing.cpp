@@ -36,6 +36,11 @@ void drawing::roundedPanel(QPainter &painter, const QRectF &rect, qreal radius, 
     painter.restore();
 }
 
+int drawing::mnemonicFlag(Qt::LayoutDirection direction)
+{
+    return direction == Qt::RightToLeft ? Qt::TextHideMnemonic : Qt::TextShowMnemonic;
+}
+
 void drawing::field(QPainter &painter, const QStyleOptionFrame &option)
 {
     const QPalette &palette = option.palette;
@@ -120,11 +125,12 @@ void drawing::groupBox(QPainter &painter, const QStyleOptionGroupBox &option, bo
     painter.setFont(font);
     const QRect place = titleRect(option);
     const QString text = QFontMetrics(font).elidedText(option.text, Qt::ElideRight, place.width(),
-                                                       Qt::TextShowMnemonic);
+                                                       mnemonicFlag(option.direction));
     const Qt::Alignment alignment =
         QStyle::visualAlignment(option.direction, Qt::AlignLeft | Qt::AlignTop);
     painter.setPen(palette.color(QPalette::WindowText));
-    painter.drawText(place, int(alignment) | Qt::TextShowMnemonic | Qt::TextSingleLine, text);
+    const int flags = int(alignment) | mnemonicFlag(option.direction) | Qt::TextSingleLine;
+    painter.drawText(place, flags, text);
     painter.restore();
 }
 

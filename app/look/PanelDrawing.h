@@ -23,6 +23,10 @@ QColor between(const QColor &from, const QColor &to, qreal share);
 void roundedPanel(QPainter &painter, const QRectF &rect, qreal radius, const QColor &fill,
                   const QColor &edge, qreal edgeWidth = 1);
 
+/// Whether the letter of a mnemonic is underlined (Qt::TextShowMnemonic) or merely works
+/// (Qt::TextHideMnemonic): Arabic letters fall apart where Qt underlines one of them.
+int mnemonicFlag(Qt::LayoutDirection direction);
+
 void field(QPainter &painter, const QStyleOptionFrame &option);
 /// The frame of lists and multi-line texts.
 void frame(QPainter &painter, const QStyleOption &option);

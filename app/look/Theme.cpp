@@ -130,6 +130,12 @@ void Theme::install()
     apply(desktop);
 }
 
+void Theme::setFont(const QFont &font)
+{
+    QApplication::setFont(font);
+    applyFonts(); // a new font for all forgets those of classes
+}
+
 void Theme::apply(Scheme scheme)
 {
     const QPalette chosen = palette(scheme);

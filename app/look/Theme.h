@@ -2,6 +2,8 @@
 
 #include <QPalette>
 
+class QFont;
+
 /// Toolvane's light and dark look: palettes, the proxy style, the fonts of titles. Interface thread
 /// only. Widgets set no colour and no font size of their own: classes that differ from the rest
 /// (the sidebar, titles, hints) get theirs here, by class name, so that a change reaches all.
@@ -19,6 +21,9 @@ public:
     /// Changes to the scheme; every open window follows at once. Whoever learns that the desktop's
     /// preference changed calls this; the scheme that is already shown costs nothing.
     static void apply(Scheme scheme);
+
+    /// Shows everything in this font; titles are derived from it. Open windows follow at once.
+    static void setFont(const QFont &font);
 
     /// The scheme that is shown now.
     static Scheme current();

@@ -5,11 +5,21 @@
 #include "NamedImage.h"
 #include "PanelDrawing.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QStyleOption>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
+
+// A scroll bar stands on the ground of what it scrolls.
+static QPalette::ColorRole groundBelow(const QWidget *scrollBar)
+{
+    const QWidget *holder = scrollBar ? scrollBar->parentWidget() : nullptr;
+    const auto *area =
+        qobject_cast<const QAbstractScrollArea *>(holder ? holder->parentWidget() : nullptr);
+    return area ? area->viewport()->backgroundRole() : QPalette::Base;
+}
 
 ToolvaneStyle::ToolvaneStyle() : QProxyStyle(u"Fusion"_s)
 {
@@ -59,6 +69,11 @@ void ToolvaneStyle::drawControl(ControlElement element, const QStyleOption *opti
                                 QPainter *painter, const QWidget *widget) const
 {
     switch (element) {
+    case CE_PushButtonBevel: // Qt shows neither pointer nor keyboard on a flat button at rest
+        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+            button && !(button->features & QStyleOptionButton::HasMenu))
+            return drawing::pushButton(*painter, *button);
+        break;
     case CE_PushButtonLabel:
         if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
             button && !(button->features & QStyleOptionButton::HasMenu))
@@ -96,7 +111,8 @@ void ToolvaneStyle::drawControl(ControlElement element, const QStyleOption *opti
     case CE_MenuBarItem:
         if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option)) {
             drawing::menuBarItem(*painter, *option);
-            const int flags = Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine;
+            const int flags =
+                Qt::AlignCenter | Qt::TextSingleLine | drawing::mnemonicFlag(option->direction);
             return drawItemText(painter, item->rect, flags, item->palette,
                                 item->state & State_Enabled, item->text, QPalette::WindowText);
         }
@@ -128,7 +144,7 @@ void ToolvaneStyle::drawComplexControl(ComplexControl control, const QStyleOptio
         break;
     case CC_ScrollBar:
         if (slider)
-            return drawing::scrollBar(*painter, *slider);
+            return drawing::scrollBar(*painter, *slider, groundBelow(widget));
         break;
     default:
         break;
@@ -147,6 +163,9 @@ QIcon ToolvaneStyle::standardIcon(StandardPixmap standard, const QStyleOption *o
     case SP_MessageBoxWarning:
     case SP_MessageBoxCritical:
         return namedImage(u"warning"_s);
+    case SP_ToolBarHorizontalExtensionButton: // asked for at the start, to be seen hardly ever
+    case SP_ToolBarVerticalExtensionButton:
+        return namedImage(u"more"_s);
     default:
         return QProxyStyle::standardIcon(standard, option, widget);
     }

@@ -6,6 +6,7 @@
 
 #include <QAbstractScrollArea>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QStyleOption>
 
@@ -22,6 +23,7 @@ constexpr int innerGap = 12;
 constexpr int fieldPadding = 10;
 constexpr int frameWidth = 3; // keeps contents clear of the rounded corners
 constexpr int buttonPadding = 16;
+constexpr int buttonWidth = 96; // the least, so that buttons in a row look alike
 constexpr int comboArrowWidth = 30;
 constexpr int controlHeight = 32;
 constexpr int ringRoom = 4; // for the focus ring around a mark's text
@@ -31,6 +33,12 @@ constexpr int messageColumns = 48;
 int heightFor(const QStyleOption &option)
 {
     return std::max(controlHeight, option.fontMetrics.height() + 14);
+}
+
+bool hasText(const QStyleOption *option)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    return button && !button->text.isEmpty();
 }
 
 } // namespace
@@ -79,7 +87,8 @@ QSize ToolvaneStyle::sizeFromContents(ContentsType type, const QStyleOption *opt
     const QSize own = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        return QSize(size.width() + 2 * buttonPadding, std::max(own.height(), heightFor(*option)));
+        return QSize(std::max(size.width() + 2 * buttonPadding, hasText(option) ? buttonWidth : 0),
+                     std::max(own.height(), heightFor(*option)));
     case CT_CheckBox:
     case CT_RadioButton:
         return own + QSize(ringRoom, 2 * ringRoom);
@@ -171,6 +180,8 @@ int ToolvaneStyle::styleHint(StyleHint hint, const QStyleOption *option, const Q
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_EtchDisabledText:
         return 0;
+    case SH_UnderlineShortcut:
+        return drawing::mnemonicFlag(QGuiApplication::layoutDirection()) == Qt::TextShowMnemonic;
     case SH_Table_GridLineColor:
         return option ? int(option->palette.color(QPalette::Midlight).rgb()) : 0;
     default:

@@ -35,7 +35,7 @@ QWidget *makeLinePage(JobList &, QWidget *parent)
 
 QList<Tool> tools(int count)
 {
-    return QList<Tool>(count, {"Zip", "zip", makeLinePage});
+    return QList<Tool>(count, {"Zip", "zip", "zip", makeLinePage});
 }
 
 struct Sidebar {

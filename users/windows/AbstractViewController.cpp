@@ -1,6 +1,7 @@
 #include "AbstractViewController.h"
 
 #include "MiscTool.h"
+#include "Mnemonics.h"
 #include "SessionRights.h"
 #include "ui_AbstractViewController.h"
 #include "ui_RecordPanel.h"
@@ -17,6 +18,7 @@ AbstractViewController::AbstractViewController(const Module &module, QWidget *pa
 {
     page->setupUi(this);
     panelParts->setupUi(panel);
+    Mnemonics::keepUnique(panel);
     page->table->setRecords(*m_model, u"Records/"_s + module.table);
     connectActions();
 }
@@ -139,6 +141,7 @@ void AbstractViewController::deleteAction()
     question->setDefaultButton(confirm);
     // The sheet keeps the selection as it is until it is answered.
     connect(confirm, &QPushButton::clicked, this, [this] { deleteRecord(selectedRow()); });
+    Mnemonics::keepUnique(question);
     question->open();
 }
 

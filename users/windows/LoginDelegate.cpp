@@ -3,6 +3,7 @@
 #include "Global.h"
 #include "Login.h"
 #include "MiscTool.h"
+#include "Mnemonics.h"
 #include "ui_LoginWindow.h"
 
 #include <QHideEvent>
@@ -12,6 +13,7 @@ LoginDelegate::LoginDelegate(QWidget *parent)
     : QWidget(parent, Qt::Window), ui(std::make_unique<Ui::LoginWindow>())
 {
     ui->setupUi(this);
+    Mnemonics::keepUnique(this);
     connect(ui->userField, &QLineEdit::returnPressed, this, &LoginDelegate::userAction);
     connect(ui->passwordField, &QLineEdit::returnPressed, this, &LoginDelegate::loginAction);
     connect(ui->loginButton, &QPushButton::clicked, this, &LoginDelegate::loginAction);

@@ -1,6 +1,7 @@
 #include "RecordWindow.h"
 
 #include "MiscTool.h"
+#include "Mnemonics.h"
 #include "TemplateViewController.h"
 #include "UserGroupViewController.h"
 #include "UserViewController.h"
@@ -54,6 +55,7 @@ RecordWindow::RecordWindow(QWidget &owner)
     ui->pages->addTab(new UserGroupViewController, qtTrId("Records.UserGroups"));
     ui->pages->addTab(new UserViewController, qtTrId("Records.Users"));
     ui->pages->addTab(new TemplateViewController, qtTrId("Records.Stock"));
+    Mnemonics::keepUnique(this);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     restoreGeometry(QSettings().value(geometryKey).toByteArray());
 }

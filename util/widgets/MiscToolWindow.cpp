@@ -1,6 +1,7 @@
 #include "AlertSound.h"
 #include "FlashOverlay.h"
 #include "MiscTool.h"
+#include "Mnemonics.h"
 #include "WindowShake.h"
 
 #include <QApplication>
@@ -46,6 +47,7 @@ int MiscTool::showAlert(const QString &messageText, const QString &informativeTe
     box.setObjectName(QStringLiteral("messageBox"));
     box.setInformativeText(informativeText);
     showAsPlainText(box);
+    Mnemonics::keepUnique(&box);
     return box.exec();
 }
 

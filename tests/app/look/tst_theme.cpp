@@ -1,13 +1,12 @@
 // Proves that every text can be read in both schemes and that open windows follow a change.
 
+#include "Contrast.h"
 #include "HintLabel.h"
 #include "PageTitle.h"
 #include "Theme.h"
 
 #include <QApplication>
 #include <QTest>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 using Scheme = Theme::Scheme;
@@ -20,25 +19,6 @@ class HoverTableView : public QWidget
 
 namespace
 {
-
-constexpr double readable = 4.5;
-
-// WCAG 2.1, "relative luminance" and "contrast ratio".
-double luminance(const QColor &color)
-{
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-        + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other)
-{
-    const double first = luminance(one) + 0.05;
-    const double second = luminance(other) + 0.05;
-    return std::max(first, second) / std::min(first, second);
-}
 
 using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
 
@@ -67,8 +47,9 @@ void verifyReadable(const QPalette &palette, const QList<Pair> &pairs)
 {
     for (const auto group : {QPalette::Active, QPalette::Inactive}) {
         for (const auto &[text, ground] : pairs) {
-            const double ratio = contrast(palette.color(group, text), palette.color(group, ground));
-            QVERIFY2(ratio >= readable,
+            const double ratio =
+                Contrast::ratio(palette.color(group, text), palette.color(group, ground));
+            QVERIFY2(ratio >= Contrast::readable,
                      qPrintable(u"role %1 on %2: %3"_s.arg(text).arg(ground).arg(ratio)));
         }
     }
@@ -109,12 +90,13 @@ private Q_SLOTS:
                         {QPalette::HighlightedText, QPalette::Window}});
         const QColor selected = QColor::fromRgbF(0.82F, 0.82F, 0.82F);
         const QColor text = sidebar.color(QPalette::WindowText);
-        QVERIFY(contrast(text, selected) >= readable);
-        QVERIFY(contrast(text, Qt::white) >= readable);
+        QVERIFY(Contrast::ratio(text, selected) >= Contrast::readable);
+        QVERIFY(Contrast::ratio(text, Qt::white) >= Contrast::readable);
         // What shows the pointer and the choice must differ from an idle row.
-        QVERIFY(contrast(sidebar.color(QPalette::Highlight), sidebar.color(QPalette::Window)) >= 3);
-        QVERIFY(contrast(selected, sidebar.color(QPalette::Window)) >= 1.2);
-        QVERIFY(contrast(Qt::white, sidebar.color(QPalette::Window)) >= 1.15);
+        QVERIFY(Contrast::ratio(sidebar.color(QPalette::Highlight), sidebar.color(QPalette::Window))
+                >= 3);
+        QVERIFY(Contrast::ratio(selected, sidebar.color(QPalette::Window)) >= 1.2);
+        QVERIFY(Contrast::ratio(Qt::white, sidebar.color(QPalette::Window)) >= 1.15);
     }
 
     void everyRoleIsSet_data() { schemes_data(); }

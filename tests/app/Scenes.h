@@ -1,0 +1,42 @@
+#pragma once
+
+#include "PseudoTexts.h"
+
+#include <QStringList>
+#include <QWidget>
+
+#include <functional>
+
+class Application;
+
+/// Everything that the program can show, for tests that look at all of it.
+namespace Scenes
+{
+
+/// The shipped languages and "pseudo".
+QStringList languages();
+
+/// Puts a language in use, the direction of its writing included, for as long as it lives.
+class Language
+{
+public:
+    explicit Language(const QString &name);
+    ~Language();
+    Language(const Language &) = delete;
+    Language &operator=(const Language &) = delete;
+
+private:
+    QTranslator m_table;
+    PseudoTexts m_pseudo;
+};
+
+using Look = std::function<void(const QString &scene, QWidget &window)>;
+
+/// Shows each page, window, sheet and message box of a started application in turn and calls back
+/// while it is shown.
+void visit(Application &application, const Look &look);
+
+/// Waits until what was asked for is laid out.
+void settle();
+
+} // namespace Scenes

@@ -1,0 +1,175 @@
+// Proves that each text that the program shows stands out from what is really painted behind it, in
+// both schemes. Texts of disabled controls are excepted, as WCAG 2.1 (1.4.3) does.
+
+#include "Application.h"
+#include "Contrast.h"
+#include "HoverTableRowView.h"
+#include "HoverTableView.h"
+#include "Scenes.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// The ratio between the colour that fills a part of a picture and the one in it that stands out
+/// most: the text's, as strokes are thicker than their smoothed edges.
+double strongestContrast(const QImage &picture, const QRect &part)
+{
+    const QRect inside = part.intersected(picture.rect());
+    QHash<QRgb, int> count;
+    for (int y = inside.top(); y <= inside.bottom(); ++y) {
+        for (int x = inside.left(); x <= inside.right(); ++x)
+            ++count[picture.pixel(x, y)];
+    }
+    if (count.isEmpty())
+        return 0;
+    QRgb ground = count.constBegin().key();
+    for (auto it = count.constBegin(); it != count.constEnd(); ++it)
+        ground = it.value() > count.value(ground) ? it.key() : ground;
+    double best = 1;
+    for (auto it = count.keyBegin(); it != count.keyEnd(); ++it)
+        best = std::max(best, Contrast::ratio(QColor(*it), QColor(ground)));
+    return best;
+}
+
+/// Where the widget shows texts of its own.
+QList<QRect> textPlaces(const QWidget &widget)
+{
+    const QRect all = widget.rect();
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return label->text().isEmpty() ? QList<QRect>() : QList<QRect>{all};
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+        return button->text().isEmpty() ? QList<QRect>() : QList<QRect>{all.adjusted(4, 4, -4, -4)};
+    if (const auto *field = qobject_cast<const QLineEdit *>(&widget))
+        return (field->text() + field->placeholderText()).isEmpty()
+            ? QList<QRect>()
+            : QList<QRect>{all.adjusted(6, 6, -6, -6)};
+    if (qobject_cast<const QComboBox *>(&widget))
+        return {all.adjusted(6, 6, -30, -6)};
+    if (const auto *box = qobject_cast<const QGroupBox *>(&widget); box && !box->title().isEmpty())
+        return {QRect(all.topLeft(), QSize(all.width(), box->fontMetrics().height()))};
+    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(&widget))
+        return {QRect(QPoint(4, 4), QSize(all.width() - 8, edit->fontMetrics().height()))};
+    if (const auto *bar = qobject_cast<const QProgressBar *>(&widget); bar && bar->isTextVisible())
+        return {all};
+    QList<QRect> places;
+    if (const auto *tabs = qobject_cast<const QTabBar *>(&widget))
+        for (int i = 0; i < tabs->count(); ++i)
+            places += tabs->tabRect(i).adjusted(4, 4, -4, -6);
+    if (const auto *menu = qobject_cast<const QMenu *>(&widget))
+        for (QAction *action : menu->actions())
+            places += action->isSeparator() ? QRect() : menu->actionGeometry(action);
+    if (const auto *menus = qobject_cast<const QMenuBar *>(&widget))
+        for (QAction *action : menus->actions())
+            places += menus->actionGeometry(action);
+    places.removeIf([](const QRect &place) { return place.isEmpty(); });
+    return places;
+}
+
+QStringList unreadable(const QString &where, QWidget &window)
+{
+    const QImage picture = window.grab().toImage();
+    QStringList found;
+    auto widgets = window.findChildren<QWidget *>();
+    widgets += &window;
+    for (const QWidget *widget : std::as_const(widgets)) {
+        if (!widget->isVisible() || !widget->isEnabled() || widget->window() != &window
+            || widget->visibleRegion().isEmpty())
+            continue;
+        const QRect seen = widget->visibleRegion().boundingRect();
+        for (const QRect &place : textPlaces(*widget)) {
+            if (!seen.contains(place.adjusted(8, 8, -8, -8)))
+                continue; // scrolled away
+            const double ratio =
+                strongestContrast(picture, place.translated(widget->mapTo(&window, QPoint())));
+            if (ratio < Contrast::readable)
+                found += where
+                    + u": %1 %2 has %3"_s.arg(QLatin1String(widget->metaObject()->className()),
+                                              widget->objectName(), QString::number(ratio));
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+class TestContrast : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyTextCanBeRead_data();
+    void everyTextCanBeRead();
+    void theMeasureIsRight();
+};
+
+void TestContrast::initTestCase()
+{
+    QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
+    Application::prepare();
+    Theme::install();
+}
+
+void TestContrast::everyTextCanBeRead_data()
+{
+    QTest::addColumn<Theme::Scheme>("scheme");
+    QTest::newRow("light") << Theme::Scheme::Light;
+    QTest::newRow("dark") << Theme::Scheme::Dark;
+}
+
+void TestContrast::everyTextCanBeRead()
+{
+    QFETCH(Theme::Scheme, scheme);
+    Theme::apply(scheme);
+    Application application;
+    application.start();
+    HoverTableView &sidebar = application.window().tableView();
+    sidebar.rowView(2)->setMouseInside(true);
+    QStringList found;
+    Scenes::visit(application, [&](const QString &scene, QWidget &window) {
+        found += unreadable(scene, window);
+    });
+    auto *menu = application.window().findChild<QMenu *>(u"toolsMenu"_s);
+    menu->popup(QPoint(0, 0));
+    menu->setActiveAction(menu->actions().constFirst());
+    found += unreadable(u"menu"_s, *menu);
+    menu->hide();
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
+}
+
+// A measure that finds everything readable would prove nothing.
+void TestContrast::theMeasureIsRight()
+{
+    QWidget window;
+    QLabel label(u"Readable or not"_s, &window);
+    QPalette palette(Qt::black, Qt::white);
+    for (const auto &[text, isReadable] :
+         {std::pair(QColor(0x76, 0x76, 0x76), true), std::pair(QColor(0x90, 0x90, 0x90), false)}) {
+        palette.setColor(QPalette::Window, Qt::white);
+        palette.setColor(QPalette::WindowText, text);
+        window.setPalette(palette);
+        window.show();
+        QCOMPARE(unreadable(u"here"_s, window).isEmpty(), isReadable);
+    }
+}
+
+QTEST_MAIN(TestContrast)
+#include "tst_contrast.moc"

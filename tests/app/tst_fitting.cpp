@@ -1,0 +1,238 @@
+// Proves that no text is clipped and nothing lies outside its window, in every language, in small
+// windows, and with large fonts.
+
+#include "Application.h"
+#include "ElidedLabel.h"
+#include "HoverTableAppDelegate.h"
+#include "HoverTableRowView.h"
+#include "HoverTableView.h"
+#include "PageScroller.h"
+#include "Scenes.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTest>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+QString described(const QWidget &widget)
+{
+    return QLatin1String(widget.metaObject()->className()) + u" "_s + widget.objectName();
+}
+
+bool labelFits(const QLabel &label)
+{
+    if (label.wordWrap())
+        return label.height() >= label.heightForWidth(label.width());
+    return label.width() >= label.sizeHint().width() && label.height() >= label.sizeHint().height();
+}
+
+bool popUpFits(const QComboBox &popUp)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&popUp);
+    const QRect field = popUp.style()->subControlRect(QStyle::CC_ComboBox, &option,
+                                                      QStyle::SC_ComboBoxEditField, &popUp);
+    return popUp.fontMetrics().horizontalAdvance(popUp.currentText()) <= field.width()
+        && popUp.fontMetrics().height() <= field.height();
+}
+
+bool tabsFit(const QTabBar &bar)
+{
+    return bar.count() == 0 || bar.tabRect(bar.count() - 1).right() <= bar.width()
+        || bar.tabRect(0).right() <= bar.width(); // mirrored
+}
+
+// Long file names may be shortened, and say the whole in a tool tip.
+bool fits(const QWidget &widget)
+{
+    if (const auto *label = qobject_cast<const QLabel *>(&widget))
+        return qobject_cast<const ElidedLabel *>(&widget) || label->text().isEmpty()
+            || labelFits(*label);
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
+        return button->text().isEmpty()
+            || (button->width() >= button->minimumSizeHint().width()
+                && button->height() >= button->minimumSizeHint().height());
+    if (const auto *popUp = qobject_cast<const QComboBox *>(&widget))
+        return popUpFits(*popUp);
+    if (const auto *box = qobject_cast<const QGroupBox *>(&widget))
+        return box->fontMetrics().horizontalAdvance(box->title()) <= box->width();
+    if (const auto *bar = qobject_cast<const QTabBar *>(&widget))
+        return tabsFit(*bar);
+    if (const auto *field = qobject_cast<const QLineEdit *>(&widget))
+        return field->height() >= field->minimumSizeHint().height();
+    return true;
+}
+
+// Rooms that overlap are texts that lie upon each other.
+bool overlapsASibling(const QWidget &widget)
+{
+    const QLayout *layout = widget.parentWidget() ? widget.parentWidget()->layout() : nullptr;
+    if (!layout || layout->indexOf(&widget) < 0)
+        return false;
+    for (int i = 0; i < layout->count(); ++i) {
+        const QWidget *other = layout->itemAt(i)->widget();
+        if (other && other != &widget && other->isVisible()
+            && other->geometry().intersects(widget.geometry())
+            && other->geometry() != widget.geometry())
+            return true;
+    }
+    return false;
+}
+
+bool liesInItsParent(const QWidget &widget)
+{
+    const QWidget *parent = widget.parentWidget();
+    return qobject_cast<const QAbstractScrollArea *>(parent->parentWidget()) // it may scroll
+        || parent->rect().adjusted(-1, -1, 1, 1).contains(widget.geometry());
+}
+
+bool scrollsSideways(const QWidget &widget)
+{
+    const auto *scroller = qobject_cast<const PageScroller *>(&widget);
+    return scroller && scroller->horizontalScrollBar()->maximum() > 0;
+}
+
+QStringList misfits(const QString &where, const QWidget &window)
+{
+    QStringList found;
+    const auto widgets = window.findChildren<QWidget *>();
+    for (const QWidget *widget : widgets) {
+        if (!widget->isVisible() || widget->window() != &window)
+            continue;
+        const QString what = where + u": "_s + described(*widget);
+        if (!fits(*widget))
+            found += what
+                + u" is clipped, %1x%2 instead of %3x%4: "_s.arg(widget->width())
+                      .arg(widget->height())
+                      .arg(widget->sizeHint().width())
+                      .arg(widget->sizeHint().height())
+                + widget->property("text").toString();
+        if (!liesInItsParent(*widget) || overlapsASibling(*widget))
+            found += what + u" lies outside its place"_s;
+        if (scrollsSideways(*widget))
+            found += what + u" scrolls sideways"_s;
+    }
+    return found;
+}
+
+} // namespace
+
+class TestFitting : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void nothingIsClipped_data();
+    void nothingIsClipped();
+    void openWindowsFollowTheFont();
+    void pagesScrollOnlyWhenTheyMust();
+};
+
+void TestFitting::initTestCase()
+{
+    QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
+    Application::prepare();
+    Theme::install();
+}
+
+void TestFitting::nothingIsClipped_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<qreal>("fontScale");
+    for (const QString &language : Scenes::languages()) {
+        QTest::newRow(qPrintable(language)) << language << 1.0;
+        QTest::newRow(qPrintable(language + u", large"_s)) << language << 1.3;
+    }
+}
+
+void TestFitting::nothingIsClipped()
+{
+    QFETCH(QString, language);
+    QFETCH(qreal, fontScale);
+    const Scenes::Language inUse(language);
+    const QFont usual = QApplication::font();
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * fontScale);
+    Theme::setFont(font);
+    Application application;
+    application.start();
+    QStringList found;
+    for (const QSize size : {QSize(820, 560), QSize(1040, 680)}) {
+        application.window().resize(size);
+        Scenes::visit(application, [&](const QString &scene, const QWidget &window) {
+            found += misfits(u"%1, %2"_s.arg(size.width()).arg(scene), window);
+        });
+        QCOMPARE(application.window().size(), size);
+    }
+    Theme::setFont(usual);
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
+}
+
+void TestFitting::openWindowsFollowTheFont()
+{
+    const QFont usual = QApplication::font();
+    Application application;
+    application.start();
+    application.tools().selectTool(1); // from now on each name has a font of its own
+    QFont larger = usual;
+    larger.setPointSizeF(usual.pointSizeF() + 6);
+    Theme::setFont(larger);
+    Scenes::settle();
+    for (int row = 0; row < 2; ++row) {
+        const HoverTableRowView &rowView = *application.window().tableView().rowView(row);
+        QCOMPARE(rowView.textField()->font().pointSizeF(), larger.pointSizeF());
+        QCOMPARE(rowView.textField()->font().bold(), row == 1);
+        QVERIFY(rowView.height() >= rowView.textField()->sizeHint().height());
+    }
+    const QStringList found = misfits(u"after the change"_s, application.window());
+    Theme::setFont(usual);
+    QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
+}
+
+void TestFitting::pagesScrollOnlyWhenTheyMust()
+{
+    QWidget page;
+    auto *layout = new QVBoxLayout(&page);
+    QList<QLineEdit *> fields;
+    for (int i = 0; i < 6; ++i)
+        layout->addWidget(fields.emplaceBack(new QLineEdit));
+    PageScroller scroller(&page);
+    scroller.resize(400, 560);
+    scroller.show();
+    QVERIFY(QTest::qWaitForWindowActive(&scroller));
+    QCOMPARE(page.size(), scroller.size());
+    QVERIFY(!scroller.verticalScrollBar()->isVisible());
+
+    scroller.resize(400, 150);
+    QTRY_VERIFY(scroller.verticalScrollBar()->isVisible());
+    QVERIFY(scroller.horizontalScrollBar()->maximum() == 0);
+    QCOMPARE(page.height(), page.minimumSizeHint().height());
+    fields.last()->setFocus();
+    const QRect last(fields.last()->mapTo(scroller.viewport(), QPoint()), fields.last()->size());
+    QVERIFY(scroller.viewport()->rect().contains(last));
+
+    for (int i = 0; i < 5; ++i)
+        fields.at(i)->hide(); // needs less now
+    QTRY_VERIFY(!scroller.verticalScrollBar()->isVisible());
+    QCOMPARE(page.size(), scroller.size());
+    page.setParent(nullptr);
+}
+
+QTEST_MAIN(TestFitting)
+#include "tst_fitting.moc"
