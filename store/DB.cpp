@@ -133,7 +133,7 @@ QString DB::getDBError(char *message)
 {
     if (!isLocal())
         return u""_s;
-    const QString text = MiscTool::getNSString(message);
+    QString text = MiscTool::getNSString(message);
     sqlite3_free(message);
     return text;
 }

@@ -1,8 +1,10 @@
 // Shows the program at work on a machine without a screen: drives the real window through its pages
 // on sample data that it makes itself and saves a picture of each state.
-// usage: tests/support/isolated toolvane-tour [--dark] [--size 820x560] FOLDER
+// usage: tests/support/isolated toolvane-tour [--dark] [--size 820x560] [--pseudo]
+// [--font-scale 1.3] FOLDER
 
 #include "Application.h"
+#include "PseudoTexts.h"
 #include "Stops.h"
 #include "Theme.h"
 #include "Tour.h"
@@ -39,6 +41,13 @@ void resize(QWidget &window, const QString &size)
         window.resize(sides.first().toInt(), sides.last().toInt());
 }
 
+void scaleFont(double factor)
+{
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    Theme::setFont(font);
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -47,7 +56,9 @@ int main(int argc, char *argv[])
     QApplication qt(argc, argv);
     QCommandLineParser options;
     options.addOptions({{u"dark"_s, u"Dark colours."_s},
-                        {u"size"_s, u"Size of the window."_s, u"WIDTHxHEIGHT"_s}});
+                        {u"size"_s, u"Size of the window."_s, u"WIDTHxHEIGHT"_s},
+                        {u"pseudo"_s, u"Texts that are accented, bracketed and longer."_s},
+                        {u"font-scale"_s, u"How much larger the font is."_s, u"FACTOR"_s, u"1"_s}});
     options.addPositionalArgument(u"folder"_s, u"Where the pictures go."_s);
     options.process(qt);
     if (options.positionalArguments().size() != 1
@@ -56,7 +67,11 @@ int main(int argc, char *argv[])
         return 64;
     }
     Application::prepare();
+    PseudoTexts pseudo;
+    if (options.isSet(u"pseudo"_s))
+        QCoreApplication::installTranslator(&pseudo);
     Theme::install();
+    scaleFont(options.value(u"font-scale"_s).toDouble());
     Theme::apply(options.isSet(u"dark"_s) ? Theme::Scheme::Dark : Theme::Scheme::Light);
     Application application;
     resize(application.window(), options.value(u"size"_s));
