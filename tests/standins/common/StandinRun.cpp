@@ -31,7 +31,7 @@ RunResult runProgram(const QString &program, const QStringList &arguments,
     process.setStandardInputFile(QProcess::nullDevice());
     process.start(program, arguments);
     const bool ended =
-        process.waitForFinished(60000) && process.exitStatus() == QProcess::NormalExit;
+        process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit;
     const QByteArray reason = ended ? QByteArray() : process.errorString().toUtf8();
     return {ended ? process.exitCode() : -1, process.readAllStandardOutput(),
             process.readAllStandardError() + reason};
@@ -41,17 +41,6 @@ RunResult runStandin(const QString &name, const QStringList &arguments,
                      const QProcessEnvironment &environment)
 {
     return runProgram(standinPath(name), arguments, environment);
-}
-
-RunResult runOnSmallDisk(const QString &folder, int kibibytes, const QString &shellCommand,
-                         const QStringList &arguments)
-{
-    const QString mount =
-        u"mount -t tmpfs -o size=%1k tmpfs \"$0\" 2>/dev/null || exit 77\n"_s.arg(kibibytes);
-    return runProgram(u"unshare"_s,
-                      QStringList{u"--user"_s, u"--map-root-user"_s, u"--mount"_s, u"sh"_s, u"-c"_s,
-                                  mount + shellCommand, folder}
-                          + arguments);
 }
 
 QStringList entriesOf(const QDir &folder)

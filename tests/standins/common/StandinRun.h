@@ -6,7 +6,7 @@
 
 // One finished run of a program, for the tests of the stand-in programs.
 struct RunResult {
-    int status = -1; // -1: killed by a signal, did not start, or took longer than a minute
+    int status = -1; // -1: killed by a signal, did not start, or took longer than two minutes
     QByteArray output;
     QByteArray errors;
 
@@ -25,11 +25,6 @@ RunResult runProgram(const QString &program, const QStringList &arguments,
 
 RunResult runStandin(const QString &name, const QStringList &arguments,
                      const QProcessEnvironment &environment = plainEnvironment());
-
-// A command in a mount namespace of its own where `folder` lies on a file system of that many KiB.
-// The status is 77 where the system does not allow that.
-RunResult runOnSmallDisk(const QString &folder, int kibibytes, const QString &shellCommand,
-                         const QStringList &arguments);
 
 // A folder's entries, hidden ones too.
 QStringList entriesOf(const QDir &folder);

@@ -1,7 +1,5 @@
-// Proves that a child gets exactly what its command says and never outlives the program, however
-// that ends.
+// Proves that a child gets exactly what its command says, and that its words and its end are told.
 #include "Child.h"
-#include "EndOnSignal.h"
 #include "Failure.h"
 #include "LastWords.h"
 #include "Pipe.h"
@@ -33,24 +31,6 @@ std::string outputOf(const Command &command)
     return text;
 }
 
-// Starts a program that starts a child which prints its number and sleeps; gives both numbers.
-std::pair<pid_t, pid_t> startFamily()
-{
-    Pipe pipe;
-    const pid_t parent = ::fork();
-    if (parent == 0) {
-        installEndOnSignal();
-        Command command = shell("echo $$; exec sleep 60");
-        command.output = pipe.writeEnd.number();
-        Child child(command);
-        child.wait();
-        ::_exit(0);
-    }
-    char number[20] = {};
-    [[maybe_unused]] const auto count = ::read(pipe.readEnd.number(), number, sizeof number - 1);
-    return {parent, QByteArray(number).trimmed().toInt()};
-}
-
 } // namespace
 
 class TestChild : public QObject
@@ -68,22 +48,12 @@ private Q_SLOTS:
     void givesNothingElse()
     {
         Pipe kept;
-        Pipe closed;
+        const FileDescriptor closed(::dup(kept.readEnd.number())); // without close-on-exec
         Command command = shell("readlink /proc/self/fd/0; echo \"$LC_ALL\"; ls /proc/$$/fd");
         command.passed = {kept.readEnd.number()};
         const std::string expected =
             "/dev/null\nC.UTF-8\n0\n1\n2\n" + std::to_string(kept.readEnd.number()) + "\n";
         QCOMPARE(QByteArray::fromStdString(outputOf(command)), QByteArray::fromStdString(expected));
-    }
-
-    void tellsTheEndsApart()
-    {
-        const auto end = [](const char *script) {
-            return QByteArray::fromStdString(Child(shell(script)).wait().text());
-        };
-        QCOMPARE(end("exit 0"), "status 0");
-        QCOMPARE(end("exit 3"), "status 3");
-        QCOMPARE(end("kill -9 $$"), "signal 9");
     }
 
     void namesTheMissingPackage()
@@ -100,12 +70,12 @@ private Q_SLOTS:
     void keepsTheLastWords()
     {
         const auto discard = [](std::string_view) {};
-        Finished finished =
+        const Finished finished =
             runToEnd(shell("echo first >&2; echo last >&2; echo >&2; exit 1"), discard);
         QCOMPARE(finished.lastWords, "last");
         QVERIFY(!finished.succeeded());
-        finished = runToEnd(shell("exit 4"), discard);
-        QCOMPARE(finished.lastWords, "sh ended with status 4");
+        QCOMPARE(runToEnd(shell("exit 4"), discard).lastWords, "sh ended with status 4");
+        QCOMPARE(runToEnd(shell("kill -9 $$"), discard).lastWords, "sh ended with signal 9");
 
         LastWords words;
         for (int count = 0; count < 1000; ++count)
@@ -163,30 +133,6 @@ private Q_SLOTS:
         QVERIFY(number > 0 && isRunning(number));
         ::kill(number, SIGKILL);
         ::waitpid(number, nullptr, 0);
-    }
-
-    void diesWithTheProgram_data()
-    {
-        QTest::addColumn<int>("signal");
-        QTest::newRow("TERM") << SIGTERM;
-        QTest::newRow("INT") << SIGINT;
-        QTest::newRow("KILL") << SIGKILL;
-    }
-    void diesWithTheProgram()
-    {
-        QFETCH(int, signal);
-        const auto [parent, child] = startFamily();
-        QVERIFY(child > 0 && isRunning(child));
-        ::kill(parent, signal);
-        int status = 0;
-        QTRY_VERIFY(!isRunning(parent)); // now a zombie
-        ::waitpid(parent, &status, 0);
-        if (signal == SIGKILL) { // the kernel kills the child, in its own time
-            QTRY_VERIFY(!isRunning(child));
-        } else {
-            QVERIFY(!isRunning(child));
-            QCOMPARE(WEXITSTATUS(status), 128 + signal);
-        }
     }
 };
 

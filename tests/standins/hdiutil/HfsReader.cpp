@@ -1,23 +1,11 @@
 #include "HfsReader.h"
 
-#include <QtEndian>
-
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
-
-quint16 u16(const uchar *at)
-{
-    return qFromBigEndian<quint16>(at);
-}
-
-quint32 u32(const uchar *at)
-{
-    return qFromBigEndian<quint32>(at);
-}
 
 constexpr bool isIgnored(char16_t c)
 {

@@ -1,23 +1,6 @@
 #include "HfsTreeReader.h"
 
-#include <QtEndian>
-
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-quint16 u16(const uchar *at)
-{
-    return qFromBigEndian<quint16>(at);
-}
-
-quint32 u32(const uchar *at)
-{
-    return qFromBigEndian<quint32>(at);
-}
-
-} // namespace
 
 HfsTreeReader::HfsTreeReader(const uchar *start, quint64 size) : m_start(start)
 {

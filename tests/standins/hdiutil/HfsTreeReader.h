@@ -3,6 +3,10 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QtEndian>
+
+inline constexpr auto u16 = [](const uchar *at) { return qFromBigEndian<quint16>(at); };
+inline constexpr auto u32 = [](const uchar *at) { return qFromBigEndian<quint32>(at); };
 
 // Takes a B-tree with the keys of a catalog apart, from the root and along the leaves, and notes
 // what contradicts TN1150 ("B-Trees"). Shares nothing with the writer.

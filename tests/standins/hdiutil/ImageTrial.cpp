@@ -1,8 +1,6 @@
 #include "ImageTrial.h"
 
-#include <QDir>
 #include <QFile>
-#include <QProcess>
 
 #include <filesystem>
 #include <fstream>
@@ -14,7 +12,7 @@ using namespace Qt::StringLiterals;
 ImageTrial::ImageTrial() : m_folder(QFile::encodeName(m_directory.path()))
 {
     m_directory.setAutoRemove(false); // it cannot remove names that are not UTF-8
-    makeFolder("source");
+    makeFile("source/", {});
 }
 
 ImageTrial::~ImageTrial()
@@ -23,30 +21,23 @@ ImageTrial::~ImageTrial()
     fs::remove_all(m_folder.toStdString(), error);
 }
 
-void ImageTrial::makeFolder(const QByteArray &name) const
-{
-    fs::create_directories(path(name).toStdString());
-}
-
 void ImageTrial::makeFile(const QByteArray &name, const QByteArray &content) const
 {
     const fs::path file = path(name).toStdString();
     fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << content.toStdString();
+    if (!name.endsWith('/'))
+        std::ofstream(file, std::ios::binary) << content.toStdString();
 }
 
 void ImageTrial::makeLink(const QByteArray &name, const QByteArray &target) const
 {
-    const fs::path link = path(name).toStdString();
-    fs::create_directories(link.parent_path());
-    fs::create_symlink(target.toStdString(), link);
+    fs::create_symlink(target.toStdString(), path(name).toStdString());
 }
 
 QStringList ImageTrial::command(bool isHfs, const QString &image, const QString &volumeName,
                                 const QString &source)
 {
-    QStringList arguments{QStringLiteral(TOOLVANE_BUILD_DIR "/libexec/toolvane/hdiutil"),
-                          u"makehybrid"_s};
+    QStringList arguments{standinPath(u"hdiutil"_s), u"makehybrid"_s};
     if (isHfs)
         arguments += u"-hfs"_s;
     return arguments + QStringList{u"-o"_s,    image,    u"-default-volume-name"_s,
@@ -54,21 +45,10 @@ QStringList ImageTrial::command(bool isHfs, const QString &image, const QString 
                                    source};
 }
 
-ImageTrial::End ImageTrial::makeImage(bool isHfs, const QString &volumeName,
-                                      const QStringList &prefix) const
+RunResult ImageTrial::makeImage(bool isHfs, const QString &volumeName,
+                                const QStringList &prefix) const
 {
-    return run(prefix
-               + command(isHfs, image(), volumeName, QString::fromLocal8Bit(path("source"))));
-}
-
-ImageTrial::End ImageTrial::run(const QStringList &command)
-{
-    QProcess process;
-    process.start(command.first(), command.mid(1));
-    process.closeWriteChannel();
-    if (!process.waitForFinished(120'000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, process.readAllStandardError()};
-    return {process.exitCode(), process.readAllStandardError() + process.readAllStandardOutput()};
+    return run(prefix + command(isHfs, image(), volumeName, m_directory.filePath(u"source"_s)));
 }
 
 ImageTrial::Tree ImageTrial::tree(const QByteArray &name) const
@@ -93,23 +73,11 @@ ImageTrial::Tree ImageTrial::tree(const QByteArray &name) const
 
 ImageTrial::Tree ImageTrial::unpacked(const QStringList &unpacker) const
 {
-    static int number = 0;
-    const auto target = "unpacked" + QByteArray::number(++number);
-    makeFolder(target);
-    QProcess process;
-    process.setWorkingDirectory(QString::fromLocal8Bit(path(target)));
-    process.start(unpacker.first(), unpacker.mid(1) + QStringList{image()});
-    if (!process.waitForFinished(120'000) || process.exitCode() != 0)
-        return {{"failed", process.readAllStandardError() + process.readAllStandardOutput()}};
-    return tree(target);
-}
-
-QStringList ImageTrial::leftBehind() const
-{
-    QStringList names =
-        QDir(m_directory.path())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    names.removeOne(u"source"_s);
-    names.removeOne(u"image"_s);
-    return names;
+    makeFile("unpacked/", {});
+    const QStringList inFolder{u"sh"_s, u"-c"_s, u"cd \"$0\" && exec \"$@\""_s,
+                               m_directory.filePath(u"unpacked"_s)};
+    const RunResult end = run(inFolder + unpacker + QStringList{image()});
+    const Tree result = end.status == 0 ? tree("unpacked") : Tree{{"failed", end.errors}};
+    fs::remove_all(path("unpacked").toStdString());
+    return result;
 }

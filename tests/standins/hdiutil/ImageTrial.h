@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QByteArray>
+#include "StandinRun.h"
+
 #include <QMap>
-#include <QStringList>
 #include <QTemporaryDir>
 
 // A folder of its own to make images in, with what the tests of both formats do there. Names are
@@ -10,11 +10,6 @@
 class ImageTrial
 {
 public:
-    struct End {
-        int status = -1; // -1: ended by a signal or not started
-        QByteArray errors;
-    };
-
     // Contents of files and targets of links by path; folders are empty and end with "/".
     using Tree = QMap<QByteArray, QByteArray>;
 
@@ -24,18 +19,21 @@ public:
     ImageTrial &operator=(const ImageTrial &) = delete;
 
     QByteArray path(const QByteArray &name) const { return m_folder + '/' + name; }
-    QString image() const { return QString::fromLocal8Bit(path("image")); }
+    QString image() const { return m_directory.filePath(QStringLiteral("image")); }
+    QStringList entries() const { return entriesOf(m_directory.path()); }
 
-    // Makes the folders that a file or link stands in as well.
+    // Makes the folders that a file or link stands in as well; a name that ends with "/" is one.
     void makeFile(const QByteArray &name, const QByteArray &content) const;
     void makeLink(const QByteArray &name, const QByteArray &target) const;
-    void makeFolder(const QByteArray &name) const;
 
     // Packs "source" into image() with the arguments that the pages send; `prefix` is a program
-    // that starts it. End::status is that of the whole.
-    End makeImage(bool isHfs, const QString &volumeName = QStringLiteral("Volume"),
-                  const QStringList &prefix = {}) const;
-    static End run(const QStringList &command);
+    // that starts it. The status is that of the whole.
+    RunResult makeImage(bool isHfs, const QString &volumeName = QStringLiteral("Volume"),
+                        const QStringList &prefix = {}) const;
+    static RunResult run(const QStringList &command)
+    {
+        return runProgram(command.first(), command.mid(1));
+    }
     static QStringList command(bool isHfs, const QString &image, const QString &volumeName,
                                const QString &source);
 
@@ -44,9 +42,6 @@ public:
 
     // What another program finds in image() when it unpacks it into a folder.
     Tree unpacked(const QStringList &unpacker) const;
-
-    // All names beside the source; only the image may be there after a run.
-    QStringList leftBehind() const;
 
 private:
     QTemporaryDir m_directory;

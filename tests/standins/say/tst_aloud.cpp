@@ -2,7 +2,6 @@
 // one, and ends as a whole.
 #include "StandinRun.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>

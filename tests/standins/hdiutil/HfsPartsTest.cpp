@@ -1,0 +1,154 @@
+// Proves the parts of the HFS Plus writer one by one: a name of its own for every name that a Linux
+// folder can hold, the same text where that is possible; trees of every size; files that change
+// while they are copied.
+
+#include "HfsBTree.h"
+#include "HfsNames.h"
+#include "HfsRecords.h"
+#include "HfsTreeReader.h"
+#include "ImageFile.h"
+
+#include <QTemporaryFile>
+#include <QTest>
+
+#include <sys/stat.h>
+
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+class HfsPartsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void names()
+    {
+        const std::pair<std::string, QString> cases[] = {
+            {"a\nb\x01", u"a\nb\u0001"_s}, // newline and control
+            {"12:30", u"12/30"_s}, // colon
+            {"a\u0301\u0323", u"a\u0323\u0301"_s}, // two marks, reordered
+            {"\uD55C", u"\u1112\u1161\u11AB"_s}, // Hangul
+            {"\u212A", u"\u212A"_s}, // kept composed: Kelvin sign
+            {"\uF900", u"\uF900"_s}, // kept composed: CJK compatibility
+            {"\u1B06", u"\u1B06"_s}, // newer than Unicode 3.2
+            {"\U0001F600\U0001D15E", u"\U0001F600\U0001D15E"_s}, // outside of the basic plane
+            {"a\xFF\xC3", u"a%FF%C3"_s}, // not UTF-8
+            {"\xED\xA0\x80", u"%ED%A0%80"_s}, // coded surrogate
+        };
+        for (const auto &[bytes, stored] : cases)
+            QCOMPARE(QString::fromStdU16String(hfs::itemNames({bytes}).at(0)), stored);
+    }
+
+    void namesStayDifferent()
+    {
+        std::string longName;
+        for (int i = 0; i < 127; ++i)
+            longName += "\u0390"; // one of these becomes three units
+        std::vector<std::string> raw{"\u00E9",     "e\u0301",   "\xFF",       "%FF",
+                                     "\xFF\u00E9", "%FF\u00E9", "%FFe\u0301", "%C3%A9"};
+        raw.insert(
+            raw.end(),
+            {longName, longName + "x", std::string(255, 'a'), std::string(251, '\xFE') + ".txt"});
+        const auto names = hfs::itemNames(raw);
+        QCOMPARE(std::set<std::u16string>(names.begin(), names.end()).size(), raw.size());
+        for (const auto &name : names)
+            QVERIFY(!name.empty() && name.size() <= 255);
+        QCOMPARE(names[1], u"e\u0301");
+        QCOMPARE(names[3], u"%FF");
+        QCOMPARE(names[7], u"%C3%A9");
+        QCOMPARE(names[10], std::u16string(255, u'a'));
+        QVERIFY(names[11].ends_with(u".txt"));
+        QCOMPARE(hfs::itemNames(raw), names);
+    }
+
+    void volumeNames()
+    {
+        QCOMPARE(hfs::volumeName(""), u"Untitled");
+        QCOMPARE(hfs::volumeName("AC/DC: \u00FC"), u"AC/DC/ u\u0308");
+        QCOMPARE(hfs::volumeName(std::string(300, 'v')), std::u16string(255, u'v'));
+        QCOMPARE(hfs::volumeName(std::string(254, 'v') + "\U0001F600"), std::u16string(254, u'v'));
+    }
+
+    void whichNamesNeedTheTable()
+    {
+        for (const auto *name : {u"\u00C6", u"\u0416", u"a\u200Db", u"\uFEFF", u"\u212A"})
+            QVERIFY(hfs::needsFoldTable(name));
+        for (const auto *name : {u"ABC", u"A\u0308", u"\u00DF", u"\U0001F600", u"\u0436"})
+            QVERIFY(!hfs::needsFoldTable(name));
+        QVERIFY(hfs::compareFolded(u"README", u"readme") == 0);
+        QVERIFY(hfs::compareFolded(u"_", u"A") < 0);
+        QVERIFY(hfs::compareFolded(u"ab", u"A") > 0);
+    }
+
+    void treesOfEverySize_data()
+    {
+        QTest::addColumn<int>("records");
+        QTest::addColumn<quint32>("mapNodes");
+        QTest::newRow("none") << 0 << 0U;
+        QTest::newRow("one index node") << 40 << 0U;
+        QTest::newRow("map in the header just full") << 13'720 << 0U; // 2048 nodes
+        QTest::newRow("one node more") << 13'721 << 1U;
+        QTest::newRow("many map nodes") << 100'000 << 4U;
+    }
+    void treesOfEverySize()
+    {
+        QFETCH(int, records);
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        hfs::ImageFile image(file.handle(), "image");
+        hfs::BTreeWriter tree(image, {512, 516, 0, 6});
+        for (int i = 0; i < records; ++i) {
+            const auto name = u"%1"_s.arg(i % 1000, 3, 10, QChar(u'0')).toStdU16String();
+            tree.append(hfs::catalogKey(static_cast<std::uint32_t>(i / 1000), name),
+                        hfs::Bytes(50));
+        }
+        const auto size = tree.finish();
+        image.flush();
+        QCOMPARE(quint64(file.size()), size);
+        const HfsTreeReader reader(file.map(0, file.size()), size);
+        QCOMPARE(reader.problems(), QStringList());
+        QCOMPARE(reader.records().size(), records);
+        QTEST(reader.mapNodes(), "mapNodes");
+    }
+
+    void fileThatChanges_data()
+    {
+        QTest::addColumn<qint64>(
+            "size"); // when the image is told of it; a large one is mostly hole
+        QTest::addColumn<qint64>("changedSize"); // when it is read
+        QTest::newRow("has grown") << 300'000LL << 400'000LL;
+        QTest::newRow("was cut") << 300'000LL << 5LL;
+        QTest::newRow("sparse, grown") << 9'000'000LL << 9'999'999LL;
+        QTest::newRow("sparse, cut in the hole") << 9'000'000LL << 8'000'000LL;
+        QTest::newRow("sparse, emptied") << 9'000'000LL << 0LL;
+    }
+    void fileThatChanges()
+    {
+        QFETCH(qint64, size);
+        QFETCH(qint64, changedSize);
+        QTemporaryFile source;
+        QVERIFY(source.open());
+        source.write(QByteArray(size > 1'000'000 ? 10 : size, 'x'));
+        QVERIFY(source.flush() && source.resize(size));
+        struct stat status;
+        QCOMPARE(::fstat(source.handle(), &status), 0);
+        QVERIFY(source.resize(changedSize));
+
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        hfs::ImageFile image(file.handle(), "image");
+        const auto taken = image.appendFile(source.handle(), status, "source");
+        QCOMPARE(image.position(), taken);
+        image.align(4096);
+        image.append(hfs::Bytes(4096, 'y'));
+        image.flush();
+        QCOMPARE(qint64(taken), qMin(size, changedSize));
+        QVERIFY(source.seek(0) && file.seek(0));
+        QVERIFY(file.read(qint64(taken)) == source.read(qint64(taken)));
+        QVERIFY(file.readAll().trimmed().endsWith(QByteArray(4096, 'y')));
+    }
+};
+
+QTEST_GUILESS_MAIN(HfsPartsTest)
+#include "HfsPartsTest.moc"
