@@ -1,7 +1,7 @@
 // Proves that About opens in the main window's page area, is made and loads only then, and takes
 // the sidebar's selection away.
 
-#include "AboutPage.h"
+#include "AboutPageTest.h"
 #include "Application.h"
 #include "ContainerBox.h"
 #include "HoverTableAppDelegate.h"
@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestAboutWindow : public QObject
+class TestAboutWindow : public AboutPageTest
 {
     Q_OBJECT
 
@@ -21,15 +21,13 @@ private Q_SLOTS:
     void initTestCase() { Application::prepare(); }
     void opensOnRequestOnly()
     {
-        AboutPage about;
-        about.server.set("/conf/Apps.plist", AppsPlist::list(AppsPlist::app("zip", "A", "")));
+        serve(AppsPlist::list(AppsPlist::app("zip", "A")));
         Application application;
         application.start();
         MainWindow &window = application.window();
         application.tools().selectTool(3);
         QTest::qWait(50);
-        QVERIFY(about.server.paths().isEmpty());
-        QVERIFY(!window.findChild<AboutViewController *>());
+        QVERIFY(m_server->paths().isEmpty() && !window.findChild<AboutViewController *>());
 
         auto *item = window.findChild<QAction *>(u"aboutItem"_s);
         QVERIFY(window.findChild<QToolBar *>()->actions().contains(item));
@@ -38,14 +36,13 @@ private Q_SLOTS:
         auto *page = window.findChild<AboutViewController *>();
         QCOMPARE(application.delegate().container->contentView(), page);
         QVERIFY(!window.tableView().selectionModel()->hasSelection());
-        about.awaitRequest("/conf/Apps.plist");
         QTRY_COMPARE(page->data.size(), 1);
 
         application.tools().selectTool(3); // the same tool once more
         QCOMPARE(application.delegate().container->contentView(), application.tools().viewItem(3));
         item->trigger();
         QCOMPARE(application.delegate().container->contentView(), page);
-        QCOMPARE(about.server.paths().count("/conf/Apps.plist"), 1); // one page, loaded once
+        QCOMPARE(m_server->paths(), QList<QByteArray>{"/conf/Apps.plist"}); // one page, loaded once
     }
 };
 

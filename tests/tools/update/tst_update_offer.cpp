@@ -54,10 +54,8 @@ private Q_SLOTS:
         row("for this system's version", true, [](UpdateItem &i) { i.minimumSystem = {6, 1}; });
         row("for a newer system", false, [](UpdateItem &i) { i.minimumSystem = {6, 2}; });
         row("for another channel", false, [](UpdateItem &i) { i.channel = u"beta"_s; });
-        row("unsigned", false, [](UpdateItem &i) { i.signature.clear(); });
         row("signed by half", false, [](UpdateItem &i) { i.signature.chop(1); });
         row("without a length", false, [](UpdateItem &i) { i.length = 0; });
-        row("of a senseless length", false, [](UpdateItem &i) { i.length = -1; });
         row("without a file", false, [](UpdateItem &i) { i.address.clear(); });
         row("over plain http", false, [](UpdateItem &i) { i.address = "http://h/f"; });
     }
@@ -68,43 +66,35 @@ private Q_SLOTS:
         QCOMPARE(chooseOffer({.items = {item}}, rules).has_value(), isOffered);
     }
 
-    void offersTheUsersChannel()
+    void obeysTheUsersRules()
     {
+        UpdateRules users = rules;
+        users.channel = u"beta"_s;
         UpdateItem beta = good;
         beta.channel = u"beta"_s;
-        UpdateRules forTesters = rules;
-        forTesters.channel = u"beta"_s;
-        QVERIFY(chooseOffer({.items = {beta}}, forTesters));
-        QVERIFY(chooseOffer({.items = {good}}, forTesters));
+        QVERIFY(chooseOffer({.items = {beta}}, users) && chooseOffer({.items = {good}}, users));
+        users.withdrawn = {{1, 4}};
+        QVERIFY(!chooseOffer({.items = {good}}, users));
     }
 
-    void offersNothingThatWasEverWithdrawn()
+    void offersNothingThatTheFeedWithdraws()
     {
         UpdateItem withdrawn = good;
         withdrawn.withdrawn = true;
         QVERIFY(!chooseOffer({.items = {good, withdrawn}}, rules));
-        UpdateRules experienced = rules;
-        experienced.withdrawn = {{1, 4}};
-        QVERIFY(!chooseOffer({.items = {good}}, experienced));
     }
 
-    void tellsSafeAddresses_data()
+    void tellsSafeAddresses()
     {
-        QTest::addColumn<bool>("isSafe");
         for (const char *address : {"https://h/f", "HTTPS://h/f", "http://127.0.0.1/f",
                                     "http://127.0.0.1:8080/f", "http://[::1]:80/f"})
-            QTest::newRow(address) << true;
+            QVERIFY2(isSafeAddress(address), address);
         for (const char *address :
              {"", "http://h/f", "https://", "https:/", "file:///etc/passwd", "ftp://h/f", "/f",
               "http://127.0.0.1.elsewhere/f", "http://127.0.0.1@elsewhere/f",
               "http://127.0.0.1:80@elsewhere/f", "http://127.0.0.1\\@elsewhere/f",
               "http://[::1]elsewhere/f", " https://h/f", "http://localhost/f"})
-            QTest::newRow(*address ? address : "empty") << false;
-    }
-    void tellsSafeAddresses()
-    {
-        const QByteArray name = QTest::currentDataTag();
-        QTEST(isSafeAddress(name == "empty" ? QByteArray() : name), "isSafe");
+            QVERIFY2(!isSafeAddress(address), address);
     }
 };
 

@@ -19,6 +19,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 
+#include <filesystem>
 #include <memory>
 
 /// The page in a window, as the user has it in front of him, and the user's hands. No table of
@@ -69,15 +70,16 @@ public:
     {
         return m_window.findChild<QFileDialog *>(QLatin1String("folderChooser"));
     }
-    /// Presses Authorize and answers the chooser.
-    bool authorize(const QString &folder) const
+    bool answerChooser(const QString &folder) const
     {
-        if (!press("authorizeButton") || !chooser())
-            return false;
         auto *name = chooser()->findChild<QLineEdit *>(QLatin1String("fileNameEdit"));
         name->setText(folder);
         QTest::keyClick(name, Qt::Key_Return);
         return QTest::qWaitFor([this] { return !chooser(); }, patience);
+    }
+    bool authorize(const QString &folder) const
+    {
+        return press("authorizeButton") && chooser() && answerChooser(folder);
     }
 
     JobList jobs;
@@ -106,16 +108,9 @@ inline void reset()
     QCoreApplication::setOrganizationName(QLatin1String("Toolvane"));
     QCoreApplication::setApplicationName(QLatin1String("UserCacheTest"));
     QSettings().clear();
-    for (const QString &name : QDir(MiscTool::getUserHome())
-                                   .entryList(QDir::Dirs | QDir::Files | QDir::System | QDir::Hidden
-                                              | QDir::NoDotAndDotDot)) {
-        const QFileInfo item(QDir(MiscTool::getUserHome()).filePath(name));
-        if (name == QLatin1String(".config"))
-            continue;
-        if (item.isDir() && !item.isSymLink())
-            QDir(item.filePath()).removeRecursively();
-        else
-            QFile::remove(item.filePath());
+    for (const auto &item : std::filesystem::directory_iterator(path().toStdString())) {
+        if (item.path().filename() != ".config")
+            std::filesystem::remove_all(item); // of a link, the link alone
     }
 }
 

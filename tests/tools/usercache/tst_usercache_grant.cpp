@@ -40,143 +40,127 @@ class GrantTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init()
+    {
+        TestHome::reset();
+        TestHome::makeFile("Logs/a", 1536);
+        m_boxes = std::make_unique<MessageBoxes>();
+    }
 
-    void withoutGrantNothingRuns();
-    void homeIsGrantedForGood();
-    void wrongFolder_data();
-    void wrongFolder();
-    void cancelWithdrawsUntilTheNextStart();
-    void staleGrantCountsAsHeld();
+    void withoutGrantNothingRuns()
+    {
+        ShownPage shown;
+        QVERIFY(showsImage(shown, u"unauthorized"_s));
+        QVERIFY(!showsImage(shown, u"authorized"_s));
+        QCOMPARE(shownFolder(shown), QString());
+        shown.tick("logsCheckBox");
+        for (const char *button : {"checkButton", "cleanButton"}) {
+            m_boxes->whileShown = [&] { QVERIFY(shown.isIdle() && shown.jobs.isEmpty()); };
+            QVERIFY(shown.press(button));
+            QVERIFY(shown.isIdle() && shown.jobs.isEmpty());
+        }
+        QCOMPARE(m_boxes->texts, QStringList(2, u"Not Authorized Error"_s));
+        QCOMPARE(m_boxes->informativeTexts, QStringList(2, u"Please authorize first"_s));
+        QCOMPARE(shown.title("logsCheckBox"), u"Logs"_s);
+        QVERIFY(TestHome::exists("Logs/a"));
+    }
+
+    void homeIsGrantedForGood()
+    {
+        {
+            ShownPage shown;
+            QVERIFY(shown.press("authorizeButton"));
+            QVERIFY(shown.chooser());
+            QCOMPARE(shown.chooser()->fileMode(), QFileDialog::Directory);
+            QVERIFY(shown.chooser()->testOption(QFileDialog::ShowDirsOnly));
+            QCOMPARE(shown.chooser()->directory().path(), MiscTool::getUserHome());
+            QVERIFY(shown.answerChooser(MiscTool::getUserHome()));
+            QTRY_VERIFY(showsImage(shown, u"authorized"_s));
+            QCOMPARE(shownFolder(shown), MiscTool::getUserHome());
+            // On the disk at once, not when the program ends.
+            QFile settings(QSettings().fileName());
+            QVERIFY(settings.open(QIODevice::ReadOnly));
+            QVERIFY(settings.readAll().contains("AuthorizedLocation="));
+        }
+        ShownPage next;
+        QVERIFY(showsImage(next, u"authorized"_s));
+        QCOMPARE(shownFolder(next), MiscTool::getUserHome());
+        QVERIFY(next.pressAndWait("checkButton"));
+        QCOMPARE(m_boxes->texts, QStringList());
+    }
+
+    void wrongFolder_data()
+    {
+        const QString home = MiscTool::getUserHome();
+        QTest::addColumn<QString>("folder");
+        QTest::newRow("a folder inside") << home + u"/Logs"_s;
+        QTest::newRow("the folder around it") << QFileInfo(home).path();
+        QTest::newRow("the root") << u"/"_s;
+        QTest::newRow("home by another name") << home + u"/Link"_s;
+    }
+    void wrongFolder()
+    {
+        QFETCH(QString, folder);
+        SampleTree::makeLink(TestHome::path() + "/Link", TestHome::path());
+        TestHome::grant();
+        ShownPage shown;
+        QVERIFY(shown.authorize(folder));
+        QCOMPARE(m_boxes->texts, QStringList(u"Wrong Authorized Location"_s));
+        QCOMPARE(m_boxes->informativeTexts,
+                 QStringList(u"Please authorize to "_s + MiscTool::getUserHome()));
+        QVERIFY(shown.press("checkButton"));
+        QCOMPARE(m_boxes->texts.last(), u"Not Authorized Error"_s);
+        QVERIFY(shown.authorize(MiscTool::getUserHome()));
+        QVERIFY(shown.pressAndWait("checkButton"));
+        QCOMPARE(m_boxes->texts.size(), 2);
+    }
+
+    // The image and what is stored stay as they were.
+    void cancelWithdrawsUntilTheNextStart()
+    {
+        TestHome::grant();
+        ShownPage shown;
+        QVERIFY(shown.press("authorizeButton"));
+        QTest::keyClick(shown.chooser(), Qt::Key_Escape);
+        QCOMPARE(m_boxes->texts, QStringList(u"Authorization Failed"_s));
+        QCOMPARE(m_boxes->informativeTexts, QStringList(u"Please authorize again"_s));
+        QVERIFY(showsImage(shown, u"authorized"_s));
+        QCOMPARE(shownFolder(shown), MiscTool::getUserHome());
+        QVERIFY(shown.press("cleanButton"));
+        QCOMPARE(m_boxes->texts.last(), u"Not Authorized Error"_s);
+
+        ShownPage next;
+        QVERIFY(next.pressAndWait("checkButton"));
+        QCOMPARE(m_boxes->texts.size(), 2);
+    }
+
+    void staleGrantCountsAsHeld()
+    {
+        const QByteArray folder = SampleTree::makeRoot() + "/folder";
+        SampleTree::makeFile(folder + "/Logs/b", QByteArray(2048, 'x'));
+        StoredGrant::store(staleBookmark(folder));
+        ShownPage shown;
+        QVERIFY(showsImage(shown, u"authorized"_s));
+        QCOMPARE(shownFolder(shown), QString());
+        shown.tick("logsCheckBox");
+        QVERIFY(shown.pressAndWait("checkButton"));
+        QCOMPARE(shown.title("logsCheckBox"), u"Logs"_s);
+
+        // Once the folder is back, so is the grant: each run tries it again.
+        QVERIFY(QDir().rmdir(QFile::decodeName(folder)));
+        QVERIFY(QFile::rename(QFile::decodeName(folder + ".away"), QFile::decodeName(folder)));
+        QVERIFY(shown.pressAndWait("checkButton"));
+        QCOMPARE(shown.title("logsCheckBox"), u"Logs2.0 KB"_s);
+        // From then on the page has its folder, whatever happens to the bookmark.
+        StoredGrant::store("no bookmark");
+        QVERIFY(shown.pressAndWait("checkButton"));
+        QCOMPARE(shown.title("logsCheckBox"), u"Logs2.0 KB"_s);
+        QCOMPARE(m_boxes->texts, QStringList());
+    }
 
 private:
     std::unique_ptr<MessageBoxes> m_boxes;
 };
-
-void GrantTest::init()
-{
-    TestHome::reset();
-    TestHome::makeFile("Logs/a", 1536);
-    m_boxes = std::make_unique<MessageBoxes>();
-}
-
-void GrantTest::withoutGrantNothingRuns()
-{
-    ShownPage shown;
-    QVERIFY(showsImage(shown, u"unauthorized"_s));
-    QVERIFY(!showsImage(shown, u"authorized"_s));
-    QCOMPARE(shownFolder(shown), QString());
-    shown.tick("logsCheckBox");
-    for (const char *button : {"checkButton", "cleanButton"}) {
-        m_boxes->whileShown = [&] { QVERIFY(shown.isIdle() && shown.jobs.isEmpty()); };
-        QVERIFY(shown.press(button));
-        QVERIFY(shown.isIdle() && shown.jobs.isEmpty());
-    }
-    QCOMPARE(m_boxes->texts, QStringList(2, u"Not Authorized Error"_s));
-    QCOMPARE(m_boxes->informativeTexts, QStringList(2, u"Please authorize first"_s));
-    QCOMPARE(shown.title("logsCheckBox"), u"Logs"_s);
-    QVERIFY(TestHome::exists("Logs/a"));
-}
-
-void GrantTest::homeIsGrantedForGood()
-{
-    {
-        ShownPage shown;
-        QVERIFY(shown.press("authorizeButton"));
-        QVERIFY(shown.chooser());
-        QCOMPARE(shown.chooser()->fileMode(), QFileDialog::Directory);
-        QVERIFY(shown.chooser()->testOption(QFileDialog::ShowDirsOnly));
-        QCOMPARE(shown.chooser()->directory().path(), MiscTool::getUserHome());
-        shown.chooser()->selectFile(MiscTool::getUserHome());
-        shown.chooser()
-            ->findChild<QLineEdit *>(u"fileNameEdit"_s)
-            ->setText(MiscTool::getUserHome());
-        QTest::keyClick(shown.chooser(), Qt::Key_Return);
-        QTRY_VERIFY(showsImage(shown, u"authorized"_s));
-        QCOMPARE(shownFolder(shown), MiscTool::getUserHome());
-        // On the disk at once, not when the program ends.
-        QFile settings(QSettings().fileName());
-        QVERIFY(settings.open(QIODevice::ReadOnly));
-        QVERIFY(settings.readAll().contains("AuthorizedLocation="));
-    }
-    ShownPage next;
-    QVERIFY(showsImage(next, u"authorized"_s));
-    QCOMPARE(shownFolder(next), MiscTool::getUserHome());
-    next.tick("logsCheckBox");
-    QVERIFY(next.pressAndWait("checkButton"));
-    QCOMPARE(next.title("logsCheckBox"), u"Logs1.5 KB"_s);
-    QCOMPARE(m_boxes->texts, QStringList());
-}
-
-void GrantTest::wrongFolder_data()
-{
-    const QString home = MiscTool::getUserHome();
-    QTest::addColumn<QString>("folder");
-    QTest::newRow("a folder inside") << home + u"/Logs"_s;
-    QTest::newRow("the folder around it") << QFileInfo(home).path();
-    QTest::newRow("the root") << u"/"_s;
-    QTest::newRow("home by another name") << home + u"/Link"_s;
-}
-
-void GrantTest::wrongFolder()
-{
-    QFETCH(QString, folder);
-    SampleTree::makeLink(TestHome::path() + "/Link", TestHome::path());
-    TestHome::grant();
-    ShownPage shown;
-    QVERIFY(shown.authorize(folder));
-    QCOMPARE(m_boxes->texts, QStringList(u"Wrong Authorized Location"_s));
-    QCOMPARE(m_boxes->informativeTexts,
-             QStringList(u"Please authorize to "_s + MiscTool::getUserHome()));
-    QVERIFY(shown.press("checkButton"));
-    QCOMPARE(m_boxes->texts.last(), u"Not Authorized Error"_s);
-    QVERIFY(shown.authorize(MiscTool::getUserHome()));
-    QVERIFY(shown.pressAndWait("checkButton"));
-    QCOMPARE(m_boxes->texts.size(), 2);
-}
-
-// The image and what is stored stay as they were.
-void GrantTest::cancelWithdrawsUntilTheNextStart()
-{
-    TestHome::grant();
-    ShownPage shown;
-    QVERIFY(shown.press("authorizeButton"));
-    QTest::keyClick(shown.chooser(), Qt::Key_Escape);
-    QCOMPARE(m_boxes->texts, QStringList(u"Authorization Failed"_s));
-    QCOMPARE(m_boxes->informativeTexts, QStringList(u"Please authorize again"_s));
-    QVERIFY(showsImage(shown, u"authorized"_s));
-    QCOMPARE(shownFolder(shown), MiscTool::getUserHome());
-    QVERIFY(shown.press("cleanButton"));
-    QCOMPARE(m_boxes->texts.last(), u"Not Authorized Error"_s);
-
-    ShownPage next;
-    QVERIFY(next.pressAndWait("checkButton"));
-    QCOMPARE(m_boxes->texts.size(), 2);
-}
-
-void GrantTest::staleGrantCountsAsHeld()
-{
-    const QByteArray folder = SampleTree::makeRoot() + "/folder";
-    SampleTree::makeFile(folder + "/Logs/b", QByteArray(2048, 'x'));
-    StoredGrant::store(staleBookmark(folder));
-    ShownPage shown;
-    QVERIFY(showsImage(shown, u"authorized"_s));
-    QCOMPARE(shownFolder(shown), QString());
-    shown.tick("logsCheckBox");
-    QVERIFY(shown.pressAndWait("checkButton"));
-    QCOMPARE(shown.title("logsCheckBox"), u"Logs"_s);
-
-    // Once the folder is back, so is the grant: each run tries it again.
-    QVERIFY(QDir().rmdir(QFile::decodeName(folder)));
-    QVERIFY(QFile::rename(QFile::decodeName(folder + ".away"), QFile::decodeName(folder)));
-    QVERIFY(shown.pressAndWait("checkButton"));
-    QCOMPARE(shown.title("logsCheckBox"), u"Logs2.0 KB"_s);
-    // From then on the page has its folder, whatever happens to the bookmark.
-    StoredGrant::store("no bookmark");
-    QVERIFY(shown.pressAndWait("checkButton"));
-    QCOMPARE(shown.title("logsCheckBox"), u"Logs2.0 KB"_s);
-    QCOMPARE(m_boxes->texts, QStringList());
-}
 
 QTEST_MAIN(GrantTest)
 #include "tst_usercache_grant.moc"

@@ -22,155 +22,122 @@ class LifeTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-
-    void windowStaysAlive();
-    void runIsListed();
-    void pressInTheEarlyIdleMoment();
-    void pageDestroyedWhileItRuns();
-    void stoppedRunDeletesNothingMore();
-    void listDestroyedWhileItRuns();
-
-private:
-    int turnsWhileCleaning(int folders);
-};
-
-void LifeTest::init()
-{
-    TestHome::reset();
-    TestHome::makeFile("Logs/a", 1536);
-    TestHome::makeFile("Documents/b", 1536);
-    TestHome::grant();
-}
-
-// Turns of the window's event loop while a clean of so many folders keeps the page busy.
-int LifeTest::turnsWhileCleaning(int folders)
-{
-    SampleTree::makeNested(TestHome::path() + "/Downloads", folders, 50);
-    ShownPage shown;
-    shown.tick("downloadsCheckBox");
-    int turns = 0;
-    QTimer timer;
-    connect(&timer, &QTimer::timeout, this, [&] { turns += shown.isIdle() ? 0 : 1; });
-    timer.start(0);
-    QEventLoop window;
-    connect(&shown.jobs, &JobList::allEnded, &window, &QEventLoop::quit);
-    QTimer::singleShot(ShownPage::patience, &window, &QEventLoop::quit);
-    shown.press("cleanButton");
-    window.exec();
-    return shown.isIdle() && !TestHome::exists("Downloads") ? turns : -1;
-}
-
-// On a machine with much to do a worker may be through before the window has its next turn, so a
-// larger folder gets its chance; a window that waits for its worker has no turn with any.
-void LifeTest::windowStaysAlive()
-{
-    int turns = 0;
-    for (int folders = 10; turns < 10 && folders <= 640; folders *= 4) {
-        turns = turnsWhileCleaning(folders);
-        QVERIFY(turns >= 0);
+    void init()
+    {
+        TestHome::reset();
+        TestHome::makeFile("Logs/a", 1536);
+        TestHome::makeFile("Documents/b", 1536);
+        TestHome::grant();
     }
-    QVERIFY2(turns >= 10, QByteArray::number(turns).constData());
-}
 
-void LifeTest::runIsListed()
-{
-    ShownPage shown;
-    QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
-    QVERIFY(shown.press("cleanButton"));
-    QCOMPARE(shown.jobs.running().size(), std::size_t(1));
-    const JobDescription job = shown.jobs.running().front().description;
-    QCOMPARE(job.page, u"UserCacheViewController"_s);
-    QCOMPARE(job.title, u"UserCache"_s);
-    QCOMPARE(job.subject, MiscTool::getUserHome());
-    QVERIFY(shown.waitUntilIdle());
-    QCOMPARE(ended.size(), 1);
-    QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Succeeded);
-}
-
-// A clean is idle once early. Who presses Check just then must see the page busy until that check
-// is through, and its sizes after that, though the clean still has updates of its own on the way.
-void LifeTest::pressInTheEarlyIdleMoment()
-{
-    TestHome::makeFile("Downloads/c", 10);
-    ShownPage shown;
-    shown.tick("downloadsCheckBox");
-    QVERIFY(shown.press("cleanButton"));
-    auto *clean = shown.jobs.findChild<CacheRun *>();
-    QVERIFY(clean);
-    int updates = 0;
-    QStringList idleAfterPress; // what the page had measured whenever it was usable again
-    // Connected after the page itself, so this sees the page as each update left it.
-    connect(clean, &CacheRun::updated, this, [&](const CacheUpdate &update) {
-        ++updates;
-        if (updates == 2 && std::holds_alternative<CleanerIdle>(update) && shown.isIdle()) {
-            shown.tick("downloadsCheckBox", false);
-            shown.tick("logsCheckBox");
-            shown.find<QPushButton>("checkButton")->click();
-        } else if (updates > 2 && shown.isIdle()) {
-            idleAfterPress += shown.title("logsCheckBox");
+    // On a machine with much to do a worker may be through before the window has its next turn, so
+    // a larger folder gets its chance; a window that waits for its worker has no turn with any.
+    void windowStaysAlive()
+    {
+        ShownPage shown;
+        shown.tick("downloadsCheckBox");
+        int turns = 0;
+        QTimer timer;
+        connect(&timer, &QTimer::timeout, this, [&] { turns += shown.isIdle() ? 0 : 1; });
+        timer.start(0);
+        for (int folders = 10; turns < 10 && folders <= 640; folders *= 4) {
+            SampleTree::makeNested(TestHome::path() + "/Downloads", folders, 50);
+            turns = 0;
+            QEventLoop window;
+            connect(&shown.jobs, &JobList::allEnded, &window, &QEventLoop::quit);
+            QTimer::singleShot(ShownPage::patience, &window, &QEventLoop::quit);
+            QVERIFY(shown.press("cleanButton"));
+            window.exec();
+            QVERIFY(shown.isIdle() && !TestHome::exists("Downloads"));
         }
-    });
-    QVERIFY(shown.waitUntilIdle());
-    QCOMPARE(updates, 4);
-    QCOMPARE(idleAfterPress, QStringList());
-    QVERIFY(shown.isIdle());
-    QCOMPARE(shown.title("logsCheckBox"), u"Logs1.5 KB"_s);
-    QVERIFY(!TestHome::exists("Downloads"));
-    QVERIFY(TestHome::exists("Logs/a"));
-}
+        QVERIFY2(turns >= 10, QByteArray::number(turns).constData());
+    }
 
-// As on quitting: the run stays listed until its thread has ended.
-void LifeTest::pageDestroyedWhileItRuns()
-{
-    SampleTree::makeNested(TestHome::path() + "/Library/Caches", 10, 50);
-    ShownPage shown;
-    QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
-    QSignalSpy allEnded(&shown.jobs, &JobList::allEnded);
-    shown.tick("cachesCheckBox");
-    QVERIFY(shown.press("cleanButton"));
-    delete shown.page;
-    QVERIFY(!shown.jobs.isEmpty());
-    QTRY_COMPARE_WITH_TIMEOUT(allEnded.size(), 1, ShownPage::patience);
-    QVERIFY(shown.jobs.isEmpty());
-    QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
-    QTRY_VERIFY(shown.jobs.findChildren<CacheRun *>().isEmpty());
-    QVERIFY(TestHome::exists("Documents/b"));
-}
+    // A clean is idle once early. Who presses Check just then must see the page busy until that
+    // check is through, and its sizes after that, though the clean still has updates of its own on
+    // the way.
+    void pressInTheEarlyIdleMoment()
+    {
+        TestHome::makeFile("Downloads/c", 10);
+        ShownPage shown;
+        shown.tick("downloadsCheckBox");
+        QVERIFY(shown.press("cleanButton"));
+        auto *clean = shown.jobs.findChild<CacheRun *>();
+        QVERIFY(clean);
+        int updates = 0;
+        QStringList idleAfterPress; // what the page had measured whenever it was usable again
+        // Connected after the page itself, so this sees the page as each update left it.
+        connect(clean, &CacheRun::updated, this, [&](const CacheUpdate &update) {
+            ++updates;
+            if (updates == 2 && std::holds_alternative<CleanerIdle>(update) && shown.isIdle()) {
+                shown.tick("downloadsCheckBox", false);
+                shown.tick("logsCheckBox");
+                shown.find<QPushButton>("checkButton")->click();
+            } else if (updates > 2 && shown.isIdle()) {
+                idleAfterPress += shown.title("logsCheckBox");
+            }
+        });
+        QVERIFY(shown.waitUntilIdle());
+        QCOMPARE(updates, 4);
+        QCOMPARE(idleAfterPress, QStringList());
+        QVERIFY(shown.isIdle());
+        QCOMPARE(shown.title("logsCheckBox"), u"Logs1.5 KB"_s);
+        QVERIFY(!TestHome::exists("Downloads"));
+        QVERIFY(TestHome::exists("Logs/a"));
+    }
 
-void LifeTest::stoppedRunDeletesNothingMore()
-{
-    JobList jobs;
-    QSignalSpy ended(&jobs, &JobList::jobEnded);
-    const auto turn = std::make_shared<std::mutex>();
-    std::unique_lock held(*turn); // the run waits for its turn
-    auto *run = new CacheRun(cleanEverything, jobs, {.page = {}, .title = u"Clean"_s}, turn);
-    int idles = 0;
-    connect(run, &CacheRun::updated, this, [&](const CacheUpdate &update) {
-        idles += std::holds_alternative<CleanerIdle>(update);
-    });
-    jobs.stopAll();
-    held.unlock();
-    QTRY_VERIFY(jobs.isEmpty());
-    QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
-    QCOMPARE(idles, 2); // a page would be idle again
-    QVERIFY(TestHome::exists("Logs/a"));
-}
+    // As on quitting: the run stays listed until its thread has ended.
+    void pageDestroyedWhileItRuns()
+    {
+        SampleTree::makeNested(TestHome::path() + "/Library/Caches", 10, 50);
+        ShownPage shown;
+        QSignalSpy ended(&shown.jobs, &JobList::jobEnded);
+        QSignalSpy allEnded(&shown.jobs, &JobList::allEnded);
+        shown.tick("cachesCheckBox");
+        QVERIFY(shown.press("cleanButton"));
+        delete shown.page;
+        QVERIFY(!shown.jobs.isEmpty());
+        QTRY_COMPARE_WITH_TIMEOUT(allEnded.size(), 1, ShownPage::patience);
+        QVERIFY(shown.jobs.isEmpty());
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+        QTRY_VERIFY(shown.jobs.findChildren<CacheRun *>().isEmpty());
+        QVERIFY(TestHome::exists("Documents/b"));
+    }
 
-// Where the program ends without having asked, it still waits for the thread.
-void LifeTest::listDestroyedWhileItRuns()
-{
-    SampleTree::makeNested(TestHome::path() + "/Logs", 10, 50);
-    auto jobs = std::make_unique<JobList>();
-    new CacheRun(cleanEverything, *jobs, {.page = {}, .title = u"Clean"_s},
-                 std::make_shared<std::mutex>());
-    jobs.reset();
-    const SampleTree::Snapshot after = SampleTree::snapshot(TestHome::path());
-    QTest::qWait(20);
-    QCOMPARE(SampleTree::difference(after, SampleTree::snapshot(TestHome::path())),
-             QList<QByteArray>());
-    QVERIFY(TestHome::exists("Documents/b"));
-}
+    void stoppedRunDeletesNothingMore()
+    {
+        JobList jobs;
+        QSignalSpy ended(&jobs, &JobList::jobEnded);
+        const auto turn = std::make_shared<std::mutex>();
+        std::unique_lock held(*turn); // the run waits for its turn
+        auto *run = new CacheRun(cleanEverything, jobs, {.page = {}, .title = u"Clean"_s}, turn);
+        int idles = 0;
+        connect(run, &CacheRun::updated, this, [&](const CacheUpdate &update) {
+            idles += std::holds_alternative<CleanerIdle>(update);
+        });
+        jobs.stopAll();
+        held.unlock();
+        QTRY_VERIFY(jobs.isEmpty());
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+        QCOMPARE(idles, 2); // a page would be idle again
+        QVERIFY(TestHome::exists("Logs/a"));
+    }
+
+    // Where the program ends without having asked, it still waits for the thread.
+    void listDestroyedWhileItRuns()
+    {
+        SampleTree::makeNested(TestHome::path() + "/Logs", 10, 50);
+        auto jobs = std::make_unique<JobList>();
+        new CacheRun(cleanEverything, *jobs, {.page = {}, .title = u"Clean"_s},
+                     std::make_shared<std::mutex>());
+        jobs.reset();
+        const SampleTree::Snapshot after = SampleTree::snapshot(TestHome::path());
+        QTest::qWait(20);
+        QCOMPARE(SampleTree::difference(after, SampleTree::snapshot(TestHome::path())),
+                 QList<QByteArray>());
+        QVERIFY(TestHome::exists("Documents/b"));
+    }
+};
 
 QTEST_MAIN(LifeTest)
 #include "tst_usercache_life.moc"
