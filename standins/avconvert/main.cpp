@@ -46,7 +46,7 @@ Media requireMedia(const std::string &path)
 {
     requireAnnouncedSize(path);
     Media media = lookInto(path);
-    if (!media.firstVideo() && media.audio().empty())
+    if (media.firstVideo() == nullptr && media.audio().empty())
         fail(path, "Holds neither picture nor sound");
     return media;
 }

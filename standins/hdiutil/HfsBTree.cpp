@@ -1,5 +1,6 @@
 #include "HfsBTree.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace hfs
@@ -41,8 +42,8 @@ void appendOffsets(Bytes &node, const std::vector<std::uint16_t> &offsets, std::
 {
     BigEndianWriter out(node);
     out.zeros(nodeSize - node.size() - offsets.size() * offsetSize);
-    for (auto offset = offsets.rbegin(); offset != offsets.rend(); ++offset)
-        out.u16(*offset);
+    std::for_each(offsets.rbegin(), offsets.rend(),
+                  [&out](std::uint16_t offset) { out.u16(offset); });
 }
 
 // The part of the map for `bytes * 8` nodes from `firstNode` on; nodes below `total` are used.
@@ -125,7 +126,7 @@ std::uint64_t BTreeWriter::finish()
 }
 
 // "Index Nodes": each record is the first key of a child and the child's number.
-void BTreeWriter::writeIndexLevel(std::vector<Child> children)
+void BTreeWriter::writeIndexLevel(const std::vector<Child> &children)
 {
     ++m_height;
     m_firstOfLevel = m_node;

@@ -38,7 +38,7 @@ private:
 
     void addRecord(ByteView key, ByteView data);
     void closeNode(bool isLast);
-    void writeIndexLevel(std::vector<Child> children);
+    void writeIndexLevel(const std::vector<Child> &children);
     void writeMapNodes(std::uint32_t count);
     void writeHeader(std::uint32_t mapNodes);
     std::uint32_t mapNodesNeeded() const;

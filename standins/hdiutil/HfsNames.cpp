@@ -83,7 +83,7 @@ Decoded decoded(std::string_view bytes)
 std::u16string decomposed(std::u16string_view text)
 {
     UErrorCode error = U_ZERO_ERROR;
-    const icu::UnicodeString source(false, text.data(),
+    const icu::UnicodeString source(UBool{0}, text.data(),
                                     static_cast<std::int32_t>(text.size())); // borrows the text
     icu::UnicodeString result;
     decomposer().normalize(source, result, error);
@@ -218,7 +218,7 @@ bool needsFoldTable(std::u16string_view name)
     };
     for (std::size_t at = 0; at < name.size();) {
         UChar32 character = 0;
-        U16_NEXT(name.data(), at, name.size(), character);
+        U16_NEXT(name, at, name.size(), character);
         if (character < 0x80)
             continue;
         if (u_tolower(character) != character || isIgnored(character))

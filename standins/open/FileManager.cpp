@@ -37,7 +37,7 @@ bool hasDisplay()
 {
     const auto isSet = [](const char *name) {
         const char *value = std::getenv(name);
-        return value && *value;
+        return value != nullptr && *value != '\0';
     };
     return isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
 }
