@@ -47,6 +47,8 @@ Application::Application()
     m_notifier = std::make_unique<Notifier>(m_jobs, m_window);
     QObject::connect(m_notifier.get(), &Notifier::pageWanted, &m_window,
                      [this](const QString &page, const QString &activationToken) {
+                         if (isQuitting()) // a notification can stay longer than its page
+                             return;
                          m_tools->showPage(page);
                          m_window.comeToFront(activationToken);
                      });
@@ -69,7 +71,7 @@ void Application::start(const QString &page)
 
 bool Application::open(const StartRequest &request)
 {
-    if (!m_window.isVisible()) // closed already, while runs come to their end
+    if (isQuitting())
         return false;
     openPage(request.page);
     m_window.comeToFront(request.activationToken);

@@ -35,6 +35,8 @@ public:
     AppDelegate &delegate() { return m_delegate; }
 
 private:
+    /// The window is closed for good, while runs come to their end.
+    bool isQuitting() const { return !m_window.isVisible(); }
     void openPage(const QString &commandName);
 
     JobList m_jobs;

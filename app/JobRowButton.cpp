@@ -1,5 +1,7 @@
 #include "JobRowButton.h"
 
+#include "PlainToolTip.h"
+
 #include <QFocusEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -31,12 +33,6 @@ struct Line {
                              option.palette, true, text, role);
     }
 };
-
-// A tool tip that looks like markup would be shown as such.
-QString plainToolTip(const QString &text)
-{
-    return u"<qt>%1</qt>"_s.arg(text.toHtmlEscaped().replace(u'\n', u"<br>"_s));
-}
 
 } // namespace
 

@@ -12,7 +12,9 @@ using namespace Qt::StringLiterals;
 // Arabic windows are mirrored; an English one is not, whatever the user's locale is.
 static void installQtsTexts(const QLocale &language)
 {
-    QGuiApplication::setLayoutDirection(language.textDirection());
+    // Who only asks for a text on the command line has no windows, and Qt no direction to set.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        QGuiApplication::setLayoutDirection(language.textDirection());
     auto *texts = new QTranslator(QCoreApplication::instance());
     if (texts->load(language, u"qtbase"_s, u"_"_s,
                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))

@@ -15,7 +15,6 @@ class HoverTableAppDelegate;
 class HoverTableView;
 class JobList;
 class LoginDelegate;
-class QMessageBox;
 
 /// The one window: toolbar, menu bar, sidebar and page area. Remembers its place and size, and asks
 /// before it closes while something runs.

@@ -11,8 +11,8 @@
 class QSocketNotifier;
 
 /// Makes a second start of the program turn to the first one's window. One program runs for a user,
-/// a screen and a set of settings: a window on another screen would help nobody, and with another
-/// home folder it would work on other records.
+/// a screen, a home folder and a set of settings: a window on another screen would help nobody, and
+/// with another home folder it would work on other records.
 ///
 /// The first start holds a lock, which goes with its process however that ends, and listens on a
 /// socket beside it in the user's run-time folder. Only processes of the same user are heard.

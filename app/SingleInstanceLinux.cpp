@@ -3,6 +3,7 @@
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
 #include <QDebug>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QSettings>
@@ -79,7 +80,8 @@ QByteArray screen()
 QByteArray pathOfInstance()
 {
     const QByteArray folder = runtimeFolder();
-    const QByteArray who = screen() + '\0' + QFile::encodeName(QSettings().fileName());
+    const QByteArray who = screen() + '\0' + QFile::encodeName(QDir::homePath()) + '\0'
+        + QFile::encodeName(QSettings().fileName());
     const QByteArray name = QCryptographicHash::hash(who, QCryptographicHash::Sha256).toHex();
     return folder.isEmpty() ? QByteArray() : folder + "/toolvane-" + name.first(16);
 }

@@ -33,9 +33,10 @@ DesktopLook::DesktopLook()
       m_platformFont(platformFont())
 {
     connect(&m_portal, &SettingsPortal::colorSchemeTold, this, [this](ColorScheme preferred) {
-        if (std::exchange(m_preferred, preferred) != preferred)
-            QSettings().setValue(preferredKey, uint(preferred));
-        show(preferred);
+        if (std::exchange(m_preferred, preferred) == preferred)
+            return;
+        QSettings().setValue(preferredKey, uint(preferred));
+        readPlatform(); // what it was may have changed while the preference hid it
     });
     show(m_preferred);
     qApp->installEventFilter(this);
@@ -63,9 +64,9 @@ void DesktopLook::readPlatform()
     m_platformChanged = false;
     if (const QFont font = platformFont(); std::exchange(m_platformFont, font) != font)
         Theme::setFont(font);
-    if (m_preferred != ColorScheme::NoPreference)
-        return;
-    QApplication::setPalette(QPalette()); // what is left then is the platform's
-    m_platformScheme = Theme::schemeOf(QApplication::palette());
+    if (m_preferred == ColorScheme::NoPreference) {
+        QApplication::setPalette(QPalette()); // what is left then is the platform's
+        m_platformScheme = Theme::schemeOf(QApplication::palette());
+    }
     show(m_preferred);
 }

@@ -48,6 +48,9 @@ void SettingsPortal::tellAnswer(QDBusPendingCallWatcher *answer)
 {
     answer->deleteLater();
     const QDBusPendingReply<QDBusVariant> reply = *answer;
+    const auto error = reply.error().type();
+    if (error == QDBusError::NoReply || error == QDBusError::Timeout)
+        return; // it may only be slow, and what was preferred last time still stands
     Q_EMIT colorSchemeTold(reply.isError() ? ColorScheme::NoPreference
                                            : colorSchemeOf(reply.value().variant()));
 }

@@ -1,5 +1,6 @@
 #include "PathField.h"
 
+#include "PlainToolTip.h"
 #include "ProposedFile.h"
 #include "Suffix.h"
 
@@ -9,28 +10,32 @@
 #include <QFileInfo>
 #include <QMimeData>
 #include <QStyleOptionFrame>
+#include <QSysInfo>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
-// A tool tip that looks like markup would be shown as such.
-static QString asToolTip(const QString &path)
+// Some programs name this machine in the address of a file of its own.
+static bool isOfThisMachine(const QUrl &url)
 {
-    return Qt::mightBeRichText(path) ? u"<qt>"_s + path.toHtmlEscaped() + u"</qt>"_s : path;
+    const QString host = url.host();
+    return url.isLocalFile()
+        && (host.isEmpty() || host == "localhost"_L1
+            || host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
 }
 
 // Empty unless it is exactly one local item.
 static QString droppedPath(const QMimeData *data)
 {
     const QList<QUrl> urls = data->urls();
-    return urls.size() == 1 && urls.first().isLocalFile()
-        ? QDir::cleanPath(urls.first().toLocalFile())
-        : QString();
+    return urls.size() == 1 && isOfThisMachine(urls.first()) ? QDir::cleanPath(urls.first().path())
+                                                             : QString();
 }
 
 PathField::PathField(QWidget *parent) : QLineEdit(parent)
 {
     connect(this, &QLineEdit::textChanged, this,
-            [this](const QString &path) { setToolTip(asToolTip(path)); });
+            [this](const QString &path) { setToolTip(plainToolTip(path)); });
 }
 
 bool PathField::takesPath(const QString &path) const

@@ -1,5 +1,7 @@
 #include "ShowInFolderButton.h"
 
+#include "PlainToolTip.h"
+
 ShowInFolderButton::ShowInFolderButton(QWidget *parent) : QPushButton(parent)
 {
     setText(qtTrId("ShowInFolder"));
@@ -15,7 +17,7 @@ ShowInFolderButton::ShowInFolderButton(QWidget *parent) : QPushButton(parent)
 void ShowInFolderButton::offer(const QString &file)
 {
     m_file = file;
-    setToolTip(file.toHtmlEscaped());
+    setToolTip(plainToolTip(file));
     show();
 }
 

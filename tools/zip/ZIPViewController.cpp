@@ -40,10 +40,7 @@ ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     awakeFromNib();
 }
 
-ZIPViewController::~ZIPViewController()
-{
-    m_placing.request_stop();
-}
+ZIPViewController::~ZIPViewController() = default;
 
 void ZIPViewController::awakeFromNib()
 {
@@ -111,7 +108,8 @@ QCoro::Task<> ZIPViewController::generateAction()
     const Command command =
         ZipCommand::pack(ui->srcFolderField->text(), archive, getCompressRatio());
 
-    JobDescription packing = job();
+    const JobDescription whole = job(); // the form may say something else by the time it is placed
+    JobDescription packing = whole;
     packing.successIsNews = false;
     const CommandResult result = co_await m_runner.run(command, packing);
     if (!self || !result.couldStart())
@@ -119,9 +117,10 @@ QCoro::Task<> ZIPViewController::generateAction()
     bool succeeded = result.succeeded();
     bool isPlaced = false;
     if (succeeded) {
-        Job placing = beginPlacing();
+        std::stop_source stop; // for the user alone: a page that goes leaves the archive its way
+        Job placing = m_jobs.begin(whole, [stop]() mutable { stop.request_stop(); });
         const FilePlacement placement =
-            co_await placeFile(ZipCommand::writtenArchive(archive), output, m_placing.get_token());
+            co_await placeFile(ZipCommand::writtenArchive(archive), output, stop.get_token());
         placing.end(outcomeOf(placement));
         if (!self)
             co_return;
@@ -134,12 +133,6 @@ QCoro::Task<> ZIPViewController::generateAction()
     setStatus(true);
     if (isPlaced)
         ui->showInFolderButton->offer(output); // where the progress was
-}
-
-Job ZIPViewController::beginPlacing()
-{
-    m_placing = std::stop_source();
-    return m_jobs.begin(job(), [stop = m_placing]() mutable { stop.request_stop(); });
 }
 
 JobDescription ZIPViewController::job() const

@@ -5,7 +5,6 @@
 #include <QWidget>
 
 #include <memory>
-#include <stop_token>
 
 namespace Ui
 {
@@ -37,10 +36,8 @@ private:
     void awakeFromNib();
 
     JobDescription job() const;
-    Job beginPlacing();
 
     std::unique_ptr<Ui::ZIPViewController> ui;
     JobList &m_jobs;
     CommandRunner m_runner;
-    std::stop_source m_placing{std::nostopstate}; ///< Stops the archive on its way to its place.
 };
