@@ -3,6 +3,7 @@
 #include "Application.h"
 #include "HoverTableAppDelegate.h"
 #include "MiscTool.h"
+#include "Theme.h"
 
 #include <QAction>
 #include <QApplication>
@@ -118,6 +119,27 @@ Scenes::Language::Language(const QString &name)
 Scenes::Language::~Language()
 {
     QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
+void Scenes::prepare()
+{
+    QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
+    Application::prepare();
+    Theme::install();
+}
+
+QString Scenes::described(const QWidget &widget)
+{
+    return QLatin1String(widget.metaObject()->className()) + u' ' + widget.objectName() + u' ';
+}
+
+QList<QWidget *> Scenes::shownIn(const QWidget &window)
+{
+    QList<QWidget *> shown = window.findChildren<QWidget *>();
+    shown.removeIf([&window](const QWidget *widget) {
+        return !widget->isVisible() || widget->window() != &window;
+    });
+    return shown;
 }
 
 void Scenes::visit(Application &application, const Look &look)

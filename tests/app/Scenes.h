@@ -30,6 +30,15 @@ private:
     PseudoTexts m_pseudo;
 };
 
+/// Before the first test: what they show makes a record database.
+void prepare();
+
+/// Class and name of a widget, for a message.
+QString described(const QWidget &widget);
+
+/// What is visible in a window, the window itself excepted.
+QList<QWidget *> shownIn(const QWidget &window);
+
 using Look = std::function<void(const QString &scene, QWidget &window)>;
 
 /// Shows each page, window, sheet and message box of a started application in turn and calls back

@@ -4,7 +4,6 @@
 #include "Application.h"
 #include "MnemonicChoice.h"
 #include "Scenes.h"
-#include "Theme.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
@@ -26,14 +25,11 @@
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+using Scenes::described;
+using Scenes::shownIn;
 
 namespace
 {
-
-QString described(const QWidget &widget)
-{
-    return QLatin1String(widget.metaObject()->className()) + u" "_s + widget.objectName();
-}
 
 /// What is wrong, all of it: one run tells everything.
 class Findings
@@ -91,15 +87,6 @@ bool hasValue(const QWidget &widget, QAccessibleInterface &interface)
 bool takesTab(const QWidget &widget)
 {
     return widget.focusPolicy() & Qt::TabFocus && widget.isEnabled() && !widget.focusProxy();
-}
-
-QList<QWidget *> shownIn(const QWidget &window)
-{
-    QList<QWidget *> shown = window.findChildren<QWidget *>();
-    shown.removeIf([&window](const QWidget *widget) {
-        return !widget->isVisible() || widget->window() != &window;
-    });
-    return shown;
 }
 
 void lookAtNames(const QString &where, const QWidget &window, Findings &findings)
@@ -231,45 +218,39 @@ class TestAccessibility : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void everyWindowInEveryLanguage_data();
-    void everyWindowInEveryLanguage();
+    void initTestCase()
+    {
+        Scenes::prepare();
+        QAccessible::setActive(true);
+    }
+
+    void everyWindowInEveryLanguage_data()
+    {
+        QTest::addColumn<QString>("language");
+        for (const QString &language : Scenes::languages())
+            QTest::newRow(qPrintable(language)) << language;
+    }
+
+    void everyWindowInEveryLanguage()
+    {
+        QFETCH(QString, language);
+        const Scenes::Language inUse(language);
+        Application application;
+        application.start();
+        Findings findings;
+        int scenes = 0;
+        Scenes::visit(application, [&](const QString &scene, QWidget &window) {
+            ++scenes;
+            lookAtNames(scene, window, findings);
+            lookAtMnemonics(scene, window, findings);
+            if (window.isModal() || !QApplication::activeModalWidget())
+                lookAtTabOrder(scene, window, findings);
+        });
+        lookAtMenus(language, application.window(), findings);
+        QVERIFY2(findings.text().isEmpty(), qPrintable(findings.text()));
+        QCOMPARE(scenes, 20);
+    }
 };
-
-void TestAccessibility::initTestCase()
-{
-    QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
-    Application::prepare();
-    Theme::install();
-    QAccessible::setActive(true);
-}
-
-void TestAccessibility::everyWindowInEveryLanguage_data()
-{
-    QTest::addColumn<QString>("language");
-    for (const QString &language : Scenes::languages())
-        QTest::newRow(qPrintable(language)) << language;
-}
-
-void TestAccessibility::everyWindowInEveryLanguage()
-{
-    QFETCH(QString, language);
-    const Scenes::Language inUse(language);
-    Application application;
-    application.start();
-    Findings findings;
-    int scenes = 0;
-    Scenes::visit(application, [&](const QString &scene, QWidget &window) {
-        ++scenes;
-        lookAtNames(scene, window, findings);
-        lookAtMnemonics(scene, window, findings);
-        if (window.isModal() || !QApplication::activeModalWidget())
-            lookAtTabOrder(scene, window, findings);
-    });
-    lookAtMenus(language, application.window(), findings);
-    QVERIFY2(findings.text().isEmpty(), qPrintable(findings.text()));
-    QCOMPARE(scenes, 20);
-}
 
 QTEST_MAIN(TestAccessibility)
 #include "tst_accessibility.moc"

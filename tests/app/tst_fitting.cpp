@@ -11,13 +11,10 @@
 #include "Theme.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
@@ -28,11 +25,6 @@ using namespace Qt::StringLiterals;
 
 namespace
 {
-
-QString described(const QWidget &widget)
-{
-    return QLatin1String(widget.metaObject()->className()) + u" "_s + widget.objectName();
-}
 
 bool labelFits(const QLabel &label)
 {
@@ -110,22 +102,15 @@ bool scrollsSideways(const QWidget &widget)
 QStringList misfits(const QString &where, const QWidget &window)
 {
     QStringList found;
-    const auto widgets = window.findChildren<QWidget *>();
-    for (const QWidget *widget : widgets) {
-        if (!widget->isVisible() || widget->window() != &window)
-            continue;
-        const QString what = where + u": "_s + described(*widget);
+    for (const QWidget *widget : Scenes::shownIn(window)) {
+        const QString what = where + u": "_s + Scenes::described(*widget);
         if (!fits(*widget))
-            found += what
-                + u" is clipped, %1x%2 instead of %3x%4: "_s.arg(widget->width())
-                      .arg(widget->height())
-                      .arg(widget->sizeHint().width())
-                      .arg(widget->sizeHint().height())
+            found += what + u"is clipped in %1x%2: "_s.arg(widget->width()).arg(widget->height())
                 + widget->property("text").toString();
         if (!liesInItsParent(*widget) || overlapsASibling(*widget))
-            found += what + u" lies outside its place"_s;
+            found += what + u"lies outside its place"_s;
         if (scrollsSideways(*widget))
-            found += what + u" scrolls sideways"_s;
+            found += what + u"scrolls sideways"_s;
     }
     return found;
 }
@@ -137,102 +122,92 @@ class TestFitting : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void nothingIsClipped_data();
-    void nothingIsClipped();
-    void openWindowsFollowTheFont();
-    void pagesScrollOnlyWhenTheyMust();
+    void initTestCase() { Scenes::prepare(); }
+
+    void nothingIsClipped_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<qreal>("fontScale");
+        for (const QString &language : Scenes::languages()) {
+            QTest::newRow(qPrintable(language)) << language << 1.0;
+            QTest::newRow(qPrintable(language + u", large"_s)) << language << 1.3;
+        }
+    }
+
+    void nothingIsClipped()
+    {
+        QFETCH(QString, language);
+        QFETCH(qreal, fontScale);
+        const Scenes::Language inUse(language);
+        const QFont usual = QApplication::font();
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * fontScale);
+        Theme::setFont(font);
+        Application application;
+        application.start();
+        QStringList found;
+        for (const QSize size : {QSize(820, 560), QSize(1040, 680)}) {
+            application.window().resize(size);
+            Scenes::visit(application, [&](const QString &scene, const QWidget &window) {
+                found += misfits(u"%1, %2"_s.arg(size.width()).arg(scene), window);
+            });
+            QCOMPARE(application.window().size(), size);
+        }
+        Theme::setFont(usual);
+        QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
+    }
+
+    void openWindowsFollowTheFont()
+    {
+        const QFont usual = QApplication::font();
+        Application application;
+        application.start();
+        application.tools().selectTool(1); // from now on each name has a font of its own
+        QFont larger = usual;
+        larger.setPointSizeF(usual.pointSizeF() + 6);
+        Theme::setFont(larger);
+        Scenes::settle();
+        for (int row = 0; row < 2; ++row) {
+            const HoverTableRowView &rowView = *application.window().tableView().rowView(row);
+            QCOMPARE(rowView.textField()->font().pointSizeF(), larger.pointSizeF());
+            QCOMPARE(rowView.textField()->font().bold(), row == 1);
+            QVERIFY(rowView.height() >= rowView.textField()->sizeHint().height());
+        }
+        const QStringList found = misfits(u"after the change"_s, application.window());
+        Theme::setFont(usual);
+        QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
+    }
+
+    void pagesScrollOnlyWhenTheyMust()
+    {
+        QWidget page;
+        auto *layout = new QVBoxLayout(&page);
+        QList<QLineEdit *> fields;
+        for (int i = 0; i < 6; ++i)
+            layout->addWidget(fields.emplaceBack(new QLineEdit));
+        PageScroller scroller(&page);
+        scroller.resize(400, 560);
+        scroller.show();
+        QVERIFY(QTest::qWaitForWindowActive(&scroller));
+        QCOMPARE(page.size(), scroller.size());
+        QVERIFY(!scroller.verticalScrollBar()->isVisible());
+
+        scroller.resize(400, 150);
+        QTRY_VERIFY(scroller.verticalScrollBar()->isVisible());
+        QVERIFY(scroller.horizontalScrollBar()->maximum() == 0);
+        QCOMPARE(page.height(), page.minimumSizeHint().height());
+        fields.last()->setFocus();
+        const QRect last(fields.last()->mapTo(scroller.viewport(), QPoint()),
+                         fields.last()->size());
+        QVERIFY(scroller.viewport()->rect().contains(last));
+
+        for (int i = 0; i < 5; ++i)
+            fields.at(i)->hide(); // needs less now
+        QTRY_VERIFY(!scroller.verticalScrollBar()->isVisible());
+        QCOMPARE(page.size(), scroller.size());
+        page.setParent(nullptr);
+    }
 };
-
-void TestFitting::initTestCase()
-{
-    QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
-    Application::prepare();
-    Theme::install();
-}
-
-void TestFitting::nothingIsClipped_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<qreal>("fontScale");
-    for (const QString &language : Scenes::languages()) {
-        QTest::newRow(qPrintable(language)) << language << 1.0;
-        QTest::newRow(qPrintable(language + u", large"_s)) << language << 1.3;
-    }
-}
-
-void TestFitting::nothingIsClipped()
-{
-    QFETCH(QString, language);
-    QFETCH(qreal, fontScale);
-    const Scenes::Language inUse(language);
-    const QFont usual = QApplication::font();
-    QFont font = usual;
-    font.setPointSizeF(usual.pointSizeF() * fontScale);
-    Theme::setFont(font);
-    Application application;
-    application.start();
-    QStringList found;
-    for (const QSize size : {QSize(820, 560), QSize(1040, 680)}) {
-        application.window().resize(size);
-        Scenes::visit(application, [&](const QString &scene, const QWidget &window) {
-            found += misfits(u"%1, %2"_s.arg(size.width()).arg(scene), window);
-        });
-        QCOMPARE(application.window().size(), size);
-    }
-    Theme::setFont(usual);
-    QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
-}
-
-void TestFitting::openWindowsFollowTheFont()
-{
-    const QFont usual = QApplication::font();
-    Application application;
-    application.start();
-    application.tools().selectTool(1); // from now on each name has a font of its own
-    QFont larger = usual;
-    larger.setPointSizeF(usual.pointSizeF() + 6);
-    Theme::setFont(larger);
-    Scenes::settle();
-    for (int row = 0; row < 2; ++row) {
-        const HoverTableRowView &rowView = *application.window().tableView().rowView(row);
-        QCOMPARE(rowView.textField()->font().pointSizeF(), larger.pointSizeF());
-        QCOMPARE(rowView.textField()->font().bold(), row == 1);
-        QVERIFY(rowView.height() >= rowView.textField()->sizeHint().height());
-    }
-    const QStringList found = misfits(u"after the change"_s, application.window());
-    Theme::setFont(usual);
-    QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
-}
-
-void TestFitting::pagesScrollOnlyWhenTheyMust()
-{
-    QWidget page;
-    auto *layout = new QVBoxLayout(&page);
-    QList<QLineEdit *> fields;
-    for (int i = 0; i < 6; ++i)
-        layout->addWidget(fields.emplaceBack(new QLineEdit));
-    PageScroller scroller(&page);
-    scroller.resize(400, 560);
-    scroller.show();
-    QVERIFY(QTest::qWaitForWindowActive(&scroller));
-    QCOMPARE(page.size(), scroller.size());
-    QVERIFY(!scroller.verticalScrollBar()->isVisible());
-
-    scroller.resize(400, 150);
-    QTRY_VERIFY(scroller.verticalScrollBar()->isVisible());
-    QVERIFY(scroller.horizontalScrollBar()->maximum() == 0);
-    QCOMPARE(page.height(), page.minimumSizeHint().height());
-    fields.last()->setFocus();
-    const QRect last(fields.last()->mapTo(scroller.viewport(), QPoint()), fields.last()->size());
-    QVERIFY(scroller.viewport()->rect().contains(last));
-
-    for (int i = 0; i < 5; ++i)
-        fields.at(i)->hide(); // needs less now
-    QTRY_VERIFY(!scroller.verticalScrollBar()->isVisible());
-    QCOMPARE(page.size(), scroller.size());
-    page.setParent(nullptr);
-}
 
 QTEST_MAIN(TestFitting)
 #include "tst_fitting.moc"

@@ -52,88 +52,67 @@ class JobStripTest : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Application::prepare(); }
-    void showsWhatRunsAndMovesNoPage();
-    void aBriefRunIsNotShown();
-    void worksFromTheKeyboard();
-    void aRunThatEndsInsideItsStop();
-    void theEndReachesAScreenReader();
-};
-
-void JobStripTest::showsWhatRunsAndMovesNoPage()
-{
-    Window window;
-    const QRect page = window.container().geometry();
-    QVERIFY(!window.strip().isVisible());
-    std::vector<Job> jobs;
-    for (int count = 1; count <= 4; ++count) {
-        jobs.push_back(window.begin(u"ZIPViewController"_s));
-        QTRY_COMPARE(window.buttons().size(), count);
-        const int oneRow = window.buttons().constFirst()->sizeHint().height();
-        QTRY_COMPARE(window.strip().height(), std::min(count, 3) * oneRow); // then it scrolls
+    void showsWhatRunsAndMovesNoPage()
+    {
+        Window window;
+        const QRect page = window.container().geometry();
+        QVERIFY(!window.strip().isVisible());
+        std::vector<Job> jobs;
+        for (int count = 1; count <= 4; ++count) {
+            jobs.push_back(window.begin(u"ZIPViewController"_s));
+            QTRY_COMPARE(window.buttons().size(), count);
+            const int oneRow = window.buttons().constFirst()->sizeHint().height();
+            QTRY_COMPARE(window.strip().height(), std::min(count, 3) * oneRow); // then it scrolls
+            QCOMPARE(window.container().geometry(), page);
+            QCOMPARE(window.strip().geometry().bottom(), page.bottom());
+        }
+        QCOMPARE(window.buttons().constFirst()->accessibleName(), u"Zip: /home/jane/<b>"_s);
+        QVERIFY(window.buttons().constFirst()->toolTip().contains(u"/home/jane/&lt;b&gt;"_s));
+        jobs.back().end(JobOutcome::Failed);
+        const auto *zip = window.window().findChild<QWidget *>(u"ZIPViewController"_s);
+        QCOMPARE(zip->accessibleDescription(), qtTrId("Notice.Failed").arg(u"Zip"_s));
+        jobs.clear();
+        window.begin(u"ZIPViewController"_s).end(JobOutcome::Succeeded); // too brief to be shown
+        QVERIFY(!window.strip().isVisible());
         QCOMPARE(window.container().geometry(), page);
-        QCOMPARE(window.strip().geometry().bottom(), page.bottom());
     }
-    QCOMPARE(window.buttons().constFirst()->accessibleName(), u"Zip: /home/jane/<b>"_s);
-    QVERIFY(window.buttons().constFirst()->toolTip().contains(u"/home/jane/&lt;b&gt;"_s));
-    jobs.clear();
-    QVERIFY(!window.strip().isVisible());
-    QCOMPARE(window.container().geometry(), page);
-}
 
-void JobStripTest::aBriefRunIsNotShown()
-{
-    Window window;
-    const Job lasting = window.begin(u"ZIPViewController"_s);
-    Job brief = window.begin(u"UNZIPViewController"_s);
-    brief.end(JobOutcome::Succeeded);
-    QVERIFY(!window.strip().isVisible());
-    QTRY_COMPARE(window.buttons().size(), 1);
-}
+    void worksFromTheKeyboard()
+    {
+        Window window;
+        int stopped = 0;
+        const Job job = window.begin(u"ZIPViewController"_s, [&] { ++stopped; });
+        QTRY_COMPARE(window.buttons().size(), 2);
+        QPushButton *show = window.buttons().constFirst();
+        QPushButton *stop = window.buttons().constLast();
+        QCOMPARE(stop->accessibleName(), qtTrId("Jobs.Stop.Name").arg(u"Zip"_s));
 
-void JobStripTest::worksFromTheKeyboard()
-{
-    Window window;
-    int stopped = 0;
-    const Job job = window.begin(u"ZIPViewController"_s, [&] { ++stopped; });
-    QTRY_COMPARE(window.buttons().size(), 2);
-    QPushButton *show = window.buttons().constFirst();
-    QPushButton *stop = window.buttons().constLast();
-    QCOMPARE(stop->accessibleName(), qtTrId("Jobs.Stop.Name").arg(u"Zip"_s));
+        for (int presses = 0; presses < 100 && !show->hasFocus(); ++presses)
+            QTest::keyClick(&window.window(), Qt::Key_Tab);
+        QVERIFY(show->hasFocus());
+        QTest::keyClick(show, Qt::Key_Return);
+        QCOMPARE(window.container().contentView()->objectName(), u"ZIPViewController"_s);
 
-    for (int presses = 0; presses < 100 && !show->hasFocus(); ++presses)
+        show->setFocus();
         QTest::keyClick(&window.window(), Qt::Key_Tab);
-    QVERIFY(show->hasFocus());
-    QTest::keyClick(show, Qt::Key_Return);
-    QCOMPARE(window.container().contentView()->objectName(), u"ZIPViewController"_s);
+        QVERIFY(stop->hasFocus());
+        QTest::keyClick(stop, Qt::Key_Return);
+        QCOMPARE(stopped, 1);
+        QVERIFY(!stop->isEnabled()); // the run still has to end
+        QVERIFY(window.jobs().running().front().stopRequested);
+    }
 
-    show->setFocus();
-    QTest::keyClick(&window.window(), Qt::Key_Tab);
-    QVERIFY(stop->hasFocus());
-    QTest::keyClick(stop, Qt::Key_Return);
-    QCOMPARE(stopped, 1);
-    QVERIFY(!stop->isEnabled()); // the run still has to end
-    QVERIFY(window.jobs().running().front().stopRequested);
-}
-
-void JobStripTest::aRunThatEndsInsideItsStop()
-{
-    Window window;
-    Job job;
-    job = window.begin(u"ZIPViewController"_s, [&] { job.end(JobOutcome::Stopped); });
-    QTRY_COMPARE(window.buttons().size(), 2);
-    QTest::mouseClick(window.buttons().constLast(), Qt::LeftButton);
-    QVERIFY(!window.strip().isVisible());
-    QTRY_VERIFY(window.strip().findChildren<JobRow *>().isEmpty());
-}
-
-void JobStripTest::theEndReachesAScreenReader()
-{
-    Window window;
-    Job job = window.begin(u"ZIPViewController"_s);
-    job.end(JobOutcome::Failed);
-    const auto *page = window.window().findChild<QWidget *>(u"ZIPViewController"_s);
-    QCOMPARE(page->accessibleDescription(), qtTrId("Notice.Failed").arg(u"Zip"_s));
-}
+    void aRunThatEndsInsideItsStop()
+    {
+        Window window;
+        Job job;
+        job = window.begin(u"ZIPViewController"_s, [&] { job.end(JobOutcome::Stopped); });
+        QTRY_COMPARE(window.buttons().size(), 2);
+        QTest::mouseClick(window.buttons().constLast(), Qt::LeftButton);
+        QVERIFY(!window.strip().isVisible());
+        QTRY_VERIFY(window.strip().findChildren<JobRow *>().isEmpty());
+    }
+};
 
 QTEST_MAIN(JobStripTest)
 #include "tst_jobstrip.moc"

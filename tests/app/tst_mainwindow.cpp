@@ -15,19 +15,18 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-QMessageBox *quitQuestion(const Application &, MainWindow &window)
+QMessageBox *quitQuestion(MainWindow &window)
 {
-    return window.findChild<QMessageBox *>(u"quitQuestion"_s);
+    const auto questions = window.findChildren<QMessageBox *>(u"quitQuestion"_s);
+    return questions.size() == 1 ? questions.first() : nullptr;
 }
 
-void answer(QMessageBox *question, QMessageBox::ButtonRole role)
+void answer(const QMessageBox &question, QMessageBox::ButtonRole role)
 {
-    const auto buttons = question->buttons();
+    const auto buttons = question.buttons();
     for (QAbstractButton *button : buttons) {
-        if (question->buttonRole(button) == role) {
-            button->click();
-            return;
-        }
+        if (question.buttonRole(button) == role)
+            return button->click();
     }
     QFAIL("the question has no such button");
 }
@@ -40,115 +39,86 @@ class tst_MainWindow : public QObject
 
 private Q_SLOTS:
     void initTestCase() { Application::prepare(); }
-    void showsTheMainWindowAndHidesTheLogin();
-    void startsWithoutALoginWindow();
-    void opensToolsFromTheKeyboard();
-    void closingQuitsAlthoughTheLoginWindowExists();
-    void remembersPlaceAndSize();
-    void asksBeforeClosingWhileSomethingRuns();
-    void quittingEndsTheRunsFirst();
-    void theQuestionGoesWhenTheRunHasEnded();
-};
-
-void tst_MainWindow::showsTheMainWindowAndHidesTheLogin()
-{
-    Application application;
-    application.delegate().loginWindow->show();
-    application.start();
-    QVERIFY(application.window().isVisible());
-    QVERIFY(!application.delegate().loginWindow->isVisible());
-    QCOMPARE(application.window().windowTitle(), u"Toolvane"_s);
-    QCOMPARE(application.delegate().appNameItem->text(), u"Toolvane"_s);
-    QCOMPARE(application.tools().rowCount(), 8);
-}
-
-void tst_MainWindow::startsWithoutALoginWindow()
-{
-    Application application;
-    application.delegate().loginWindow = nullptr;
-    application.start();
-    QVERIFY(application.window().isVisible());
-}
-
-void tst_MainWindow::opensToolsFromTheKeyboard()
-{
-    Application application;
-    application.start();
-    QVERIFY(QTest::qWaitForWindowActive(&application.window()));
-    for (int row = 0; row < application.tools().rowCount(); ++row) {
-        QTest::keyClick(&application.window(), static_cast<Qt::Key>(Qt::Key_1 + row),
-                        Qt::ControlModifier);
-        QVERIFY2(application.tools().viewItem(row)->isVisible(), qPrintable(QString::number(row)));
+    void startsWithTheMainWindowAloneAndEndsWithIt()
+    {
+        Application application;
+        application.delegate().loginWindow->show();
+        application.start();
+        QVERIFY(application.window().isVisible());
+        QVERIFY(!application.delegate().loginWindow->isVisible());
+        QCOMPARE(application.window().windowTitle(), u"Toolvane"_s);
+        QCOMPARE(application.delegate().appNameItem->text(), u"Toolvane"_s);
+        QApplication::setQuitOnLastWindowClosed(
+            AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
+        QTimer::singleShot(0, &application.window(), &QWidget::close);
+        QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QApplication::exec(), 0); // ended by the window, not by the watchdog
     }
-}
 
-void tst_MainWindow::closingQuitsAlthoughTheLoginWindowExists()
-{
-    Application application;
-    application.start();
-    QApplication::setQuitOnLastWindowClosed(
-        AppDelegate::applicationShouldTerminateAfterLastWindowClosed());
-    QTimer::singleShot(0, &application.window(), &QWidget::close);
-    QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
-    QCOMPARE(QApplication::exec(), 0); // ended by the window, not by the watchdog
-}
-
-void tst_MainWindow::remembersPlaceAndSize()
-{
+    void opensToolsFromTheKeyboard()
     {
         Application application;
         application.start();
-        application.window().resize(910, 610);
-        application.window().close();
+        QVERIFY(QTest::qWaitForWindowActive(&application.window()));
+        for (int row = 0; row < application.tools().rowCount(); ++row) {
+            QTest::keyClick(&application.window(), static_cast<Qt::Key>(Qt::Key_1 + row),
+                            Qt::ControlModifier);
+            QVERIFY2(application.tools().viewItem(row)->isVisible(),
+                     qPrintable(QString::number(row)));
+        }
     }
-    const Application again;
-    QCOMPARE(const_cast<Application &>(again).window().size(), QSize(910, 610));
-}
 
-void tst_MainWindow::asksBeforeClosingWhileSomethingRuns()
-{
-    Application application;
-    application.start();
-    const Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = {}});
-    QVERIFY(!application.window().close());
-    QVERIFY(!application.window().close()); // a second try asks no second question
-    QCOMPARE(application.window().findChildren<QMessageBox *>(u"quitQuestion"_s).size(), 1);
-    answer(quitQuestion(application, application.window()), QMessageBox::RejectRole);
-    QVERIFY(application.window().isVisible());
-    QVERIFY(!application.jobs().isEmpty());
-}
+    void remembersPlaceAndSize()
+    {
+        {
+            Application application;
+            application.start();
+            application.window().resize(910, 610);
+            application.window().close();
+        }
+        Application again;
+        QCOMPARE(again.window().size(), QSize(910, 610));
+    }
 
-void tst_MainWindow::quittingEndsTheRunsFirst()
-{
-    Application application;
-    application.start();
-    const QPointer<QWidget> page = application.tools().viewItem(0);
-    Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = {}});
-    QSignalSpy aboutToQuit(qApp, &QCoreApplication::aboutToQuit);
-    application.window().close();
-    answer(quitQuestion(application, application.window()), QMessageBox::DestructiveRole);
-    QVERIFY(!application.window().isVisible());
-    QVERIFY(page.isNull()); // the page went, and with it whatever it ran
+    void asksBeforeClosingWhileSomethingRuns()
+    {
+        Application application;
+        application.start();
+        Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = {}});
+        QVERIFY(!application.window().close());
+        QVERIFY(!application.window().close()); // a second try asks no second question
+        QVERIFY(quitQuestion(application.window()));
+        answer(*quitQuestion(application.window()), QMessageBox::RejectRole);
+        QVERIFY(application.window().isVisible());
+        QVERIFY(!application.jobs().isEmpty());
+        QTRY_VERIFY(!quitQuestion(application.window()));
 
-    QSignalSpy allEnded(&application.jobs(), &JobList::allEnded);
-    QTest::qWait(0);
-    QCOMPARE(allEnded.size(), 0); // what cannot be stopped is waited for
-    job.end(JobOutcome::Stopped);
-    QTRY_COMPARE(allEnded.size(), 1);
-}
+        application.window().close();
+        QVERIFY(quitQuestion(application.window()));
+        job.end(JobOutcome::Succeeded);
+        QTRY_VERIFY(!quitQuestion(application.window()));
+        QVERIFY(application.window().isVisible());
+    }
 
-void tst_MainWindow::theQuestionGoesWhenTheRunHasEnded()
-{
-    Application application;
-    application.start();
-    Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = {}});
-    application.window().close();
-    QPointer<QMessageBox> question = quitQuestion(application, application.window());
-    QVERIFY(question && question->isVisible());
-    job.end(JobOutcome::Succeeded);
-    QTRY_VERIFY(question.isNull());
-    QVERIFY(application.window().isVisible());
-}
+    void quittingEndsTheRunsFirst()
+    {
+        Application application;
+        application.start();
+        const QPointer<QWidget> page = application.tools().viewItem(0);
+        Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = {}});
+        QSignalSpy aboutToQuit(qApp, &QCoreApplication::aboutToQuit);
+        application.window().close();
+        answer(*quitQuestion(application.window()), QMessageBox::DestructiveRole);
+        QVERIFY(!application.window().isVisible());
+        QVERIFY(page.isNull()); // the page went, and with it whatever it ran
+
+        QSignalSpy allEnded(&application.jobs(), &JobList::allEnded);
+        QTest::qWait(0);
+        QCOMPARE(allEnded.size(), 0); // what cannot be stopped is waited for
+        job.end(JobOutcome::Stopped);
+        QTRY_COMPARE(allEnded.size(), 1);
+    }
+};
 
 QTEST_MAIN(tst_MainWindow)
 #include "tst_mainwindow.moc"

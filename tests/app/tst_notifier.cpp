@@ -63,16 +63,190 @@ class NotifierTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void cleanupTestCase();
-    void init();
-    void cleanup();
-    void tellsHowARunEnded_data();
-    void tellsHowARunEnded();
-    void tellsNothingThatTheUserKnows();
-    void onlyTheServersClickCounts();
-    void aClickBringsTheWindowAndThePage();
-    void silentWithoutAServer();
+    void initTestCase()
+    {
+        m_daemon.start(u"dbus-daemon"_s,
+                       {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
+                        u"--address=unix:dir="_s + m_folder.path()});
+        QVERIFY(m_daemon.waitForReadyRead(10000));
+        const QByteArray address = m_daemon.readLine().trimmed();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+        for (const QString &name : {u"server"_s, u"stranger"_s})
+            QVERIFY(QDBusConnection::connectToBus(QString::fromUtf8(address), name).isConnected());
+        QVERIFY(bus().registerObject(objectPath, &m_server, QDBusConnection::ExportAllContents));
+        Application::prepare();
+    }
+
+    void cleanupTestCase()
+    {
+        for (const QString &name : {u"server"_s, u"stranger"_s})
+            QDBusConnection::disconnectFromBus(name);
+        m_daemon.terminate();
+        m_daemon.waitForFinished();
+    }
+
+    void init()
+    {
+        QVERIFY(bus().registerService(service));
+        m_server.shown.clear();
+        m_server.capabilities = {u"body"_s, u"actions"_s};
+        m_jobs = std::make_unique<JobList>();
+        m_window = std::make_unique<QWidget>();
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        QApplication::setActiveWindow(nullptr);
+        m_notifier = std::make_unique<Notifier>(*m_jobs, *m_window);
+    }
+
+    void cleanup()
+    {
+        m_notifier.reset();
+        m_window.reset();
+        m_jobs.reset();
+    }
+
+    void tellsHowARunEnded_data()
+    {
+        QTest::addColumn<JobOutcome>("outcome");
+        QTest::addColumn<QStringList>("capabilities");
+        QTest::addColumn<QString>("summary"); // key of the text
+        QTest::addColumn<QString>("body");
+        QTest::addColumn<int>("actions");
+        const QStringList plain{u"body"_s};
+        const QStringList rich{u"actions"_s, u"body"_s, u"body-markup"_s};
+        const QString escaped = u"/home/a &lt;b&gt;&amp;amp;"_s;
+        QTest::newRow("succeeded")
+            << JobOutcome::Succeeded << plain << u"Notice.Succeeded"_s << zipOfLetters.subject << 0;
+        QTest::newRow("failed") << JobOutcome::Failed << rich << u"Notice.Failed"_s << escaped << 4;
+        QTest::newRow("stopped") << JobOutcome::Stopped << rich << u"Notice.Stopped"_s << escaped
+                                 << 4;
+    }
+
+    void tellsHowARunEnded()
+    {
+        QFETCH(JobOutcome, outcome);
+        QFETCH(QStringList, capabilities);
+        m_server.capabilities = capabilities;
+        run(*m_jobs, outcome);
+        QTRY_COMPARE(m_server.shown.size(), 1);
+        const auto &notification = m_server.shown.constFirst();
+        QCOMPARE(notification.application, u"Toolvane"_s);
+        QCOMPARE(notification.hints.value(u"desktop-entry"_s), u"toolvane"_s);
+        QFETCH(QString, summary);
+        QCOMPARE(notification.summary, qtTrId(summary.toUtf8().constData()).arg(u"Zip"_s));
+        QVERIFY(notification.summary.contains(u"Zip"_s));
+        QTEST(notification.body, "body");
+        QTEST(static_cast<int>(notification.actions.size()), "actions");
+        QCOMPARE(notification.actions.value(0),
+                 capabilities.contains(u"actions"_s) ? u"default"_s : QString());
+    }
+
+    void tellsNothingThatTheUserKnows()
+    {
+        JobDescription firstStep = zipOfLetters;
+        firstStep.successIsNews = false;
+        run(*m_jobs, JobOutcome::Succeeded, firstStep);
+        Job stopped;
+        stopped = m_jobs->begin(zipOfLetters, [&] { stopped.end(JobOutcome::Stopped); });
+        m_jobs->stopAll();
+        QApplication::setActiveWindow(m_window.get());
+        run(*m_jobs, JobOutcome::Failed);
+        QApplication::setActiveWindow(nullptr);
+        m_window->hide(); // as when the program is quit and ends its runs
+        run(*m_jobs, JobOutcome::Stopped);
+        m_window->show();
+        QApplication::setActiveWindow(nullptr);
+
+        firstStep.title = u"Told"_s;
+        run(*m_jobs, JobOutcome::Failed, firstStep); // a step that fails is the end of its run
+        QTRY_COMPARE(m_server.shown.size(), 1);
+        QCOMPARE(m_server.shown.constFirst().summary, qtTrId("Notice.Failed").arg(u"Told"_s));
+    }
+
+    void onlyTheServersClickCounts()
+    {
+        QSignalSpy wanted(m_notifier.get(), &Notifier::pageWanted);
+        const auto click = [this](const QString &token) {
+            Q_EMIT m_server.ActivationToken(1, token);
+            Q_EMIT m_server.ActionInvoked(1, u"default"_s);
+        };
+        run(*m_jobs, JobOutcome::Succeeded);
+        QTRY_COMPARE(m_server.shown.size(), 1);
+        QTRY_VERIFY([&] { // the notifier may not have its answer yet
+            click(u"first"_s);
+            QTest::qWait(10);
+            return !wanted.isEmpty();
+        }());
+        const auto forge = [](const QString &signal, const QString &text) {
+            QDBusMessage forged = QDBusMessage::createSignal(objectPath, service, signal);
+            forged << 1U << text;
+            QDBusConnection stranger(u"stranger"_s);
+            stranger.send(forged);
+            // Answered only when the bus has passed on what came before.
+            stranger.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
+                                                         u"org.freedesktop.DBus"_s, u"GetId"_s));
+        };
+        forge(u"ActionInvoked"_s, u"default"_s);
+        forge(u"ActivationToken"_s, u"forged"_s);
+        forge(u"ActionInvoked"_s, u"default"_s);
+        Q_EMIT m_server.ActionInvoked(7, u"default"_s); // another program's notification
+        click(u"last"_s);
+        QTRY_COMPARE(wanted.constLast(), (QVariantList{u"ZIPViewController"_s, u"last"_s}));
+        for (const QVariantList &arguments : std::as_const(wanted))
+            QVERIFY(QStringList({u"first"_s, u"last"_s}).contains(arguments.at(1).toString()));
+
+        const qsizetype clicks = wanted.size();
+        Q_EMIT m_server.NotificationClosed(1, 2);
+        click(u"late"_s);
+        run(*m_jobs, JobOutcome::Succeeded);
+        QTRY_COMPARE(m_server.shown.size(), 2);
+        QCOMPARE(wanted.size(), clicks);
+    }
+
+    void aClickBringsTheWindowAndThePage()
+    {
+        Application application;
+        application.start();
+        application.window().showMinimized();
+        QApplication::setActiveWindow(nullptr);
+        m_notifier.reset();
+        run(application.jobs(), JobOutcome::Succeeded);
+        QTRY_COMPARE(m_server.shown.size(), 1);
+        QTRY_VERIFY([&] {
+            Q_EMIT m_server.ActionInvoked(1, u"show"_s);
+            QTest::qWait(10);
+            const QWidget *page = application.delegate().container->contentView();
+            return page->objectName() == u"ZIPViewController"_s;
+        }());
+        QVERIFY(!application.window().isMinimized());
+        QVERIFY(application.window().isActiveWindow());
+    }
+
+    void aWindowThatIsClosedStaysClosed()
+    {
+        Application application;
+        application.start();
+        QApplication::setActiveWindow(nullptr);
+        m_notifier.reset();
+        run(application.jobs(), JobOutcome::Succeeded);
+        QTRY_COMPARE(m_server.shown.size(), 1);
+        QTest::qWait(50); // until the answer with the number is there
+        application.window().hide();
+        Q_EMIT m_server.ActionInvoked(1, u"show"_s);
+        QTest::qWait(100);
+        QVERIFY(!application.window().isVisible());
+    }
+
+    void silentWithoutAServer()
+    {
+        QVERIFY(bus().unregisterService(service));
+        QTest::failOnWarning(QRegularExpression(u"."_s));
+        run(*m_jobs, JobOutcome::Failed);
+        QTest::qWait(50);
+        QVERIFY(bus().registerService(service));
+        run(*m_jobs, JobOutcome::Failed); // one that comes later is found
+        QTRY_COMPARE(m_server.shown.size(), 1);
+    }
 
 private:
     void run(JobList &jobs, JobOutcome outcome, const JobDescription &job = zipOfLetters)
@@ -88,175 +262,6 @@ private:
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<Notifier> m_notifier;
 };
-
-void NotifierTest::initTestCase()
-{
-    m_daemon.start(u"dbus-daemon"_s,
-                   {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
-                    u"--address=unix:dir="_s + m_folder.path()});
-    QVERIFY(m_daemon.waitForReadyRead(10000));
-    const QByteArray address = m_daemon.readLine().trimmed();
-    qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-    for (const QString &name : {u"server"_s, u"stranger"_s})
-        QVERIFY(QDBusConnection::connectToBus(QString::fromUtf8(address), name).isConnected());
-    QVERIFY(bus().registerObject(objectPath, &m_server, QDBusConnection::ExportAllContents));
-    Application::prepare();
-}
-
-void NotifierTest::cleanupTestCase()
-{
-    for (const QString &name : {u"server"_s, u"stranger"_s})
-        QDBusConnection::disconnectFromBus(name);
-    m_daemon.terminate();
-    m_daemon.waitForFinished();
-}
-
-void NotifierTest::init()
-{
-    QVERIFY(bus().registerService(service));
-    m_server.shown.clear();
-    m_server.capabilities = {u"body"_s, u"actions"_s};
-    m_jobs = std::make_unique<JobList>();
-    m_window = std::make_unique<QWidget>();
-    m_window->show();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    QApplication::setActiveWindow(nullptr);
-    m_notifier = std::make_unique<Notifier>(*m_jobs, *m_window);
-}
-
-void NotifierTest::cleanup()
-{
-    m_notifier.reset();
-    m_window.reset();
-    m_jobs.reset();
-}
-
-void NotifierTest::tellsHowARunEnded_data()
-{
-    QTest::addColumn<JobOutcome>("outcome");
-    QTest::addColumn<QStringList>("capabilities");
-    QTest::addColumn<QString>("summary"); // key of the text
-    QTest::addColumn<QString>("body");
-    QTest::addColumn<int>("actions");
-    const QStringList plain{u"body"_s};
-    const QStringList rich{u"actions"_s, u"body"_s, u"body-markup"_s};
-    const QString escaped = u"/home/a &lt;b&gt;&amp;amp;"_s;
-    QTest::newRow("succeeded") << JobOutcome::Succeeded << plain << u"Notice.Succeeded"_s
-                               << zipOfLetters.subject << 0;
-    QTest::newRow("failed") << JobOutcome::Failed << rich << u"Notice.Failed"_s << escaped << 4;
-    QTest::newRow("stopped") << JobOutcome::Stopped << rich << u"Notice.Stopped"_s << escaped << 4;
-}
-
-void NotifierTest::tellsHowARunEnded()
-{
-    QFETCH(JobOutcome, outcome);
-    QFETCH(QStringList, capabilities);
-    m_server.capabilities = capabilities;
-    run(*m_jobs, outcome);
-    QTRY_COMPARE(m_server.shown.size(), 1);
-    const auto &notification = m_server.shown.constFirst();
-    QCOMPARE(notification.application, u"Toolvane"_s);
-    QCOMPARE(notification.hints.value(u"desktop-entry"_s), u"toolvane"_s);
-    QFETCH(QString, summary);
-    QCOMPARE(notification.summary, qtTrId(summary.toUtf8().constData()).arg(u"Zip"_s));
-    QVERIFY(notification.summary.contains(u"Zip"_s));
-    QTEST(notification.body, "body");
-    QTEST(static_cast<int>(notification.actions.size()), "actions");
-    QCOMPARE(notification.actions.value(0),
-             capabilities.contains(u"actions"_s) ? u"default"_s : QString());
-}
-
-void NotifierTest::tellsNothingThatTheUserKnows()
-{
-    JobDescription firstStep = zipOfLetters;
-    firstStep.successIsNews = false;
-    run(*m_jobs, JobOutcome::Succeeded, firstStep);
-    Job stopped;
-    stopped = m_jobs->begin(zipOfLetters, [&] { stopped.end(JobOutcome::Stopped); });
-    m_jobs->stopAll();
-    QApplication::setActiveWindow(m_window.get());
-    run(*m_jobs, JobOutcome::Failed);
-    QApplication::setActiveWindow(nullptr);
-    m_window->hide(); // as when the program is quit and ends its runs
-    run(*m_jobs, JobOutcome::Stopped);
-    m_window->show();
-    QApplication::setActiveWindow(nullptr);
-
-    firstStep.title = u"Told"_s;
-    run(*m_jobs, JobOutcome::Failed, firstStep); // a step that fails is the end of its run
-    QTRY_COMPARE(m_server.shown.size(), 1);
-    QCOMPARE(m_server.shown.constFirst().summary, qtTrId("Notice.Failed").arg(u"Told"_s));
-}
-
-void NotifierTest::onlyTheServersClickCounts()
-{
-    QSignalSpy wanted(m_notifier.get(), &Notifier::pageWanted);
-    const auto click = [this](const QString &token) {
-        Q_EMIT m_server.ActivationToken(1, token);
-        Q_EMIT m_server.ActionInvoked(1, u"default"_s);
-    };
-    run(*m_jobs, JobOutcome::Succeeded);
-    QTRY_COMPARE(m_server.shown.size(), 1);
-    QTRY_VERIFY([&] { // the notifier may not have its answer yet
-        click(u"first"_s);
-        QTest::qWait(10);
-        return !wanted.isEmpty();
-    }());
-    const auto forge = [](const QString &signal, const QString &text) {
-        QDBusMessage forged = QDBusMessage::createSignal(objectPath, service, signal);
-        forged << 1U << text;
-        QDBusConnection stranger(u"stranger"_s);
-        stranger.send(forged);
-        // Answered only when the bus has passed on what came before.
-        stranger.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
-                                                     u"org.freedesktop.DBus"_s, u"GetId"_s));
-    };
-    forge(u"ActionInvoked"_s, u"default"_s);
-    forge(u"ActivationToken"_s, u"forged"_s);
-    forge(u"ActionInvoked"_s, u"default"_s);
-    Q_EMIT m_server.ActionInvoked(7, u"default"_s); // another program's notification
-    click(u"last"_s);
-    QTRY_COMPARE(wanted.constLast(), (QVariantList{u"ZIPViewController"_s, u"last"_s}));
-    for (const QVariantList &arguments : std::as_const(wanted))
-        QVERIFY(QStringList({u"first"_s, u"last"_s}).contains(arguments.at(1).toString()));
-
-    const qsizetype clicks = wanted.size();
-    Q_EMIT m_server.NotificationClosed(1, 2);
-    click(u"late"_s);
-    run(*m_jobs, JobOutcome::Succeeded);
-    QTRY_COMPARE(m_server.shown.size(), 2);
-    QCOMPARE(wanted.size(), clicks);
-}
-
-void NotifierTest::aClickBringsTheWindowAndThePage()
-{
-    Application application;
-    application.start();
-    application.window().showMinimized();
-    QApplication::setActiveWindow(nullptr);
-    m_notifier.reset();
-    run(application.jobs(), JobOutcome::Succeeded);
-    QTRY_COMPARE(m_server.shown.size(), 1);
-    QTRY_VERIFY([&] {
-        Q_EMIT m_server.ActionInvoked(1, u"show"_s);
-        QTest::qWait(10);
-        const QWidget *page = application.delegate().container->contentView();
-        return page->objectName() == u"ZIPViewController"_s;
-    }());
-    QVERIFY(!application.window().isMinimized());
-    QVERIFY(application.window().isActiveWindow());
-}
-
-void NotifierTest::silentWithoutAServer()
-{
-    QVERIFY(bus().unregisterService(service));
-    QTest::failOnWarning(QRegularExpression(u"."_s));
-    run(*m_jobs, JobOutcome::Failed);
-    QTest::qWait(50);
-    QVERIFY(bus().registerService(service));
-    run(*m_jobs, JobOutcome::Failed); // one that comes later is found
-    QTRY_COMPARE(m_server.shown.size(), 1);
-}
 
 QTEST_MAIN(NotifierTest)
 #include "tst_notifier.moc"

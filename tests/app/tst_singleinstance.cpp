@@ -89,135 +89,128 @@ private Q_SLOTS:
         Application::prepare();
     }
     void cleanup() { QCOMPARE(runtimeFolder().entryList({u"*.socket"_s}, QDir::System).size(), 0); }
-    void secondStartOpensItsPageInTheFirst();
-    void hearsOnlyWhatIsWellFormed();
-    void standsAloneWithoutAFolderOfTheUser_data();
-    void standsAloneWithoutAFolderOfTheUser();
-    void takesThePlaceOfOneThatEnds();
-    void aKilledFirstIsReplaced();
-    void aHungFirstIsLeftAlone();
+    void secondStartOpensItsPageInTheFirst()
+    {
+        SingleInstance first;
+        QVERIFY(!first.passOn({}));
+        QCOMPARE(QFile::permissions(socketPath()) & ~(QFile::ReadUser | QFile::WriteUser),
+                 QFile::ReadOwner | QFile::WriteOwner);
+        Application application;
+        QString token;
+        application.start(u"iso"_s);
+        application.window().showMinimized();
+        first.serve([&](const StartRequest &request) {
+            token = request.activationToken;
+            return application.open(request);
+        });
+        QCOMPARE(ending(*start({u"unzip"_s}, u"the token"_s)), 0);
+        QCOMPARE(application.window().tableView().currentIndex().row(), 4);
+        QVERIFY(!application.window().isMinimized());
+        QCOMPARE(token, u"the token"_s);
+        QCOMPARE(ending(*start({}, QString(4000, u't'))), 0); // the page stays
+        QCOMPARE(application.window().tableView().currentIndex().row(), 4);
+        QCOMPARE(token, QString());
+    }
+
+    void hearsOnlyWhatIsWellFormed()
+    {
+        SingleInstance first;
+        QVERIFY(!first.passOn({}));
+        Application application;
+        application.start(u"zip"_s);
+        first.serve([&](const StartRequest &request) { return application.open(request); });
+        const QByteArray mark("toolvane-start-1\0", 17);
+        QVERIFY(!isAnswered("unzip"));
+        QVERIFY(!isAnswered(mark + "unzip"));
+        QVERIFY(!isAnswered(mark + QByteArray("unzip\0a\0b\0", 10)));
+        QVERIFY(!isAnswered(mark + "unzip" + QByteArray(100'000, '\0')));
+        QVERIFY(
+            isAnswered(mark + QByteArray("../none\0\0", 9))); // heard, but there is no such page
+        QCOMPARE(application.window().tableView().currentIndex().row(), 3);
+        QVERIFY(isAnswered(mark + QByteArray("unzip\0\0", 7)));
+        QCOMPARE(application.window().tableView().currentIndex().row(), 4);
+    }
+
+    void standsAloneWithoutAFolderOfTheUser_data()
+    {
+        QTest::addColumn<QString>("folder"); // below the real one
+        QTest::newRow("missing") << u"/none"_s;
+        QTest::newRow("open to others") << u"/open"_s;
+        QTest::newRow("too long for a socket") << u'/' + QString(90, u'x');
+    }
+
+    void standsAloneWithoutAFolderOfTheUser()
+    {
+        QFETCH(QString, folder);
+        const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+        const QString given = QString::fromLocal8Bit(before) + folder;
+        if (folder != "/none"_L1)
+            QVERIFY(QDir().mkpath(given));
+        const auto open =
+            folder == "/open"_L1 ? QFile::ReadGroup | QFile::ExeGroup : QFile::Permission();
+        QFile::setPermissions(given, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | open);
+        qputenv("XDG_RUNTIME_DIR", given.toLocal8Bit());
+        SingleInstance alone;
+        QVERIFY(!alone.passOn({}));
+        alone.serve([](const StartRequest &) { return true; });
+        QCOMPARE(socketPath(), QString());
+        qputenv("XDG_RUNTIME_DIR", before);
+    }
+
+    void takesThePlaceOfOneThatEnds()
+    {
+        SingleInstance first;
+        QVERIFY(!first.passOn({}));
+        Application application; // its window is not shown any more
+        bool isAsked = false;
+        first.serve([&](const StartRequest &request) {
+            isAsked = true;
+            return application.open(request);
+        });
+        const Program next = start({u"zip"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(isAsked, 20000);
+        QCOMPARE(ending(*start({})), 0); // the next one hears it
+        QCOMPARE(next->state(), QProcess::Running);
+        next->terminate();
+        QVERIFY(next->waitForFinished());
+        QFile::remove(socketPath());
+    }
+
+    void aKilledFirstIsReplaced()
+    {
+        const Program first = start({u"zip"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(!socketPath().isEmpty(), 20000);
+        QCOMPARE(ending(*start({})), 0);
+        first->kill();
+        QVERIFY(first->waitForFinished());
+        QVERIFY(!socketPath().isEmpty()); // it could not tidy up
+        SingleInstance next;
+        QVERIFY(!next.passOn({}));
+        bool isHeard = false;
+        next.serve([&](const StartRequest &) { return isHeard = true; });
+        QCOMPARE(ending(*start({})), 0);
+        QVERIFY(isHeard);
+    }
+
+    void aHungFirstIsLeftAlone()
+    {
+        const Program first = start({u"zip"_s});
+        QTRY_VERIFY_WITH_TIMEOUT(!socketPath().isEmpty(), 20000);
+        QCOMPARE(ending(*start({})), 0); // it serves
+        ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
+        SingleInstance next;
+        QElapsedTimer clock;
+        clock.start();
+        QVERIFY(!next.passOn({}));
+        QVERIFY2(clock.elapsed() < 6000, qPrintable(QString::number(clock.elapsed())));
+        next.serve([](const StartRequest &) { return true; }); // of which nobody knows
+        ::kill(static_cast<pid_t>(first->processId()), SIGCONT);
+        QCOMPARE(ending(*start({})), 0);
+        first->kill();
+        QVERIFY(first->waitForFinished());
+        QFile::remove(socketPath());
+    }
 };
-
-void tst_SingleInstance::secondStartOpensItsPageInTheFirst()
-{
-    SingleInstance first;
-    QVERIFY(!first.passOn({}));
-    QCOMPARE(QFile::permissions(socketPath()) & ~(QFile::ReadUser | QFile::WriteUser),
-             QFile::ReadOwner | QFile::WriteOwner);
-    Application application;
-    QString token;
-    application.start(u"iso"_s);
-    application.window().showMinimized();
-    first.serve([&](const StartRequest &request) {
-        token = request.activationToken;
-        return application.open(request);
-    });
-    QCOMPARE(ending(*start({u"unzip"_s}, u"the token"_s)), 0);
-    QCOMPARE(application.window().tableView().currentIndex().row(), 4);
-    QVERIFY(!application.window().isMinimized());
-    QCOMPARE(token, u"the token"_s);
-    QCOMPARE(ending(*start({}, QString(4000, u't'))), 0); // the page stays
-    QCOMPARE(application.window().tableView().currentIndex().row(), 4);
-    QCOMPARE(token, QString());
-}
-
-void tst_SingleInstance::hearsOnlyWhatIsWellFormed()
-{
-    SingleInstance first;
-    QVERIFY(!first.passOn({}));
-    Application application;
-    application.start(u"zip"_s);
-    first.serve([&](const StartRequest &request) { return application.open(request); });
-    const QByteArray mark("toolvane-start-1\0", 17);
-    QVERIFY(!isAnswered("unzip"));
-    QVERIFY(!isAnswered(mark + "unzip"));
-    QVERIFY(!isAnswered(mark + QByteArray("unzip\0a\0b\0", 10)));
-    QVERIFY(!isAnswered(mark + "unzip" + QByteArray(100'000, '\0')));
-    QVERIFY(isAnswered(mark + QByteArray("../none\0\0", 9))); // heard, but there is no such page
-    QCOMPARE(application.window().tableView().currentIndex().row(), 3);
-    QVERIFY(isAnswered(mark + QByteArray("unzip\0\0", 7)));
-    QCOMPARE(application.window().tableView().currentIndex().row(), 4);
-}
-
-void tst_SingleInstance::standsAloneWithoutAFolderOfTheUser_data()
-{
-    QTest::addColumn<QString>("folder"); // below the real one
-    QTest::newRow("missing") << u"/none"_s;
-    QTest::newRow("open to others") << u"/open"_s;
-    QTest::newRow("too long for a socket") << u'/' + QString(90, u'x');
-}
-
-void tst_SingleInstance::standsAloneWithoutAFolderOfTheUser()
-{
-    QFETCH(QString, folder);
-    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
-    const QString given = QString::fromLocal8Bit(before) + folder;
-    if (folder != "/none"_L1)
-        QVERIFY(QDir().mkpath(given));
-    const auto open =
-        folder == "/open"_L1 ? QFile::ReadGroup | QFile::ExeGroup : QFile::Permission();
-    QFile::setPermissions(given, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | open);
-    qputenv("XDG_RUNTIME_DIR", given.toLocal8Bit());
-    SingleInstance alone;
-    QVERIFY(!alone.passOn({}));
-    alone.serve([](const StartRequest &) { return true; });
-    QCOMPARE(socketPath(), QString());
-    qputenv("XDG_RUNTIME_DIR", before);
-}
-
-void tst_SingleInstance::takesThePlaceOfOneThatEnds()
-{
-    SingleInstance first;
-    QVERIFY(!first.passOn({}));
-    Application application; // its window is not shown any more
-    bool isAsked = false;
-    first.serve([&](const StartRequest &request) {
-        isAsked = true;
-        return application.open(request);
-    });
-    const Program next = start({u"zip"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(isAsked, 20000);
-    QCOMPARE(ending(*start({})), 0); // the next one hears it
-    QCOMPARE(next->state(), QProcess::Running);
-    next->terminate();
-    QVERIFY(next->waitForFinished());
-    QFile::remove(socketPath());
-}
-
-void tst_SingleInstance::aKilledFirstIsReplaced()
-{
-    const Program first = start({u"zip"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(!socketPath().isEmpty(), 20000);
-    QCOMPARE(ending(*start({})), 0);
-    first->kill();
-    QVERIFY(first->waitForFinished());
-    QVERIFY(!socketPath().isEmpty()); // it could not tidy up
-    SingleInstance next;
-    QVERIFY(!next.passOn({}));
-    bool isHeard = false;
-    next.serve([&](const StartRequest &) { return isHeard = true; });
-    QCOMPARE(ending(*start({})), 0);
-    QVERIFY(isHeard);
-}
-
-void tst_SingleInstance::aHungFirstIsLeftAlone()
-{
-    const Program first = start({u"zip"_s});
-    QTRY_VERIFY_WITH_TIMEOUT(!socketPath().isEmpty(), 20000);
-    QCOMPARE(ending(*start({})), 0); // it serves
-    ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
-    SingleInstance next;
-    QElapsedTimer clock;
-    clock.start();
-    QVERIFY(!next.passOn({}));
-    QVERIFY2(clock.elapsed() < 6000, qPrintable(QString::number(clock.elapsed())));
-    next.serve([](const StartRequest &) { return true; }); // of which nobody knows
-    ::kill(static_cast<pid_t>(first->processId()), SIGCONT);
-    QCOMPARE(ending(*start({})), 0);
-    first->kill();
-    QVERIFY(first->waitForFinished());
-    QFile::remove(socketPath());
-}
 
 QTEST_MAIN(tst_SingleInstance)
 #include "tst_singleinstance.moc"

@@ -111,16 +111,16 @@ QCoro::Task<> AVConvertViewController::convertAction()
     const CommandResult result = co_await m_runner.run(command, job());
     if (!self)
         co_return;
-    if (result.succeeded()) {
+    if (result.succeeded())
         clear();
-        ui->showInFolderButton->offer(output);
-    }
     MiscTool::showAlert(qtTrId(result.succeeded() ? "Convert is completed." : "Convert is failed."),
                         QString());
     if (!self)
         co_return;
     setStatus(true);
     showProgress(false);
+    if (result.succeeded())
+        ui->showInFolderButton->offer(output); // where the progress was
 }
 
 void AVConvertViewController::showProgress(bool shown)

@@ -13,7 +13,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
@@ -87,11 +86,9 @@ QStringList unreadable(const QString &where, QWidget &window)
 {
     const QImage picture = window.grab().toImage();
     QStringList found;
-    auto widgets = window.findChildren<QWidget *>();
-    widgets += &window;
-    for (const QWidget *widget : std::as_const(widgets)) {
-        if (!widget->isVisible() || !widget->isEnabled() || widget->window() != &window
-            || widget->visibleRegion().isEmpty())
+    const QList<QWidget *> widgets = Scenes::shownIn(window) + QList<QWidget *>{&window};
+    for (const QWidget *widget : widgets) {
+        if (!widget->isEnabled() || widget->visibleRegion().isEmpty())
             continue;
         const QRect seen = widget->visibleRegion().boundingRect();
         for (const QRect &place : textPlaces(*widget)) {
@@ -100,9 +97,7 @@ QStringList unreadable(const QString &where, QWidget &window)
             const double ratio =
                 strongestContrast(picture, place.translated(widget->mapTo(&window, QPoint())));
             if (ratio < Contrast::readable)
-                found += where
-                    + u": %1 %2 has %3"_s.arg(QLatin1String(widget->metaObject()->className()),
-                                              widget->objectName(), QString::number(ratio));
+                found += where + u": "_s + Scenes::described(*widget) + QString::number(ratio);
         }
     }
     return found;
@@ -115,61 +110,49 @@ class TestContrast : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void everyTextCanBeRead_data();
-    void everyTextCanBeRead();
-    void theMeasureIsRight();
-};
+    void initTestCase() { Scenes::prepare(); }
 
-void TestContrast::initTestCase()
-{
-    QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
-    Application::prepare();
-    Theme::install();
-}
-
-void TestContrast::everyTextCanBeRead_data()
-{
-    QTest::addColumn<Theme::Scheme>("scheme");
-    QTest::newRow("light") << Theme::Scheme::Light;
-    QTest::newRow("dark") << Theme::Scheme::Dark;
-}
-
-void TestContrast::everyTextCanBeRead()
-{
-    QFETCH(Theme::Scheme, scheme);
-    Theme::apply(scheme);
-    Application application;
-    application.start();
-    HoverTableView &sidebar = application.window().tableView();
-    sidebar.rowView(2)->setMouseInside(true);
-    QStringList found;
-    Scenes::visit(application, [&](const QString &scene, QWidget &window) {
-        found += unreadable(scene, window);
-    });
-    auto *menu = application.window().findChild<QMenu *>(u"toolsMenu"_s);
-    menu->popup(QPoint(0, 0));
-    menu->setActiveAction(menu->actions().constFirst());
-    found += unreadable(u"menu"_s, *menu);
-    menu->hide();
-    QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
-}
-
-// A measure that finds everything readable would prove nothing.
-void TestContrast::theMeasureIsRight()
-{
-    QWidget window;
-    QLabel label(u"Readable or not"_s, &window);
-    QPalette palette(Qt::black, Qt::white);
-    for (const auto &[text, isReadable] :
-         {std::pair(QColor(0x76, 0x76, 0x76), true), std::pair(QColor(0x90, 0x90, 0x90), false)}) {
-        palette.setColor(QPalette::Window, Qt::white);
-        palette.setColor(QPalette::WindowText, text);
-        window.setPalette(palette);
-        window.show();
-        QCOMPARE(unreadable(u"here"_s, window).isEmpty(), isReadable);
+    void everyTextCanBeRead_data()
+    {
+        QTest::addColumn<Theme::Scheme>("scheme");
+        QTest::newRow("light") << Theme::Scheme::Light;
+        QTest::newRow("dark") << Theme::Scheme::Dark;
     }
-}
+
+    void everyTextCanBeRead()
+    {
+        QFETCH(Theme::Scheme, scheme);
+        Theme::apply(scheme);
+        Application application;
+        application.start();
+        application.window().tableView().rowView(2)->setMouseInside(true);
+        QStringList found;
+        Scenes::visit(application, [&](const QString &scene, QWidget &window) {
+            found += unreadable(scene, window);
+        });
+        auto *menu = application.window().findChild<QMenu *>(u"toolsMenu"_s);
+        menu->popup(QPoint(0, 0));
+        menu->setActiveAction(menu->actions().constFirst());
+        found += unreadable(u"menu"_s, *menu);
+        menu->hide();
+        QVERIFY2(found.isEmpty(), qPrintable(found.join(u'\n')));
+    }
+
+    // A measure that finds everything readable would prove nothing.
+    void theMeasureIsRight()
+    {
+        QWidget window;
+        QLabel label(u"Readable or not"_s, &window);
+        for (const auto &[text, isReadable] : {std::pair(QColor(0x76, 0x76, 0x76), true),
+                                               std::pair(QColor(0x90, 0x90, 0x90), false)}) {
+            QPalette palette(Qt::black, Qt::white);
+            palette.setColor(QPalette::WindowText, text);
+            window.setPalette(palette);
+            window.show();
+            QCOMPARE(unreadable(u"here"_s, window).isEmpty(), isReadable);
+        }
+    }
+};
 
 QTEST_MAIN(TestContrast)
 #include "tst_contrast.moc"

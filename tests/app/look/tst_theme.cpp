@@ -1,11 +1,20 @@
-// Proves that every text can be read in both schemes and that open windows follow a change.
+// Proves that every colour of the theme can be read in both schemes, that open windows follow a
+// change, and that the style's controls line up, show what matters and rest when nothing moves.
 
 #include "Contrast.h"
 #include "HintLabel.h"
-#include "PageTitle.h"
 #include "Theme.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPainter>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScrollBar>
+#include <QStyleOption>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -20,28 +29,40 @@ class HoverTableView : public QWidget
 namespace
 {
 
+// Counts how often it is painted.
+class Bar : public QProgressBar
+{
+public:
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *event) override
+    {
+        ++paints;
+        QProgressBar::paintEvent(event);
+    }
+};
+
+QColor middleLeft(QWidget &widget, int fromLeft)
+{
+    return widget.grab().toImage().pixelColor(fromLeft, widget.height() / 2);
+}
+
 using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
 
-const QList<Pair> textsOnGrounds{
-    {QPalette::WindowText, QPalette::Window},
-    {QPalette::WindowText, QPalette::Light},
-    {QPalette::Text, QPalette::Base},
-    {QPalette::Text, QPalette::AlternateBase},
-    {QPalette::ButtonText, QPalette::Button},
-    {QPalette::HighlightedText, QPalette::Highlight},
-    {QPalette::PlaceholderText, QPalette::Base},
-    {QPalette::PlaceholderText, QPalette::Window},
-    {QPalette::PlaceholderText, QPalette::Light},
-    {QPalette::ToolTipText, QPalette::ToolTipBase},
-    {QPalette::Link, QPalette::Window},
-    {QPalette::Link, QPalette::Base},
-    {QPalette::Link, QPalette::Light},
-    {QPalette::LinkVisited, QPalette::Window},
-    {QPalette::LinkVisited, QPalette::Base},
-    {QPalette::LinkVisited, QPalette::Light},
-    {QPalette::BrightText, QPalette::Window},
-    {QPalette::BrightText, QPalette::Light},
-};
+const QList<Pair> textsOnGrounds = [] {
+    QList<Pair> pairs{
+        {QPalette::ButtonText, QPalette::Button},  {QPalette::HighlightedText, QPalette::Highlight},
+        {QPalette::Text, QPalette::AlternateBase}, {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::Text, QPalette::Base},          {QPalette::PlaceholderText, QPalette::Base},
+        {QPalette::Link, QPalette::Base},          {QPalette::LinkVisited, QPalette::Base},
+    };
+    for (const auto ground : {QPalette::Window, QPalette::Light})
+        for (const auto text : {QPalette::WindowText, QPalette::PlaceholderText, QPalette::Link,
+                                QPalette::LinkVisited, QPalette::BrightText})
+            pairs.append({text, ground});
+    return pairs;
+}();
 
 void verifyReadable(const QPalette &palette, const QList<Pair> &pairs)
 {
@@ -62,62 +83,38 @@ class TestTheme : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { Theme::install(); }
-    void init() { Theme::apply(Scheme::Light); }
-
-    void schemes_data()
+    void initTestCase()
     {
-        QTest::addColumn<Scheme>("scheme");
-        QTest::addRow("light") << Scheme::Light;
-        QTest::addRow("dark") << Scheme::Dark;
+        Theme::install();
+        m_font = QApplication::font();
+    }
+    void cleanup()
+    {
+        QApplication::setFont(m_font);
+        Theme::apply(Scheme::Light);
     }
 
-    void textsCanBeRead_data() { schemes_data(); }
-    void textsCanBeRead()
+    void everyTextCanBeRead()
     {
-        QFETCH(Scheme, scheme);
-        verifyReadable(Theme::palette(scheme), textsOnGrounds);
-    }
-
-    void sidebarTextsCanBeReadOnEveryRow_data() { schemes_data(); }
-    void sidebarTextsCanBeReadOnEveryRow()
-    {
-        QFETCH(Scheme, scheme);
-        const QPalette sidebar = Theme::sidebarPalette(scheme);
-        verifyReadable(sidebar,
-                       {{QPalette::WindowText, QPalette::Window},
-                        {QPalette::Text, QPalette::Base},
-                        {QPalette::HighlightedText, QPalette::Window}});
-        const QColor selected = QColor::fromRgbF(0.82F, 0.82F, 0.82F);
-        const QColor text = sidebar.color(QPalette::WindowText);
-        QVERIFY(Contrast::ratio(text, selected) >= Contrast::readable);
-        QVERIFY(Contrast::ratio(text, Qt::white) >= Contrast::readable);
-        // What shows the pointer and the choice must differ from an idle row.
-        QVERIFY(Contrast::ratio(sidebar.color(QPalette::Highlight), sidebar.color(QPalette::Window))
+        for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+            verifyReadable(Theme::palette(scheme), textsOnGrounds);
+            QCOMPARE(Theme::schemeOf(Theme::palette(scheme)), scheme);
+            const QPalette sidebar = Theme::sidebarPalette(scheme);
+            verifyReadable(sidebar,
+                           {{QPalette::WindowText, QPalette::Window},
+                            {QPalette::Text, QPalette::Base},
+                            {QPalette::HighlightedText, QPalette::Window}});
+            const QColor selected = QColor::fromRgbF(0.82F, 0.82F, 0.82F);
+            const QColor text = sidebar.color(QPalette::WindowText);
+            QVERIFY(Contrast::ratio(text, selected) >= Contrast::readable);
+            QVERIFY(Contrast::ratio(text, Qt::white) >= Contrast::readable);
+            // What shows the pointer and the choice must differ from an idle row.
+            QVERIFY(
+                Contrast::ratio(sidebar.color(QPalette::Highlight), sidebar.color(QPalette::Window))
                 >= 3);
-        QVERIFY(Contrast::ratio(selected, sidebar.color(QPalette::Window)) >= 1.2);
-        QVERIFY(Contrast::ratio(Qt::white, sidebar.color(QPalette::Window)) >= 1.15);
-    }
-
-    void everyRoleIsSet_data() { schemes_data(); }
-    void everyRoleIsSet()
-    {
-        QFETCH(Scheme, scheme);
-        const QPalette palette = Theme::palette(scheme);
-        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-            for (int role = 0; role < QPalette::NColorRoles; ++role)
-                if (role != QPalette::NoRole)
-                    QVERIFY2(palette.isBrushSet(group, QPalette::ColorRole(role)),
-                             qPrintable(QString::number(role)));
-        QCOMPARE(Theme::schemeOf(palette), scheme);
-    }
-
-    void readsTheDesktopsScheme()
-    {
-        QCOMPARE(Theme::schemeOf(QPalette(Qt::black, Qt::white)), Scheme::Light);
-        QCOMPARE(Theme::schemeOf(QPalette(QColor(0xeeeeee), QColor(0x303030), Qt::white, Qt::black,
-                                          Qt::gray, QColor(0xeeeeee), QColor(0x303030))),
-                 Scheme::Dark);
+            QVERIFY(Contrast::ratio(selected, sidebar.color(QPalette::Window)) >= 1.2);
+            QVERIFY(Contrast::ratio(Qt::white, sidebar.color(QPalette::Window)) >= 1.15);
+        }
     }
 
     void openWindowsFollow()
@@ -143,12 +140,103 @@ private Q_SLOTS:
         }
     }
 
-    void titlesAreLargerThanTheDesktopsText()
+    void controlsOfARowAreOneHeight()
     {
-        PageTitle title;
-        title.ensurePolished();
-        QVERIFY(title.fontInfo().pixelSize() > QFontInfo(QApplication::font()).pixelSize() * 1.3);
+        for (const qreal scale : {1.0, 2.5}) {
+            QFont font = m_font;
+            font.setPointSizeF(font.pointSizeF() * scale);
+            QApplication::setFont(font);
+            const QLineEdit field;
+            const QPushButton button(u"Select"_s);
+            QComboBox popUp;
+            popUp.addItem(u"Normal"_s);
+            QCOMPARE(button.sizeHint().height(), field.sizeHint().height());
+            QCOMPARE(popUp.sizeHint().height(), field.sizeHint().height());
+            QVERIFY(field.sizeHint().height() >= QFontMetrics(font).height() + 8);
+            QVERIFY(button.sizeHint().width() >= QFontMetrics(font).horizontalAdvance(u"Select"_s));
+        }
     }
+
+    void aBoxHasItsTitleAboveItsCardAndIsNoCardInACard()
+    {
+        QGroupBox outer(u"Operation"_s);
+        auto *layout = new QHBoxLayout(&outer);
+        auto *inner = new QGroupBox(u"Used"_s);
+        layout->addWidget(inner);
+        auto *innerLayout = new QHBoxLayout(inner);
+        auto *field = new QLineEdit;
+        innerLayout->addWidget(field);
+        outer.ensurePolished();
+        outer.resize(outer.sizeHint().expandedTo({300, 0}));
+        layout->activate();
+        innerLayout->activate();
+        const QImage image = outer.grab().toImage();
+        const QColor card = Theme::palette(Theme::current()).color(QPalette::Light);
+        const QPoint corner = field->mapTo(&outer, QPoint());
+        QCOMPARE(corner.x(), 12);
+        QCOMPARE(image.pixelColor(150, corner.y() - 1), card);
+        QCOMPARE(image.pixelColor(150, inner->y() - 6), card);
+        QVERIFY(image.pixelColor(290, 3) != card);
+        QVERIFY(inner->y() - 12 >= outer.fontMetrics().height());
+    }
+
+    void oneButtonIsAccented()
+    {
+        const QColor accent = Theme::palette(Theme::current()).color(QPalette::Highlight);
+        QPushButton plain(u"Clear"_s);
+        QPushButton main(u"Zip"_s);
+        main.setDefault(true);
+        QCOMPARE(middleLeft(main, 6), accent);
+        QVERIFY(middleLeft(plain, 6) != accent);
+        main.setEnabled(false);
+        plain.setEnabled(false);
+        QCOMPARE(middleLeft(main, 6), middleLeft(plain, 6));
+    }
+
+    void scrollBarsReachBothEnds()
+    {
+        QScrollBar bar(Qt::Vertical);
+        bar.setRange(0, 100000);
+        bar.setPageStep(10);
+        bar.resize(12, 300);
+        const auto handle = [&bar](int value) {
+            QStyleOptionSlider option;
+            option.initFrom(&bar);
+            option.orientation = Qt::Vertical;
+            option.maximum = bar.maximum();
+            option.pageStep = bar.pageStep();
+            option.sliderPosition = value;
+            return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                               QStyle::SC_ScrollBarSlider, &bar);
+        };
+        QCOMPARE(handle(0).top(), 0);
+        QCOMPARE(handle(100000).bottom(), 299);
+        QVERIFY(handle(50000).height() >= 24);
+    }
+
+    void aBusyBarMovesUntilItIsHidden()
+    {
+        Bar bar;
+        bar.setRange(0, 0);
+        bar.resize(200, 20);
+        bar.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&bar));
+        QTRY_VERIFY(bar.paints >= 5);
+        bar.hide();
+        const int paints = bar.paints;
+        QTest::qWait(150);
+        QCOMPARE(bar.paints, paints);
+        bar.show();
+        QTRY_VERIFY(bar.paints >= paints + 5);
+        bar.setRange(0, 100); // a bar that shows an amount rests
+        QTest::qWait(100);
+        const int resting = bar.paints;
+        QTest::qWait(150);
+        QCOMPARE(bar.paints, resting);
+    }
+
+private:
+    QFont m_font;
 };
 
 QTEST_MAIN(TestTheme)

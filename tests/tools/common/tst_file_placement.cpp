@@ -29,20 +29,179 @@ class FilePlacementTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void sameFileSystem();
-    void otherFileSystem();
-    void standingTarget_data();
-    void standingTarget();
-    void sameFile();
-    void sourceIsNoFile();
-    void missingFolder();
-    void readOnlyFileSystem();
-    void fullDisk();
-    void stopped_data();
-    void stopped();
+    void initTestCase()
+    {
+        // Seen by this process and its threads only, gone with them.
+        m_mounted = unshare(CLONE_NEWNS) == 0
+            && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+        if (oldSystem && !pretendOldSystem())
+            QSKIP("this kernel lets no process restrict itself");
+        m_bytes = QByteArray(300'000, 'z') + QByteArray("\0end", 4);
+    }
+
+    void init()
+    {
+        m_here = std::make_unique<QTemporaryDir>();
+        m_elsewhere = std::make_unique<QTemporaryDir>(m_mounted ? u"/tmp/toolvane-XXXXXX"_s
+                                                                : u"/dev/shm/toolvane-XXXXXX"_s);
+        const QByteArray folder = QFile::encodeName(m_elsewhere->path());
+        if (m_mounted)
+            QCOMPARE(mount("tmpfs", folder.constData(), "tmpfs", 0, "size=1m"), 0);
+        write(source(), m_bytes);
+        QCOMPARE(chmod(QFile::encodeName(source()).constData(), 0640), 0);
+    }
+
+    void cleanup()
+    {
+        QVERIFY(m_here->isValid() && m_elsewhere->isValid());
+        if (m_mounted)
+            QCOMPARE(umount2(QFile::encodeName(m_elsewhere->path()).constData(), MNT_DETACH), 0);
+        m_elsewhere.reset();
+    }
+
+    void sameFileSystem()
+    {
+        const QString target = m_here->filePath(u"-a \n\U0001F600.zip"_s);
+        QCOMPARE(place(source(), target).end(), oldSystem ? End::Copied : End::Renamed);
+        QCOMPARE(content(target), m_bytes);
+        QCOMPARE(entries(m_here->path()).size(), 1);
+    }
+
+    void otherFileSystem()
+    {
+        struct stat before = {};
+        QCOMPARE(stat(QFile::encodeName(source()).constData(), &before), 0);
+        const QString target = m_elsewhere->filePath(QString(251, u'n') + u".zip"_s);
+        QCOMPARE(place(source(), target).end(), End::Copied);
+        QCOMPARE(content(target), m_bytes);
+        struct stat after = {};
+        QCOMPARE(stat(QFile::encodeName(target).constData(), &after), 0);
+        QCOMPARE(after.st_mode, before.st_mode);
+        QCOMPARE(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
+        QVERIFY(entries(m_here->path()).isEmpty());
+        QCOMPARE(entries(m_elsewhere->path()).size(), 1);
+    }
+
+    void standingTarget_data()
+    {
+        QTest::addColumn<bool>("elsewhere");
+        QTest::addColumn<QString>("kind");
+        for (const bool elsewhere : {false, true}) {
+            const char *where = elsewhere ? "elsewhere" : "here";
+            for (const char *kind : {"file", "folder", "dangling link"})
+                QTest::addRow("%s, %s", where, kind) << elsewhere << QString::fromLatin1(kind);
+        }
+    }
+
+    void standingTarget()
+    {
+        QFETCH(bool, elsewhere);
+        QFETCH(QString, kind);
+        const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
+        const QString target = folder + u"/standing"_s;
+        if (kind == u"file"_s)
+            write(target, "precious");
+        else if (kind == u"folder"_s)
+            QVERIFY(QDir().mkdir(target));
+        else
+            QVERIFY(QFile::link(u"/nonexistent/there"_s, target));
+        const FilePlacement placement = place(source(), target);
+        QCOMPARE(placement.end(), End::NotPlaced);
+        QCOMPARE(placement.error(), EEXIST);
+        QCOMPARE(entries(folder), QStringList{u"standing"_s}); // and the source is gone
+        if (kind == u"file"_s)
+            QCOMPARE(content(target), QByteArray("precious"));
+        QCOMPARE(QFileInfo(target).isSymLink(), kind == u"dangling link"_s);
+    }
+
+    // The output was chosen where the archive was made.
+    void sameFile()
+    {
+        const QString spelled =
+            m_here->path() + u"/../"_s + QFileInfo(m_here->path()).fileName() + u"//finished"_s;
+        QCOMPARE(place(source(), spelled).end(), End::AlreadyThere);
+        QCOMPARE(content(source()), m_bytes);
+        const QString otherLink = m_here->filePath(u"link"_s);
+        QCOMPARE(
+            link(QFile::encodeName(source()).constData(), QFile::encodeName(otherLink).constData()),
+            0);
+        QCOMPARE(place(source(), otherLink).end(), End::NotPlaced);
+        QCOMPARE(content(otherLink), m_bytes);
+    }
+
+    void sourceIsNoFile()
+    {
+        QVERIFY(QFile::remove(source()));
+        QCOMPARE(place(source(), m_here->filePath(u"a"_s)).error(), ENOENT);
+        QCOMPARE(place(source(), source()).error(), ENOENT);
+        QCOMPARE(mkfifo(QFile::encodeName(source()).constData(), 0600), 0); // would never end
+        QCOMPARE(place(source(), m_elsewhere->filePath(u"a"_s)).error(), EINVAL);
+        QVERIFY(entries(m_elsewhere->path()).isEmpty());
+    }
+
+    void missingFolder()
+    {
+        const FilePlacement placement = place(source(), u"/nonexistent/folder/a.zip"_s);
+        QCOMPARE(placement.end(), End::NotPlaced);
+        QCOMPARE(placement.error(), ENOENT);
+        QVERIFY(!placement.description().contains(u'\n'));
+        QVERIFY(entries(m_here->path()).isEmpty());
+    }
+
+    void readOnlyFileSystem()
+    {
+        if (!m_mounted)
+            QSKIP("mounting is not permitted here");
+        const QByteArray folder = QFile::encodeName(m_elsewhere->path());
+        QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
+        QCOMPARE(place(source(), m_elsewhere->filePath(u"a"_s)).error(), EROFS);
+        QVERIFY(entries(m_here->path()).isEmpty());
+    }
+
+    void fullDisk()
+    {
+        if (!m_mounted)
+            QSKIP("mounting is not permitted here");
+        write(m_elsewhere->filePath(u"filler"_s), QByteArray(900'000, 'f'));
+        const FilePlacement placement = place(source(), m_elsewhere->filePath(u"a"_s));
+        QCOMPARE(placement.error(), ENOSPC);
+        QCOMPARE(entries(m_elsewhere->path()), QStringList{u"filler"_s});
+        QVERIFY(entries(m_here->path()).isEmpty());
+    }
+
+    void stopped_data()
+    {
+        QTest::addColumn<bool>("elsewhere");
+        QTest::addColumn<int>("after"); // milliseconds
+        QTest::newRow("before it would be renamed") << false << 0;
+        QTest::newRow("before it is copied") << true << 0;
+        QTest::newRow("in the middle") << true << 10;
+    }
+
+    void stopped()
+    {
+        QFETCH(bool, elsewhere);
+        QFETCH(int, after);
+        if (after > 0) {
+            if (!m_mounted)
+                QSKIP("mounting is not permitted here");
+            const QByteArray folder = QFile::encodeName(m_elsewhere->path());
+            QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT, "size=512m"), 0);
+            QVERIFY(QFile::resize(source(), 510 << 20)); // far more than can be copied until then
+        }
+        const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
+        std::stop_source stop;
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not placed"_s));
+        if (after == 0)
+            stop.request_stop();
+        const auto future = placeFile(source(), folder + u"/a"_s, stop.get_token());
+        QTimer::singleShot(after, this, [stop]() mutable { stop.request_stop(); });
+        QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 60000);
+        QVERIFY(future.result().wasStopped());
+        QCOMPARE(future.result().error(), ECANCELED);
+        QVERIFY(entries(folder).isEmpty());
+        QVERIFY(!QFile::exists(source()));
+    }
 
 private:
     static FilePlacement place(const QString &from, const QString &to)
@@ -75,179 +234,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_elsewhere; // a small file system of its own, where permitted
     bool m_mounted = false;
 };
-
-void FilePlacementTest::initTestCase()
-{
-    // Seen by this process and its threads only, gone with them.
-    m_mounted =
-        unshare(CLONE_NEWNS) == 0 && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-    if (oldSystem && !pretendOldSystem())
-        QSKIP("this kernel lets no process restrict itself");
-    m_bytes = QByteArray(300'000, 'z') + QByteArray("\0end", 4);
-}
-
-void FilePlacementTest::init()
-{
-    m_here = std::make_unique<QTemporaryDir>();
-    m_elsewhere = std::make_unique<QTemporaryDir>(m_mounted ? u"/tmp/toolvane-XXXXXX"_s
-                                                            : u"/dev/shm/toolvane-XXXXXX"_s);
-    const QByteArray folder = QFile::encodeName(m_elsewhere->path());
-    if (m_mounted)
-        QCOMPARE(mount("tmpfs", folder.constData(), "tmpfs", 0, "size=1m"), 0);
-    write(source(), m_bytes);
-    QCOMPARE(chmod(QFile::encodeName(source()).constData(), 0640), 0);
-}
-
-void FilePlacementTest::cleanup()
-{
-    QVERIFY(m_here->isValid() && m_elsewhere->isValid());
-    if (m_mounted)
-        QCOMPARE(umount2(QFile::encodeName(m_elsewhere->path()).constData(), MNT_DETACH), 0);
-    m_elsewhere.reset();
-}
-
-void FilePlacementTest::sameFileSystem()
-{
-    const QString target = m_here->filePath(u"-a \n\U0001F600.zip"_s);
-    QCOMPARE(place(source(), target).end(), oldSystem ? End::Copied : End::Renamed);
-    QCOMPARE(content(target), m_bytes);
-    QCOMPARE(entries(m_here->path()).size(), 1);
-}
-
-void FilePlacementTest::otherFileSystem()
-{
-    struct stat before = {};
-    QCOMPARE(stat(QFile::encodeName(source()).constData(), &before), 0);
-    const QString target = m_elsewhere->filePath(QString(251, u'n') + u".zip"_s);
-    QCOMPARE(place(source(), target).end(), End::Copied);
-    QCOMPARE(content(target), m_bytes);
-    struct stat after = {};
-    QCOMPARE(stat(QFile::encodeName(target).constData(), &after), 0);
-    QCOMPARE(after.st_mode, before.st_mode);
-    QCOMPARE(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
-    QVERIFY(entries(m_here->path()).isEmpty());
-    QCOMPARE(entries(m_elsewhere->path()).size(), 1);
-}
-
-void FilePlacementTest::standingTarget_data()
-{
-    QTest::addColumn<bool>("elsewhere");
-    QTest::addColumn<QString>("kind");
-    for (const bool elsewhere : {false, true}) {
-        const char *where = elsewhere ? "elsewhere" : "here";
-        for (const char *kind : {"file", "folder", "dangling link"})
-            QTest::addRow("%s, %s", where, kind) << elsewhere << QString::fromLatin1(kind);
-    }
-}
-
-void FilePlacementTest::standingTarget()
-{
-    QFETCH(bool, elsewhere);
-    QFETCH(QString, kind);
-    const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
-    const QString target = folder + u"/standing"_s;
-    if (kind == u"file"_s)
-        write(target, "precious");
-    else if (kind == u"folder"_s)
-        QVERIFY(QDir().mkdir(target));
-    else
-        QVERIFY(QFile::link(u"/nonexistent/there"_s, target));
-    const FilePlacement placement = place(source(), target);
-    QCOMPARE(placement.end(), End::NotPlaced);
-    QCOMPARE(placement.error(), EEXIST);
-    QCOMPARE(entries(folder), QStringList{u"standing"_s}); // and the source is gone
-    if (kind == u"file"_s)
-        QCOMPARE(content(target), QByteArray("precious"));
-    QCOMPARE(QFileInfo(target).isSymLink(), kind == u"dangling link"_s);
-}
-
-// The output was chosen where the archive was made.
-void FilePlacementTest::sameFile()
-{
-    const QString spelled =
-        m_here->path() + u"/../"_s + QFileInfo(m_here->path()).fileName() + u"//finished"_s;
-    QCOMPARE(place(source(), spelled).end(), End::AlreadyThere);
-    QCOMPARE(content(source()), m_bytes);
-    const QString otherLink = m_here->filePath(u"link"_s);
-    QCOMPARE(
-        link(QFile::encodeName(source()).constData(), QFile::encodeName(otherLink).constData()), 0);
-    QCOMPARE(place(source(), otherLink).end(), End::NotPlaced);
-    QCOMPARE(content(otherLink), m_bytes);
-}
-
-void FilePlacementTest::sourceIsNoFile()
-{
-    QVERIFY(QFile::remove(source()));
-    QCOMPARE(place(source(), m_here->filePath(u"a"_s)).error(), ENOENT);
-    QCOMPARE(place(source(), source()).error(), ENOENT);
-    QCOMPARE(mkfifo(QFile::encodeName(source()).constData(), 0600), 0); // would never end
-    QCOMPARE(place(source(), m_elsewhere->filePath(u"a"_s)).error(), EINVAL);
-    QVERIFY(entries(m_elsewhere->path()).isEmpty());
-}
-
-void FilePlacementTest::missingFolder()
-{
-    const FilePlacement placement = place(source(), u"/nonexistent/folder/a.zip"_s);
-    QCOMPARE(placement.end(), End::NotPlaced);
-    QCOMPARE(placement.error(), ENOENT);
-    QVERIFY(!placement.description().contains(u'\n'));
-    QVERIFY(entries(m_here->path()).isEmpty());
-}
-
-void FilePlacementTest::readOnlyFileSystem()
-{
-    if (!m_mounted)
-        QSKIP("mounting is not permitted here");
-    const QByteArray folder = QFile::encodeName(m_elsewhere->path());
-    QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
-    QCOMPARE(place(source(), m_elsewhere->filePath(u"a"_s)).error(), EROFS);
-    QVERIFY(entries(m_here->path()).isEmpty());
-}
-
-void FilePlacementTest::fullDisk()
-{
-    if (!m_mounted)
-        QSKIP("mounting is not permitted here");
-    write(m_elsewhere->filePath(u"filler"_s), QByteArray(900'000, 'f'));
-    const FilePlacement placement = place(source(), m_elsewhere->filePath(u"a"_s));
-    QCOMPARE(placement.error(), ENOSPC);
-    QCOMPARE(entries(m_elsewhere->path()), QStringList{u"filler"_s});
-    QVERIFY(entries(m_here->path()).isEmpty());
-}
-
-void FilePlacementTest::stopped_data()
-{
-    QTest::addColumn<bool>("elsewhere");
-    QTest::addColumn<int>("after"); // milliseconds
-    QTest::newRow("before it would be renamed") << false << 0;
-    QTest::newRow("before it is copied") << true << 0;
-    QTest::newRow("in the middle") << true << 10;
-}
-
-void FilePlacementTest::stopped()
-{
-    QFETCH(bool, elsewhere);
-    QFETCH(int, after);
-    if (after > 0) {
-        if (!m_mounted)
-            QSKIP("mounting is not permitted here");
-        const QByteArray folder = QFile::encodeName(m_elsewhere->path());
-        QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT, "size=512m"), 0);
-        QVERIFY(QFile::resize(source(), 510 << 20)); // far more than can be copied until then
-    }
-    const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
-    std::stop_source stop;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not placed"_s));
-    if (after == 0)
-        stop.request_stop();
-    const auto future = placeFile(source(), folder + u"/a"_s, stop.get_token());
-    QTimer::singleShot(after, this, [stop]() mutable { stop.request_stop(); });
-    QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 60000);
-    QVERIFY(future.result().wasStopped());
-    QCOMPARE(future.result().error(), ECANCELED);
-    QVERIFY(entries(folder).isEmpty());
-    QVERIFY(!QFile::exists(source()));
-}
 
 QTEST_GUILESS_MAIN(FilePlacementTest)
 #include "tst_file_placement.moc"
