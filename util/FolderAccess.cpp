@@ -1,10 +1,12 @@
 #include "FolderAccess.h"
 
 #include <fcntl.h>
+#include <linux/magic.h>
 #include <linux/openat2.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/sysmacros.h>
+#include <sys/vfs.h>
 
 namespace
 {
@@ -54,4 +56,10 @@ std::optional<FolderAccess::Entry> FolderAccess::entry(int parent, const char *n
     if (::statx(parent, name, flags, STATX_SIZE | STATX_TYPE, &status) != 0)
         return std::nullopt;
     return Entry{.size = status.stx_size, .isFolder = S_ISDIR(status.stx_mode)};
+}
+
+bool FolderAccess::isOnDisk(int folder)
+{
+    struct statfs status = {};
+    return ::fstatfs(folder, &status) != 0 || status.f_type != TMPFS_MAGIC;
 }

@@ -40,4 +40,7 @@ struct Entry {
 /// Size and kind of what bears the name itself, as last known: a file server is not asked again.
 std::optional<Entry> entry(int parent, const char *name);
 
+/// Whether the folder's file system keeps its items on a disk, where their order matters.
+bool isOnDisk(int folder);
+
 } // namespace FolderAccess

@@ -39,7 +39,7 @@ private:
     void removeEntry(FolderDescent &descent, const FolderEntries::Entry &entry);
     void enterOrRemove(FolderDescent &descent, const char *name);
     bool removeItem(int parent, const char *name, int flags);
-    void sortPlaces();
+    void sortPlaces(int folder);
 
     const std::stop_token &m_stop;
     EmptyingTally m_tally;
@@ -72,7 +72,7 @@ void Emptier::removeEntries(FolderDescent &descent)
         m_entries.forEach([this](const FolderEntries::Entry &entry, std::size_t position) {
             m_places.push_back({.inode = entry.inode, .position = position});
         });
-        sortPlaces();
+        sortPlaces(descent.folder());
         for (const Place &place : m_places) {
             if (m_stop.stop_requested())
                 return;
@@ -81,9 +81,9 @@ void Emptier::removeEntries(FolderDescent &descent)
     } while (!m_entries.atEnd());
 }
 
-void Emptier::sortPlaces()
+void Emptier::sortPlaces(int folder)
 {
-    if (m_places.size() > manyEntries)
+    if (m_places.size() > manyEntries && FolderAccess::isOnDisk(folder))
         std::ranges::sort(m_places, {}, &Place::inode);
 }
 

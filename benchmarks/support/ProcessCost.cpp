@@ -3,6 +3,7 @@
 #include "Row.h"
 
 #include <fcntl.h>
+#include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -26,31 +27,25 @@ double secondsOf(const timeval &time)
     return double(time.tv_sec) + double(time.tv_usec) * 1e-6;
 }
 
-void beQuiet()
-{
-    const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
-    dup2(nowhere, STDOUT_FILENO);
-}
-
-void run(const std::vector<std::string> &command)
+// Without a copy of this process in between, whose pages would have to be copied meanwhile.
+pid_t start(const std::vector<std::string> &command)
 {
     std::vector<char *> arguments;
     for (const std::string &word : command)
         arguments.push_back(const_cast<char *>(word.c_str()));
     arguments.push_back(nullptr);
-    beQuiet();
-    execvp(arguments[0], arguments.data());
+    posix_spawn_file_actions_t quiet;
+    posix_spawn_file_actions_init(&quiet);
+    posix_spawn_file_actions_addopen(&quiet, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    pid_t child = -1;
+    if (posix_spawnp(&child, arguments[0], &quiet, nullptr, arguments.data(), environ) != 0)
+        child = -1;
+    posix_spawn_file_actions_destroy(&quiet);
+    return child;
 }
 
-} // namespace
-
-ProcessCost ProcessCost::ofWork(const std::function<bool()> &work)
+ProcessCost costUntilEnd(double begin, pid_t child)
 {
-    std::fflush(stdout);
-    const double begin = clockNow();
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(work() ? 0 : 1);
     int status = 0;
     rusage usage = {};
     if (child < 0 || wait4(child, &status, 0, &usage) != child || status != 0) {
@@ -62,12 +57,22 @@ ProcessCost ProcessCost::ofWork(const std::function<bool()> &work)
             .memory = double(usage.ru_maxrss) / 1024};
 }
 
+} // namespace
+
+ProcessCost ProcessCost::ofWork(const std::function<bool()> &work)
+{
+    std::fflush(stdout);
+    const double begin = clockNow();
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(work() ? 0 : 1);
+    return costUntilEnd(begin, child);
+}
+
 ProcessCost ProcessCost::ofProgram(const std::vector<std::string> &command)
 {
-    return ofWork([&command] {
-        run(command);
-        return false;
-    });
+    const double begin = clockNow();
+    return costUntilEnd(begin, start(command));
 }
 
 ProcessCost ProcessCost::median(const std::vector<ProcessCost> &costs)

@@ -16,6 +16,7 @@
 #include "Trees.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -83,18 +84,21 @@ private:
     double m_sizeMemory = 0;
 };
 
+// A program of its own, as the peers are.
+const std::string &self()
+{
+    static const std::string path = std::filesystem::read_symlink("/proc/self/exe");
+    return path;
+}
+
 ProcessCost sizeCost(const std::string &path)
 {
-    return ProcessCost::ofWork(
-        [&path] { return folderSize(QByteArray::fromStdString(path)) >= 0; });
+    return ProcessCost::ofProgram({self(), "--size", path});
 }
 
 ProcessCost removalCost(const std::string &base, const std::string &name)
 {
-    return ProcessCost::ofWork([&] {
-        return removeBelow(QByteArray::fromStdString(base), QByteArray::fromStdString(name)).refused
-            == 0;
-    });
+    return ProcessCost::ofProgram({self(), "--remove", base, name});
 }
 
 std::string outputOf(const std::string &command)
@@ -195,6 +199,7 @@ void FolderBench::run(const Tree &tree)
         return;
     const std::string path = m_folder + "/tree";
     tree.make(path);
+    ::sync(); // what is on its way to the disk would keep the second core busy
     compareSize(tree.name, path, tree.sizeRounds, tree.size);
     removalCost(m_folder, "tree");
     compareRemoval(tree);
@@ -218,10 +223,9 @@ void FolderBench::removalMemory(int files)
 // Both walks and both peers on one tree; strace's own table shows what they ask of the system.
 void FolderBench::countCalls()
 {
-    const std::string self = std::filesystem::read_symlink("/proc/self/exe");
     for (const std::string &command :
-         {self + " --size " + m_folder + "/tree", "du -slb " + m_folder + "/tree",
-          self + " --remove " + m_folder + " tree", "rm -rf " + m_folder + "/tree"}) {
+         {self() + " --size " + m_folder + "/tree", "du -slb " + m_folder + "/tree",
+          self() + " --remove " + m_folder + " tree", "rm -rf " + m_folder + "/tree"}) {
         if (!std::filesystem::exists(m_folder + "/tree"))
             Trees::makeNested(m_folder + "/tree", 10'000);
         const std::string table = outputOf("strace -f -c -U calls,name " + command
