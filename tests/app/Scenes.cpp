@@ -124,6 +124,7 @@ Scenes::Language::~Language()
 void Scenes::prepare()
 {
     QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "makes a record database");
+    QLocale::setDefault(QLocale::c()); // English to begin with, whatever this machine speaks
     Application::prepare();
     Theme::install();
 }

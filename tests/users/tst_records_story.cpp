@@ -96,7 +96,11 @@ class tst_RecordsStory : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase() { Application::prepare(); }
+    void initTestCase()
+    {
+        QLocale::setDefault(QLocale::c()); // the letters above are those of English menus
+        Application::prepare();
+    }
 
     void fromRootToAnOrdinaryUser()
     {
