@@ -5,7 +5,7 @@
 #include "HoverTableRowView.h"
 #include "HoverTableView.h"
 #include "JobList.h"
-#include "Notifier.h"
+#include "JobSummary.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -123,7 +123,7 @@ void HoverTableAppDelegate::announceEnd(const RunningJob &job, JobOutcome outcom
     const qsizetype row = rowOf(job.description.page);
     if (row < 0 || (outcome == JobOutcome::Succeeded && !job.description.successIsNews))
         return;
-    m_viewItems.at(row)->setAccessibleDescription(Notifier::summary(job.description, outcome));
+    m_viewItems.at(row)->setAccessibleDescription(jobSummary(job.description, outcome));
     QAccessibleEvent alert(m_viewItems.at(row), QAccessible::Alert);
     QAccessible::updateAccessibility(&alert);
 }

@@ -1,5 +1,7 @@
 #include "Notifier.h"
 
+#include "JobSummary.h"
+
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -36,19 +38,6 @@ Notifier::Notifier(JobList &jobs, const QWidget &window, QObject *parent)
     connect(&jobs, &JobList::jobEnded, this, &Notifier::tell);
 }
 
-QString Notifier::summary(const JobDescription &job, JobOutcome outcome)
-{
-    switch (outcome) {
-    case JobOutcome::Succeeded:
-        return qtTrId("Notice.Succeeded").arg(job.title);
-    case JobOutcome::Failed:
-        return qtTrId("Notice.Failed").arg(job.title);
-    case JobOutcome::Stopped:
-        return qtTrId("Notice.Stopped").arg(job.title);
-    }
-    Q_UNREACHABLE();
-}
-
 void Notifier::tell(const RunningJob &job, JobOutcome outcome)
 {
     if (isNews(job, outcome) && m_window.isVisible() && !QApplication::activeWindow())
@@ -58,7 +47,8 @@ void Notifier::tell(const RunningJob &job, JobOutcome outcome)
 void Notifier::notify(const JobDescription &job, JobOutcome outcome)
 {
     connectToBus();
-    const Message message{.summary = summary(job, outcome), .body = job.subject, .page = job.page};
+    const Message message{
+        .summary = jobSummary(job, outcome), .body = job.subject, .page = job.page};
     auto *asked = new QDBusPendingCallWatcher(m_bus->asyncCall(callOf(u"GetCapabilities"_s)), this);
     connect(asked, &QDBusPendingCallWatcher::finished, this,
             [this, message](QDBusPendingCallWatcher *watcher) {

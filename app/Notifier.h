@@ -26,9 +26,6 @@ public:
     /// that the user stopped. Once the window is hidden, which ends the program, nothing is told.
     Notifier(JobList &jobs, const QWidget &window, QObject *parent = nullptr);
 
-    /// How a run ended, in one short sentence: "Zip is finished".
-    static QString summary(const JobDescription &job, JobOutcome outcome);
-
 Q_SIGNALS:
     /// The user chose a notification. The token, where the desktop gave one, allows the window to
     /// come to the front.

@@ -59,7 +59,7 @@ std::optional<StartRequest> decoded(const QByteArray &message)
                         .activationToken = QString::fromUtf8(parts.at(2))};
 }
 
-/// The folder that a login session gives to its user alone (XDG Base Directory Specification);
+/// The folder that a login session gives to its user alone (XDG base directories);
 /// empty where there is none that deserves the name.
 QByteArray runtimeFolder()
 {
