@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 bool CommandLine::asksForText(int argc, char **argv)
 {
     using namespace std::string_view_literals;
-    static constexpr auto texts = {"-h"sv, "--help"sv, "--help-all"sv, "-v"sv, "--version"sv};
+    static constexpr auto texts = {"-h"sv, "--help"sv, "-v"sv, "--version"sv};
     const auto arguments = std::span(argv, static_cast<std::size_t>(argc));
     return std::ranges::any_of(arguments, [](std::string_view argument) {
         return std::ranges::find(texts, argument) != texts.end();
@@ -30,14 +30,16 @@ CommandLine::CommandLine(const QStringList &arguments)
     parser.setApplicationDescription(qtTrId("CommandLine.Description"));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions); // as Qt's own are
     parser.addPositionalArgument(u"PAGE"_s, qtTrId("CommandLine.Page").arg(pages), u"[PAGE]"_s);
-    const QCommandLineOption help = parser.addHelpOption();
-    const QCommandLineOption version = parser.addVersionOption();
+    // Qt's own two would speak English wherever Qt has no texts.
+    const QCommandLineOption help({u"h"_s, u"help"_s}, qtTrId("CommandLine.Help"));
+    const QCommandLineOption version({u"v"_s, u"version"_s}, qtTrId("CommandLine.Version"));
+    parser.addOptions({help, version});
 
     const bool isUnderstood = parser.parse(arguments);
     const QStringList names = parser.positionalArguments();
     const auto unknown =
         std::ranges::find_if(names, [](const QString &name) { return !rowOfTool(name); });
-    if (parser.isSet(help) || parser.isSet(u"help-all"_s))
+    if (parser.isSet(help))
         endWith(EX_OK, parser.helpText());
     else if (parser.isSet(version))
         endWith(EX_OK,

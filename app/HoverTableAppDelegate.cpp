@@ -14,6 +14,12 @@
 #include <algorithm>
 #include <utility>
 
+// What a font asks for, which stays; what it is matched with may be a little less each time.
+static qreal pointSize(const QFont &font)
+{
+    return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+}
+
 HoverTableAppDelegate::HoverTableAppDelegate(const QList<Tool> &tools, JobList &jobs,
                                              AppDelegate &appDelegate, HoverTableView &tableView,
                                              QObject *parent)
@@ -46,7 +52,7 @@ void HoverTableAppDelegate::tableViewSelectionDidChange()
         if (!rowView)
             continue;
         QFont font = QApplication::font();
-        font.setPointSize(static_cast<int>(QFontInfo(rowView->textField()->font()).pointSizeF()));
+        font.setPointSize(static_cast<int>(pointSize(rowView->textField()->font())));
         font.setBold(rowView->isSelected());
         rowView->textField()->setFont(font);
         if (rowView->isSelected() && row < m_viewItems.size())

@@ -77,15 +77,6 @@ QByteArray screen()
     return platform.toUtf8() + '\0' + qgetenv(variable);
 }
 
-QByteArray pathOfInstance()
-{
-    const QByteArray folder = runtimeFolder();
-    const QByteArray who = screen() + '\0' + QFile::encodeName(QDir::homePath()) + '\0'
-        + QFile::encodeName(QSettings().fileName());
-    const QByteArray name = QCryptographicHash::hash(who, QCryptographicHash::Sha256).toHex();
-    return folder.isEmpty() ? QByteArray() : folder + "/toolvane-" + name.first(16);
-}
-
 /// None for a path that does not fit, which a socket cannot have.
 std::optional<sockaddr_un> addressOf(const QByteArray &path)
 {
@@ -95,6 +86,22 @@ std::optional<sockaddr_un> addressOf(const QByteArray &path)
         return std::nullopt;
     std::memcpy(address.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
     return address;
+}
+
+QByteArray socketOf(const QByteArray &instance)
+{
+    return instance + ".socket";
+}
+
+/// Empty where every start is to stand alone: without a folder, or where its path is too long.
+QByteArray pathOfInstance()
+{
+    const QByteArray folder = runtimeFolder();
+    const QByteArray who = screen() + '\0' + QFile::encodeName(QDir::homePath()) + '\0'
+        + QFile::encodeName(QSettings().fileName());
+    const QByteArray name = QCryptographicHash::hash(who, QCryptographicHash::Sha256).toHex();
+    const QByteArray path = folder + "/toolvane-" + name.first(16);
+    return folder.isEmpty() || !addressOf(socketOf(path)) ? QByteArray() : path;
 }
 
 FileDescriptor packetSocket()
@@ -159,7 +166,7 @@ bool SingleInstance::becomeFirst()
 
 void SingleInstance::listen()
 {
-    const QByteArray path = m_path + ".socket";
+    const QByteArray path = socketOf(m_path);
     const auto address = addressOf(path);
     FileDescriptor listener = packetSocket();
     if (!address || !listener)
@@ -172,7 +179,7 @@ void SingleInstance::listen()
 
 bool SingleInstance::ask(const QByteArray &message, int milliseconds) const
 {
-    const auto address = addressOf(m_path + ".socket");
+    const auto address = addressOf(socketOf(m_path));
     const FileDescriptor peer = packetSocket();
     if (!address || !peer || !withAddress(::connect, peer.get(), *address)
         || !isSameUser(peer.get()))
@@ -231,7 +238,7 @@ void SingleInstance::retire()
 {
     m_notifier.reset();
     if (m_listener)
-        unlink((m_path + ".socket").constData()); // while nobody else can have made it
+        unlink(socketOf(m_path).constData()); // while nobody else can have made it
     m_listener.close();
     m_lock.close();
 }

@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>ال&amp;بريد الإلكتروني</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>لا توجد تطبيقات في القائمة.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>حول Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>أدوات الاستخدام اليومي للملفات والوسائط في نافذة واحدة.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>عرض هذه المساعدة.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>الصفحة المراد فتحها: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>لا توجد صفحة باسم «%1». الصفحات المتاحة: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>عرض الإصدار.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-Mail</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>Es sind keine Anwendungen aufgeführt.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Info zu Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Alltägliche Werkzeuge für Dateien und Medien in einem Fenster.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Diese Hilfe anzeigen.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>Die Seite, die geöffnet werden soll: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>Es gibt keine Seite „%1“. Vorhanden sind: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Die Version anzeigen.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

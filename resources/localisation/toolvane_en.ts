@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-mail</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>No applications are listed.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>About Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Everyday file and media tools in one window.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Show this help.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>The page to open: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page "%1". These are the pages: %2.</source>
         <translation>There is no page "%1". These are the pages: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Show the version.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

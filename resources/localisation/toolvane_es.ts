@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;Correo</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>No hay aplicaciones en la lista.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Acerca de Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Herramientas cotidianas para archivos y multimedia en una sola ventana.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Mostrar esta ayuda.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>La página que se abrirá: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>No existe la página «%1». Estas son las páginas: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Mostrar la versión.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

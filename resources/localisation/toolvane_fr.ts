@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-mail</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>Aucune application n’est répertoriée.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>À propos de Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Les outils du quotidien pour vos fichiers et médias, dans une seule fenêtre.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Afficher cette aide.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>La page à ouvrir : %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>Il n’existe pas de page « %1 ». Voici les pages disponibles : %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Afficher la version.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

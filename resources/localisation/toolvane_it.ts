@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-mail</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>Nessuna applicazione in elenco.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Informazioni su Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Strumenti di ogni giorno per file e contenuti multimediali, tutti in una finestra.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Mostra questo aiuto.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>La pagina da aprire: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>La pagina «%1» non esiste. Le pagine disponibili sono: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Mostra la versione.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

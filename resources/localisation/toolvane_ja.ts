@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>メール(&amp;E)</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>一覧にアプリはありません。</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane について</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>日常で使うファイルとメディアのツールを 1 つのウィンドウにまとめたアプリです。</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>このヘルプを表示します。</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>開くページ: %1</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>「%1」というページはありません。使用できるページ: %2</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>バージョンを表示します。</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>이메일(&amp;E)</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>목록에 앱이 없습니다.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane 정보</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>일상적인 파일 및 미디어 도구를 한 창에 모은 프로그램입니다.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>이 도움말을 표시합니다.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>열 페이지: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>‘%1’ 페이지가 없습니다. 사용할 수 있는 페이지: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>버전을 표시합니다.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

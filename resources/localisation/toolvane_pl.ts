@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-mail</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>Na liście nie ma programów.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>O programie Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Codzienne narzędzia do plików i multimediów w jednym oknie.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Wyświetla tę pomoc.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>Strona do otwarcia: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>Nie ma strony „%1”. Dostępne strony: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Wyświetla wersję.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

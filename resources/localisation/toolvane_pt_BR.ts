@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-mail</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>Não há aplicativos na lista.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Sobre o Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Ferramentas do dia a dia para arquivos e mídias em uma só janela.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Mostrar esta ajuda.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>A página a ser aberta: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>Não existe a página “%1”. Estas são as páginas: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Mostrar a versão.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

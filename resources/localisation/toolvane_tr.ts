@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;E-posta</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>Listede uygulama yok.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane Hakkında</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Günlük dosya ve medya araçları tek bir pencerede.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Bu yardımı gösterir.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>Açılacak sayfa: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>“%1” adında bir sayfa yok. Kullanılabilecek sayfalar: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Sürümü gösterir.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>&amp;Ел. пошта</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>У списку немає програм.</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Про Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>Повсякденні інструменти для файлів і медіа в одному вікні.</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>Показати цю довідку.</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>Сторінка, яку слід відкрити: %1.</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>Сторінки «%1» немає. Доступні сторінки: %2.</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>Показати версію.</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

@@ -11,6 +11,10 @@
         <source>&amp;E-mail</source>
         <translation>电子邮件(&amp;E)</translation>
     </message>
+    <message id="About.NothingListed">
+        <source>No applications are listed.</source>
+        <translation>列表中没有应用。</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>关于 Toolvane</translation>
@@ -111,6 +115,10 @@
         <source>Everyday file and media tools in one window.</source>
         <translation>日常文件和媒体工具，尽在一个窗口。</translation>
     </message>
+    <message id="CommandLine.Help">
+        <source>Show this help.</source>
+        <translation>显示此帮助。</translation>
+    </message>
     <message id="CommandLine.Page">
         <source>The page to open: %1.</source>
         <translation>要打开的页面：%1。</translation>
@@ -118,6 +126,10 @@
     <message id="CommandLine.UnknownPage">
         <source>There is no page &quot;%1&quot;. These are the pages: %2.</source>
         <translation>没有“%1”页面。可用的页面：%2。</translation>
+    </message>
+    <message id="CommandLine.Version">
+        <source>Show the version.</source>
+        <translation>显示版本。</translation>
     </message>
     <message id="CompressRatio">
         <source>Com&amp;pression</source>

@@ -1,6 +1,7 @@
 #include "AboutViewController.h"
 
 #include "AppsList.h"
+#include "HintLabel.h"
 #include "MiscTool.h"
 #include "NamedImage.h"
 #include "PageStatus.h"
@@ -10,6 +11,7 @@
 
 #include <QCoreApplication>
 #include <QHeaderView>
+#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -30,6 +32,7 @@ AboutViewController::AboutViewController(QWidget *parent)
       m_icons(MiscTool::getAppDocumentFolder()), m_table(m_icons)
 {
     ui->setupUi(this);
+    addHint();
     ui->versionLabel->setText(qtTrId("About.Version").arg(QCoreApplication::applicationVersion()));
     setUpTable();
     connectButtons();
@@ -37,6 +40,17 @@ AboutViewController::AboutViewController(QWidget *parent)
 }
 
 AboutViewController::~AboutViewController() = default;
+
+void AboutViewController::addHint()
+{
+    QWidget *rows = ui->table->viewport();
+    m_nothingListed = new HintLabel(qtTrId("About.NothingListed"), rows);
+    m_nothingListed->setAlignment(Qt::AlignCenter);
+    m_nothingListed->setWordWrap(true);
+    m_nothingListed->setForegroundRole(QPalette::WindowText); // not the list's own
+    m_nothingListed->hide();
+    (new QVBoxLayout(rows))->addWidget(m_nothingListed);
+}
 
 void AboutViewController::setUpTable()
 {
@@ -114,6 +128,7 @@ void AboutViewController::endLoading(const QVariantMap &configuration, const QVa
     socialDict = social;
     m_icons.setServer(server);
     m_table.setApps(data);
+    m_nothingListed->setVisible(data.isEmpty());
     ui->table->show();
     PageStatus::setIdle(*ui->progressIndicator, true);
 }

@@ -15,6 +15,8 @@ namespace Ui
 class AboutViewController;
 }
 
+class HintLabel;
+
 /// The page that lists the maker's applications and social links. Made when it is opened for the
 /// first time, and loading from then on.
 class AboutViewController : public QWidget
@@ -44,6 +46,7 @@ public:
 private:
     void awakeFromNib();
     void connectButtons();
+    void addHint();
     void setUpTable();
     void beginLoading();
     void endLoading(const QVariantMap &configuration, const QVariantList &apps,
@@ -52,5 +55,6 @@ private:
     std::unique_ptr<Ui::AboutViewController> ui;
     IconCache m_icons;
     AppsTable m_table;
+    HintLabel *m_nothingListed; ///< What stands in place of rows where there are none.
     std::jthread m_loader; // last: its destructor waits for the thread, which uses the rest
 };

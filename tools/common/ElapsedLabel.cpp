@@ -14,6 +14,7 @@ ElapsedLabel::ElapsedLabel(QWidget *parent) : QLabel(parent)
     setSizePolicy(policy);
     setVisible(false);
     m_everySecond.setInterval(1s);
+    m_everySecond.setTimerType(Qt::PreciseTimer); // others come early, and show the second before
     connect(&m_everySecond, &QTimer::timeout, this, &ElapsedLabel::updateText);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QString>
 
@@ -12,6 +13,7 @@ struct JobDescription {
     QString page; ///< The `objectName` of the page, which is its class name.
     QString title; ///< What is being done, localised: mostly the page's title.
     QString subject = {}; ///< What it is done to, mostly a path. Plain text, shown as it stands.
+    QElapsedTimer begun = {}; ///< When the run began of which this job is a later part.
     bool successIsNews = true; ///< False where more of the run follows, or success shows itself.
 };
 

@@ -9,8 +9,9 @@ JobList::JobList(QObject *parent) : QObject(parent)
 
 Job JobList::begin(const JobDescription &description, std::function<void()> stop)
 {
-    QElapsedTimer started;
-    started.start();
+    QElapsedTimer started = description.begun;
+    if (!started.isValid())
+        started.start();
     const JobId id = ++m_lastId;
     m_running.push_back({id, description, started, std::move(stop), false});
     Q_EMIT jobStarted(id);

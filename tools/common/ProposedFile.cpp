@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 // A folder's name has no suffix, whatever dots it holds.
 static QString nameOf(const QString &path)
 {
-    const QFileInfo item(QDir::cleanPath(path));
+    const QFileInfo item(QDir::cleanPath(QFileInfo(path).absoluteFilePath())); // "." has a name
     return item.isDir() ? item.fileName() : item.completeBaseName();
 }
 

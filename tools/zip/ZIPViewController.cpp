@@ -108,7 +108,8 @@ QCoro::Task<> ZIPViewController::generateAction()
     const Command command =
         ZipCommand::pack(ui->srcFolderField->text(), archive, getCompressRatio());
 
-    const JobDescription whole = job(); // the form may say something else by the time it is placed
+    JobDescription whole = job(); // the form may say something else by the time it is placed
+    whole.begun.start();
     JobDescription packing = whole;
     packing.successIsNews = false;
     const CommandResult result = co_await m_runner.run(command, packing);
