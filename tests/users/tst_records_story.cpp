@@ -1,5 +1,5 @@
 // Proves the whole way of a person through the real program: log in as root, make a group and a
-// user of it, start again, log in as that user, and find what the group allows.
+// user of it, start again, log in as that user, find what the group allows, and quit.
 
 #include "Application.h"
 #include "DB.h"
@@ -11,7 +11,6 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QTimer>
-#include <QWindow>
 
 using namespace Qt::StringLiterals;
 using namespace Using;
@@ -66,29 +65,6 @@ public:
     Application application;
 };
 
-void makeGroup(const QWidget &page)
-{
-    press(page, "addButton");
-    QTest::keyClicks(panel(page).focusWidget(), u"Clerks"_s);
-    for (const char *box : {"userGroupEditCB", "userGroupViewCB", "userAddCB"})
-        check(page, box); // stored in their own order
-    QTest::keyClick(&control<QLineEdit>(page, "memoField"), Qt::Key_Return);
-    QVERIFY(!panel(page).isVisible());
-}
-
-void makeUser(const QWidget &page)
-{
-    press(page, "addButton");
-    auto &group = control<QComboBox>(page, "userGroupPopUp");
-    QTest::keyClicks(&group, u"Clerks"_s);
-    QCOMPARE(group.currentText(), u"Clerks"_s);
-    QTest::keyClicks(&control<QLineEdit>(page, "userField"), u"alice"_s);
-    QTest::keyClicks(&control<QLineEdit>(page, "passwordField"), u"secret"_s);
-    QTest::keyClicks(&control<QLineEdit>(page, "rePasswordField"), u"secret"_s);
-    press(page, "saveButton");
-    QVERIFY(!panel(page).isVisible());
-}
-
 } // namespace
 
 class tst_RecordsStory : public QObject
@@ -108,10 +84,21 @@ private Q_SLOTS:
         trial.owner.hide();
         {
             Started program;
-            QVERIFY(!QFile::exists(RecordsTrial::databaseFile()));
+            QVERIFY(!QFile::exists(DB::dbFilePath()));
             program.logIn(u"root"_s, u"kelp"_s);
-            makeGroup(program.open(Qt::Key_G, "UserGroupViewController"));
-            makeUser(program.open(Qt::Key_U, "UserViewController"));
+            const QWidget &groups = program.open(Qt::Key_G, "UserGroupViewController");
+            press(groups, "addButton");
+            QTest::keyClicks(panel(groups).focusWidget(), u"Clerks"_s);
+            for (const char *box : {"userGroupEditCB", "userGroupViewCB", "userAddCB"})
+                check(groups, box); // stored in their own order
+            QTest::keyClick(&control<QLineEdit>(groups, "memoField"), Qt::Key_Return);
+            const QWidget &users = program.open(Qt::Key_U, "UserViewController");
+            press(users, "addButton");
+            QTest::keyClicks(&control<QComboBox>(users, "userGroupPopUp"), u"Clerks"_s);
+            QTest::keyClicks(&control<QLineEdit>(users, "userField"), u"alice"_s);
+            for (const char *field : {"passwordField", "rePasswordField"})
+                QTest::keyClicks(&control<QLineEdit>(users, field), u"secret"_s);
+            press(users, "saveButton");
         }
         QCOMPARE(RecordsTrial::sqlite(u"SELECT Name, Permission FROM UserGroup WHERE ID=2"_s),
                  u"Clerks|A1A3B2"_s);
@@ -122,7 +109,10 @@ private Q_SLOTS:
         Global::reset();
         Started program;
         QCOMPARE(program.window().windowTitle(), u"Toolvane"_s);
+        press(program.open(Qt::Key_U, "UserViewController"), "addButton");
+        const QPointer<RecordWindow> ofAnother = program.records();
         program.logIn(u"alice"_s, u"secret"_s);
+        QTRY_VERIFY(!ofAnother);
         const QStringList buttons{u"addButton"_s, u"editButton"_s, u"delButton"_s};
         const QWidget &groups = program.open(Qt::Key_G, "UserGroupViewController");
         QVERIFY(groups.isVisible());
@@ -131,30 +121,8 @@ private Q_SLOTS:
         QVERIFY(users.isVisible());
         QCOMPARE(PageControls::enabledOf(users, buttons), QStringList{u"addButton"_s});
         QCOMPARE(trial.boxes.texts, QStringList());
-    }
 
-    void loggingInClosesWhatAnotherUserHadOpen()
-    {
-        const RecordsTrial trial;
-        Started program;
-        program.open(Qt::Key_S, "TemplateViewController");
-        const QWidget &page = program.open(Qt::Key_U, "UserViewController");
-        press(page, "addButton");
-        QCOMPARE(panel(page).windowModality(), Qt::WindowModal);
-        QCOMPARE(panel(page).windowHandle()->transientParent(), program.records()->windowHandle());
-        QCOMPARE(program.window().findChildren<RecordWindow *>().size(), 1);
-        const QPointer<RecordWindow> records = program.records();
-        program.logIn(u"root"_s, u"kelp"_s);
-        QTRY_VERIFY(!records);
-    }
-
-    void closingTheMainWindowQuits()
-    {
-        RecordsTrial trial;
-        trial.owner.hide();
-        Started program;
-        program.open(Qt::Key_U, "UserViewController");
-        program.choose(Qt::Key_L);
+        program.choose(Qt::Key_L); // the program ends with its main window, whatever is open
         QTimer::singleShot(0, &program.window(), &QWidget::close);
         QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
         QCOMPARE(QApplication::exec(), 0); // ended by the window, not by the watchdog

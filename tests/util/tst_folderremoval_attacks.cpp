@@ -1,6 +1,7 @@
 // Proves that nobody who changes a folder while it is removed, or mounts something in it, can make
 // the removal touch anything outside.
 
+#include "FolderDescent.h"
 #include "FolderRemoval.h"
 #include "SampleTree.h"
 
@@ -28,10 +29,10 @@ constexpr qint64 mostTime = 4'000; // Milliseconds, for a machine that has much 
 constexpr int wantedSwaps = 3'000;
 constexpr int wantedRounds = 30;
 
-using Pair = std::pair<QByteArray, QByteArray>;
+using Pairs = QList<std::pair<QByteArray, QByteArray>>;
 
 // Keeps exchanging the two names of each pair, on a thread of its own, until it goes out of scope.
-std::jthread swapper(const QList<Pair> &pairs, std::atomic<int> *swaps)
+std::jthread swapper(const Pairs &pairs, std::atomic<int> *swaps)
 {
     return std::jthread([pairs, swaps](const std::stop_token &stop) {
         while (!stop.stop_requested()) {
@@ -67,37 +68,7 @@ class tst_FolderRemoval_Attacks : public QObject
     QByteArray m_home;
     Snapshot m_before;
 
-    // Removes the folder from one new home after the other while the pairs that build() gives for
-    // that home are exchanged, until enough was tried.
-    template <class Build>
-    void removeWhileSwapping(Build build)
-    {
-        const auto before =
-            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
-        std::atomic<int> swaps = 0;
-        quint64 removed = 0;
-        int rounds = 0;
-        QElapsedTimer timer;
-        for (timer.start();
-             timer.elapsed() < mostTime && (swaps < wantedSwaps || rounds < wantedRounds);
-             ++rounds) {
-            const QByteArray home = m_home + QByteArray::number(rounds);
-            makeFolder(home + "/Library");
-            const QList<Pair> pairs = build(home);
-            const int swapsBefore = swaps;
-            const std::jthread swapping = swapper(pairs, &swaps);
-            while (swaps == swapsBefore && timer.elapsed() < mostTime)
-                std::this_thread::yield();
-            removed += removeBelow(home, "Library/Caches").removed;
-        }
-        qInstallMessageHandler(before);
-        qDebug("%d rounds, %d swaps, %llu items removed", rounds, swaps.load(), removed);
-        QVERIFY(removed > 0 && swaps >= rounds);
-    }
-
 private Q_SLOTS:
-    void initTestCase() { QVERIFY2(whyUnsafe().isEmpty(), qPrintable(whyUnsafe())); }
-
     void init()
     {
         const QByteArray root = makeRoot();
@@ -111,70 +82,96 @@ private Q_SLOTS:
 
     void cleanup() { QCOMPARE(difference(m_before, snapshot(m_outside)), {}); }
 
-    void foldersInsideTurnIntoLinks()
+    // Names in a home folder that are exchanged. There "bait0" leads outside, where "Caches" is,
+    // too.
+    void foldersTurnIntoLinks_data()
     {
-        removeWhileSwapping([this](const QByteArray &home) {
-            const QByteArray top = home + "/Library/Caches";
-            makeNested(top, 30, 4);
+        QTest::addColumn<Pairs>("pairs");
+        QTest::newRow("inside") << Pairs{{"/Library/Caches/d11", "/bait0"},
+                                         {"/Library/Caches/d5", "/bait1"},
+                                         {"/Library/Caches/d7/inner", "/bait2"},
+                                         {"/Library/Caches/d8", "/Library/Caches/d9/inner"}};
+        QTest::newRow("the folder itself") << Pairs{{"/Library/Caches", "/bait0"}};
+        QTest::newRow("the way") << Pairs{{"/Library", "/bait0"}};
+    }
+
+    // Removes the folder from one new home after the other until enough was tried.
+    void foldersTurnIntoLinks()
+    {
+        QFETCH(Pairs, pairs);
+        const auto before =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+        std::atomic<int> swaps = 0;
+        quint64 removed = 0;
+        int rounds = 0;
+        QElapsedTimer timer;
+        for (timer.start();
+             timer.elapsed() < mostTime && (swaps < wantedSwaps || rounds < wantedRounds);
+             ++rounds) {
+            const QByteArray home = m_home + QByteArray::number(rounds);
+            makeNested(home + "/Library/Caches", 12, 4);
             makeLink(home + "/bait0", m_outside);
             makeLink(home + "/bait1", m_outside + "/d0");
             makeLink(home + "/bait2", m_outside + "/d1/inner");
-            return QList<Pair>{{top + "/d29", home + "/bait0"},
-                               {top + "/d15", home + "/bait1"},
-                               {top + "/d7/inner", home + "/bait2"},
-                               {top + "/d20", top + "/d21/inner"}};
-        });
+            Pairs here;
+            for (const auto &[one, other] : pairs)
+                here.append({home + one, home + other});
+            const int swapsBefore = swaps;
+            const std::jthread swapping = swapper(here, &swaps);
+            while (swaps == swapsBefore && timer.elapsed() < mostTime)
+                std::this_thread::yield();
+            removed += removeBelow(home, "Library/Caches").removed;
+        }
+        qInstallMessageHandler(before);
+        qDebug("%d rounds, %d swaps, %llu items removed", rounds, swaps.load(), removed);
+        QVERIFY(removed > 0 && swaps >= rounds);
     }
 
-    void theFolderItselfTurnsIntoALink()
+    void theWayBackTurnsIntoAnotherFolder()
     {
-        removeWhileSwapping([this](const QByteArray &home) {
-            makeNested(home + "/Library/Caches", 10, 4);
-            makeLink(home + "/bait", m_outside);
-            return QList<Pair>{{home + "/Library/Caches", home + "/bait"}};
-        });
-    }
-
-    void theWayTurnsIntoALink()
-    {
-        removeWhileSwapping([this](const QByteArray &home) {
-            makeNested(home + "/Library/Caches", 10, 4);
-            makeLink(home + "/bait", m_outside); // It has "Caches" inside.
-            return QList<Pair>{{home + "/Library", home + "/bait"}};
-        });
-    }
-
-    void whatIsMountedBelowStays()
-    {
+        constexpr int levels = 40; // More than stay open.
+        constexpr int moved = 11; // Its parent has been closed by then.
         const QByteArray top = m_home + "/Library/Caches";
-        makeNested(top, 3, 4);
-        makeFolder(top + "/d0/memory");
-        makeFolder(top + "/d1/bound");
-        makeFile(top + "/d2/boundfile", "");
-        if (!mountMemory(top + "/d0/memory"))
-            QSKIP(qPrintable(u"may not mount: "_s + qt_error_string(errno)));
-        // These have the same device number as the folder around them.
-        QVERIFY(mountHere(m_outside, top + "/d1/bound"));
-        QVERIFY(mountHere(m_outside + "/Caches/inner/f0", top + "/d2/boundfile"));
-        makeFile(top + "/d0/memory/kept", "kept");
-        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^3 items stayed at "_s));
-        const FolderRemovalResult result = removeBelow(m_home, "Library/Caches");
-        QCOMPARE(result.refused, 3u);
-        QVERIFY(exists(top + "/d0/memory/kept"));
-        QVERIFY(exists(top + "/d1/bound/d0/f1"));
-        QVERIFY(!exists(top + "/d0/f1") && !exists(top + "/d1/inner"));
+        makeChain(top, levels, "d");
+        FolderDescent descent(
+            {.folder = FolderAccess::openFolder(AT_FDCWD, top.constData()), .names = {}});
+        for (int i = 0; i < levels; ++i) {
+            descent.addSubfolder("d");
+            descent.enter(FolderAccess::openFolder(descent.folder(), descent.nextSubfolder()));
+        }
+        QCOMPARE(rename((top + QByteArray("/d").repeated(moved)).constData(),
+                        (m_home + "/Library/d").constData()),
+                 0);
+        for (int level = levels; level > moved; --level)
+            QCOMPARE(descent.leave(), "d");
+        QCOMPARE(descent.leave(), nullptr);
     }
 
-    void aMountedItemIsEmptiedAndStays()
+    void whatIsMountedStays()
     {
         const QByteArray top = m_home + "/Library/Caches";
         if (!mountMemory(top))
             QSKIP(qPrintable(u"may not mount: "_s + qt_error_string(errno)));
-        const int items = makeNested(top, 3, 4);
+        makeNested(top, 3, 4);
+        makeFolder(top + "/d0/memory");
+        makeFolder(top + "/d1/bound");
+        makeFile(top + "/d2/boundfile", "");
+        QVERIFY(mountMemory(top + "/d0/memory"));
+        makeFile(top + "/d0/memory/kept", "kept");
+        // These have the same device number as the folder around them.
+        QVERIFY(mountHere(m_outside, top + "/d1/bound"));
+        QVERIFY(mountHere(m_outside + "/Caches/inner/f0", top + "/d2/boundfile"));
+        QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^3 items stayed at "_s));
+        QCOMPARE(removeBelow(m_home, "Library/Caches").refused, 3u);
+        QVERIFY(exists(top + "/d0/memory/kept"));
+        QVERIFY(exists(top + "/d1/bound/d0/f1"));
+        QVERIFY(!exists(top + "/d0/f1") && !exists(top + "/d1/inner"));
+        // Without them the folder is emptied, and stays because it is mounted itself.
+        for (const char *mounted : {"/d0/memory", "/d1/bound", "/d2/boundfile"})
+            QCOMPARE(umount((top + mounted).constData()), 0);
         QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^1 items stayed at "_s));
-        const FolderRemovalResult result = removeBelow(m_home, "Library/Caches");
-        QCOMPARE(result.removed, static_cast<quint64>(items));
-        QCOMPARE(result.firstError, EBUSY);
+        QCOMPARE(removeBelow(m_home, "Library/Caches").firstError, EBUSY);
+        QVERIFY(snapshot(top).isEmpty());
     }
 };
 
