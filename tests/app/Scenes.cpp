@@ -3,32 +3,22 @@
 #include "Application.h"
 #include "HoverTableAppDelegate.h"
 #include "MiscTool.h"
+#include "PageControls.h"
 #include "Theme.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
-#include <QLineEdit>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QTabWidget>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
+using PageControls::control;
 
 namespace
 {
-
-template <typename Widget = QWidget>
-Widget &find(const QObject &parent, const QString &name)
-{
-    auto *found = parent.findChild<Widget *>(name);
-    if (!found)
-        qFatal("nothing is called %s", qUtf8Printable(name));
-    return *found;
-}
 
 void visitPages(Application &application, const Scenes::Look &look)
 {
@@ -39,39 +29,40 @@ void visitPages(Application &application, const Scenes::Look &look)
         Scenes::settle();
         look(application.tools().viewItem(row)->objectName(), window);
     }
-    find<QAction>(window, u"aboutItem"_s).trigger();
+    control<QAction>(window, "aboutItem").trigger();
     Scenes::settle();
     look(u"about"_s, window);
 }
 
 void logIn(Application &application, const Scenes::Look &look)
 {
-    find<QAction>(application.window(), u"loginItem"_s).trigger();
+    control<QAction>(application.window(), "loginItem").trigger();
     QWidget &login = *application.delegate().loginWindow;
     Scenes::settle();
     look(u"login"_s, login);
-    find<QLineEdit>(login, u"userField"_s).setText(u"root"_s);
-    find<QLineEdit>(login, u"passwordField"_s).setText(u"kelp"_s);
-    find<QPushButton>(login, u"loginButton"_s).click();
+    control<QLineEdit>(login, "userField").setText(u"root"_s);
+    control<QLineEdit>(login, "passwordField").setText(u"kelp"_s);
+    control<QPushButton>(login, "loginButton").click();
     QTRY_VERIFY(!login.isVisible());
 }
 
 void visitRecords(const Application &, MainWindow &window, const Scenes::Look &look)
 {
-    for (const QString &item : {u"userGroupsItem"_s, u"usersItem"_s, u"stockItem"_s}) {
-        find<QAction>(window, item).trigger();
+    for (const char *item : {"userGroupsItem", "usersItem", "stockItem"}) {
+        control<QAction>(window, item).trigger();
         Scenes::settle();
-        auto &records = find<QWidget>(window, u"RecordWindow"_s);
-        look(item, records);
+        auto &records = control<QWidget>(window, "RecordWindow");
+        const QString name = QLatin1String(item);
+        look(name, records);
         const QWidget &page = *records.findChild<QTabWidget *>(u"pages"_s)->currentWidget();
-        find<QPushButton>(page, u"addButton"_s).click();
+        control<QPushButton>(page, "addButton").click();
         Scenes::settle();
         auto *sheet = qobject_cast<QDialog *>(QApplication::activeModalWidget());
-        QVERIFY2(sheet, qPrintable(item));
-        look(item + u", sheet"_s, *sheet);
+        QVERIFY2(sheet, item);
+        look(name + u", sheet"_s, *sheet);
         sheet->reject();
     }
-    find<QWidget>(window, u"RecordWindow"_s).close();
+    control<QWidget>(window, "RecordWindow").close();
 }
 
 void visitMessages(Application &application, const Scenes::Look &look)
@@ -88,7 +79,7 @@ void visitMessages(Application &application, const Scenes::Look &look)
     Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = qtTrId("Zip")});
     application.window().close();
     Scenes::settle();
-    auto &question = find<QMessageBox>(application.window(), u"quitQuestion"_s);
+    auto &question = control<QMessageBox>(application.window(), "quitQuestion");
     look(u"question"_s, question);
     look(u"running"_s, application.window());
     job.end(JobOutcome::Succeeded);

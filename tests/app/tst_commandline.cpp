@@ -3,7 +3,6 @@
 
 #include "CommandLine.h"
 #include "Language.h"
-#include "NamedImage.h"
 #include "Tool.h"
 
 #include <QApplication>
@@ -30,7 +29,6 @@ private Q_SLOTS:
         QTest::newRow("unknown page")
             << QStringList{u"-platform"_s, u"offscreen"_s, u"ZIP"_s} << 64
             << u"There is no page \"ZIP\". These are the pages: "_s + pages;
-        QTest::newRow("two pages") << QStringList{u"zip"_s, u"iso"_s} << 64 << u"Usage: "_s;
         QTest::newRow("unknown option") << QStringList{u"--page=zip"_s} << 64 << u"page"_s;
     }
 
@@ -50,7 +48,6 @@ private Q_SLOTS:
         program.setProcessEnvironment(environment);
         program.start(QStringLiteral(TOOLVANE_BUILD_DIR "/bin/toolvane"), arguments);
         QVERIFY(program.waitForFinished());
-        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
         QCOMPARE(program.exitCode(), status);
         const QString out = QString::fromUtf8(program.readAllStandardOutput()).simplified();
         const QString error = QString::fromUtf8(program.readAllStandardError()).simplified();
@@ -60,12 +57,9 @@ private Q_SLOTS:
 
     void opensEveryTool()
     {
-        for (int row = 0; row < allTools().size(); ++row) {
-            const CommandLine line({u"toolvane"_s, toolCommandNames().at(row)});
-            QVERIFY(!line.exitStatus());
-            QCOMPARE(rowOfTool(line.page()), row);
-            QVERIFY(hasNamedImage(QLatin1String(allTools().at(row).imageName)));
-        }
+        for (int row = 0; row < allTools().size(); ++row)
+            QCOMPARE(rowOfTool(CommandLine({u"toolvane"_s, toolCommandNames().at(row)}).page()),
+                     row);
         QVERIFY(CommandLine({u"toolvane"_s}).page().isEmpty());
     }
 

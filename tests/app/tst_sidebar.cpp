@@ -1,86 +1,57 @@
-// Proves that the sidebar draws as it must, follows the pointer, and swaps pages without losing
-// them.
+// Proves that the sidebar draws as it must, swaps pages without losing them, and lists at its foot
+// what runs, whose rows lead to their pages and stop their runs, also by keyboard alone.
 
-#include "AppDelegate.h"
+#include "Application.h"
 #include "ContainerBox.h"
-#include "ElidedLabel.h"
 #include "HoverTableAppDelegate.h"
 #include "HoverTableRowView.h"
 #include "HoverTableView.h"
-#include "JobList.h"
+#include "JobRow.h"
+#include "JobStrip.h"
+#include "PageControls.h"
+#include "RunningMark.h"
 
+#include <QApplication>
 #include <QEnterEvent>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTranslator>
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-int pagesMade = 0;
+constexpr int zip = 3;
 
-QWidget *makeLinePage(JobList &, QWidget *parent)
-{
-    ++pagesMade;
-    auto *page = new QLineEdit(parent);
-    page->setObjectName(u"page%1"_s.arg(pagesMade));
-    return page;
-}
-
-QList<Tool> tools(int count)
-{
-    return QList<Tool>(count, {"Zip", "zip", "zip", makeLinePage});
-}
-
-struct Sidebar {
-    explicit Sidebar(int count) : delegate(tools(count), jobs, app, list)
-    {
-        list.setFixedWidth(220);
-        list.resize(220, 600);
-        list.show();
-        container.show();
-    }
-
-    JobList jobs;
-    AppDelegate app;
-    ContainerBox container;
-    struct Connect {
-        Connect(AppDelegate &app, ContainerBox &container) { app.container = &container; }
-    } connect{app, container};
-    HoverTableView list;
-    HoverTableAppDelegate delegate;
-};
-
-class PaintCounter : public QObject
+class Window
 {
 public:
-    explicit PaintCounter(QWidget *widget) { widget->installEventFilter(this); }
-    int count = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
+    Window()
     {
-        count += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
+        m_application.window().resize(820, 560);
+        m_application.start();
+        if (!QTest::qWaitForWindowActive(&window()))
+            qFatal("the window does not come up");
     }
+    MainWindow &window() { return m_application.window(); }
+    HoverTableView &list() { return window().tableView(); }
+    HoverTableRowView &row(int number) { return *list().rowView(number); }
+    HoverTableAppDelegate &tools() { return m_application.tools(); }
+    JobList &jobs() { return m_application.jobs(); }
+    JobStrip &strip() { return *window().findChild<JobStrip *>(); }
+    ContainerBox &container() { return *m_application.delegate().container; }
+    QList<QPushButton *> buttons()
+    {
+        QList<QPushButton *> shown = strip().findChildren<QPushButton *>();
+        shown.removeIf([](const QPushButton *button) { return !button->isVisible(); });
+        return shown;
+    }
+    Job begin(const std::function<void()> &stop = {})
+    {
+        return jobs().begin({u"ZIPViewController"_s, u"Zip"_s, u"/home/jane/<b>"_s}, stop);
+    }
+
+private:
+    Application m_application;
 };
-
-void movePointerInto(QWidget &row)
-{
-    QEnterEvent event({10, 10}, {10, 10}, {10, 10});
-    QCoreApplication::sendEvent(&row, &event);
-}
-
-void movePointerOutOf(QWidget &row)
-{
-    QEvent event(QEvent::Leave);
-    QCoreApplication::sendEvent(&row, &event);
-}
 
 QColor pixel(QWidget &widget, int x, int y)
 {
@@ -94,162 +65,136 @@ class tst_Sidebar : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init() { pagesMade = 0; }
-    void makesEachPageOnceAndKeepsIt()
+    void initTestCase() { Application::prepare(); }
+
+    void keepsEachPage()
     {
-        Sidebar sidebar(8);
-        QCOMPARE(pagesMade, 8);
-        QCOMPARE(sidebar.delegate.numberOfRowsInTableView(), 8);
-        QCOMPARE(sidebar.container.contentView(), nullptr); // until a row is chosen
-        sidebar.delegate.selectTool(0);
-        auto *first = qobject_cast<QLineEdit *>(sidebar.container.contentView());
-        first->setText(u"typed"_s);
-        QTest::mouseClick(sidebar.list.rowView(5), Qt::LeftButton);
-        QCOMPARE(sidebar.container.contentView(), sidebar.delegate.viewItem(5));
-        QVERIFY(!first->isVisible());
-        sidebar.delegate.selectTool(0);
-        QCOMPARE(first->text(), u"typed"_s);
-        QCOMPARE(pagesMade, 8);
+        Window window;
+        window.tools().selectTool(zip);
+        QWidget *page = window.container().contentView();
+        PageControls::fill(*page, "srcFolderField", u"typed"_s);
+        QTest::mouseClick(&window.row(5), Qt::LeftButton);
+        QCOMPARE(window.container().contentView(), window.tools().viewItem(5));
+        QVERIFY(!page->isVisible());
+        window.tools().selectTool(zip);
+        QCOMPARE(window.container().contentView(), page);
+        QCOMPARE(PageControls::text(*page, "srcFolderField"), u"typed"_s);
     }
 
     void theFirstArrowChoosesTheFirstTool()
     {
-        Sidebar sidebar(3);
-        sidebar.list.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&sidebar.list));
-        sidebar.list.setFocus(Qt::TabFocusReason);
-        QTest::keyClick(&sidebar.list, Qt::Key_Down);
-        QCOMPARE(sidebar.container.contentView(), sidebar.delegate.viewItem(0));
-        const QImage withRing = sidebar.list.rowView(0)->grab().toImage();
-        QTest::mousePress(sidebar.list.rowView(0), Qt::LeftButton);
-        QVERIFY(withRing
-                != sidebar.list.rowView(0)->grab().toImage()); // which the pointer needs not
+        Window window;
+        window.list().setFocus(Qt::TabFocusReason);
+        QTest::keyClick(&window.list(), Qt::Key_Down);
+        QCOMPARE(window.container().contentView(), window.tools().viewItem(0));
+        const QImage withRing = window.row(0).grab().toImage();
+        QTest::mousePress(&window.row(0), Qt::LeftButton); // the pointer needs none
+        QVERIFY(withRing != window.row(0).grab().toImage());
     }
 
-    void theSelectedNameAloneIsBoldAndItsSizeWhole()
-    {
-        Sidebar sidebar(2);
-        ElidedLabel *name = sidebar.list.rowView(1)->textField();
-        for (const int selected : {1, 0}) {
-            QFont font = name->font();
-            font.setPointSizeF(13.7);
-            name->setFont(font);
-            sidebar.delegate.selectTool(selected);
-            QCOMPARE(name->font().bold(), selected == 1);
-            QCOMPARE(name->font().pointSizeF(), 13.0);
-        }
-    }
-
+    // The text behind a tool's key may be a key itself.
     void localisesNamesTwice()
     {
-        // The text behind the first key is itself a key of the table.
-        class Table : public QTranslator
-        {
-        public:
-            bool isEmpty() const override { return false; }
-            QString translate(const char *, const char *id, const char *, int) const override
-            {
-                return QLatin1String(id) == "Zip"_L1  ? u"Again"_s
-                    : QLatin1String(id) == "Again"_L1 ? u"Twice"_s
-                                                      : QString();
-            }
-        } table;
-        QCoreApplication::installTranslator(&table);
-        Sidebar sidebar(1);
-        QCOMPARE(sidebar.delegate.index(0).data().toString(), u"Twice"_s);
+        const PageControls::MarkedTexts marked;
+        Window window;
+        QCOMPARE(window.tools().index(zip).data().toString(), u"[[Zip]]"_s);
     }
 
-    void marksTheRowsWhosePageIsAtWork()
+    void drawsHoverSelectionAndLines()
     {
-        Sidebar sidebar(2);
-        const auto marked = [&](int row) {
-            const auto marks = sidebar.list.rowView(row)->findChildren<QWidget *>();
-            return std::ranges::any_of(marks, [](const QWidget *child) {
-                return !child->accessibleName().isEmpty() && child->isVisible();
-            });
-        };
-        {
-            const Job job = sidebar.jobs.begin({.page = u"page2"_s, .title = {}});
-            QVERIFY(marked(1));
-            QVERIFY(!marked(0));
-            QVERIFY(!sidebar.delegate.index(1)
-                         .data(Qt::AccessibleDescriptionRole)
-                         .toString()
-                         .isEmpty());
-            QVERIFY(
-                sidebar.delegate.index(0).data(Qt::AccessibleDescriptionRole).toString().isEmpty());
-        }
-        QVERIFY(!marked(1));
-    }
-
-    void redrawsOnEnterAndLeaveOnly()
-    {
-        Sidebar sidebar(2);
-        HoverTableRowView &row = *sidebar.list.rowView(0);
-        QVERIFY(QTest::qWaitForWindowExposed(&sidebar.list));
-        PaintCounter paints(&row);
-        QTRY_COMPARE(paints.count, 0);
-        movePointerInto(row);
-        QVERIFY(row.mouseInside());
-        QTRY_COMPARE(paints.count, 1);
-        movePointerInto(row);
-        QTest::mouseMove(&row, {40, 10});
-        QCoreApplication::sendPostedEvents();
-        QCOMPARE(paints.count, 1);
-        movePointerOutOf(row);
-        QVERIFY(!row.mouseInside());
-        QTRY_COMPARE(paints.count, 2);
-    }
-
-    void drawsHoverSelectionAndSeparator()
-    {
-        Sidebar sidebar(2);
-        HoverTableRowView &row = *sidebar.list.rowView(0);
-        QPalette palette = row.palette();
-        palette.setColor(QPalette::Window, QColor(100, 120, 140));
-        row.setPalette(palette);
-        const int middle = row.width() / 2;
-        const int bottom = row.height() - 1;
-        QCOMPARE(row.separatorRect(), QRectF(0, bottom, row.width(), 1));
-
-        QCOMPARE(pixel(row, 3, 3), QColor(100, 120, 140));
-        QCOMPARE(pixel(row, middle, bottom), QColor(204, 204, 204));
-        QVERIFY(pixel(row, 1, bottom) != QColor(204, 204, 204)); // faded out at the ends
-
-        movePointerInto(row);
-        QCOMPARE(pixel(row, middle, 2), QColor(Qt::white));
-        QCOMPARE(pixel(row, 0, 2).red(), 100 + 1);
-        movePointerOutOf(row);
-
-        sidebar.delegate.selectTool(0);
-        QCOMPARE(pixel(row, row.width() - 14, row.height() / 2), QColor(209, 209, 209)); // 0.82
-        QCOMPARE(pixel(row, 2, row.height() / 2), QColor(100, 120, 140)); // outside the inset
-        QVERIFY(pixel(row, 6, 6) != QColor(209, 209, 209)); // outside the round corner
-        row.setSelectionHighlightStyle(HoverTableRowView::SelectionHighlightStyle::None);
-        QCOMPARE(pixel(row, row.width() - 14, row.height() / 2), QColor(100, 120, 140));
-    }
-
-    void drawsLinesBelowTheLastRow_data()
-    {
-        QTest::addColumn<int>("rows");
-        QTest::newRow("some") << 2;
-        QTest::newRow("none") << 0;
-    }
-
-    // The last row draws its own line.
-    void drawsLinesBelowTheLastRow()
-    {
-        QFETCH(int, rows);
-        Sidebar sidebar(rows);
-        const int rowHeight = sidebar.list.rowHeight();
-        const int past = rows * rowHeight;
-        QCOMPARE(sidebar.list.yPositionPastLastRow(), double(past));
-        const QImage list = sidebar.list.viewport()->grab().toImage();
+        Window window;
+        HoverTableRowView &row = window.row(1);
+        const QColor ground = row.palette().color(QPalette::Window);
         const QColor line(204, 204, 204);
-        for (const int y : {past, past + 5, past + rowHeight + 1})
-            QVERIFY(list.pixelColor(110, y) != line);
-        QCOMPARE(list.pixelColor(110, past + rowHeight), line);
-        QCOMPARE(list.pixelColor(110, past + 2 * rowHeight), line);
+        const int middle = row.width() / 2;
+        QCOMPARE(pixel(row, middle, 2), ground);
+        QCOMPARE(pixel(row, middle, row.height() - 1), line);
+        QVERIFY(pixel(row, 1, row.height() - 1) != line); // faded out at the ends
+
+        QEnterEvent enter({10, 10}, {10, 10}, {10, 10});
+        QCoreApplication::sendEvent(&row, &enter);
+        QCOMPARE(pixel(row, middle, 2), QColor(Qt::white));
+        QEvent leave(QEvent::Leave);
+        QCoreApplication::sendEvent(&row, &leave);
+        QCOMPARE(pixel(row, middle, 2), ground);
+        window.tools().selectTool(1);
+        QCOMPARE(pixel(row, row.width() - 14, row.height() / 2), QColor(209, 209, 209));
+        QCOMPARE(pixel(row, 2, row.height() / 2), ground); // outside the inset
+
+        // Below the rows the lines go on; the last row draws its own.
+        const int height = window.list().rowHeight();
+        const int past = window.tools().rowCount() * height;
+        const QImage list = window.list().viewport()->grab().toImage();
+        QVERIFY(list.height() > past + height);
+        QVERIFY(list.pixelColor(110, past) != line);
+        QCOMPARE(list.pixelColor(110, past + height), line);
+    }
+
+    void showsWhatRunsAndMovesNoPage()
+    {
+        Window window;
+        const QRect page = window.container().geometry();
+        const auto isMarked = [&window](int row) {
+            const auto description =
+                window.tools().index(row).data(Qt::AccessibleDescriptionRole).toString();
+            return window.row(row).findChild<RunningMark *>()->isVisible()
+                && !description.isEmpty();
+        };
+        QVERIFY(!window.strip().isVisible());
+        std::vector<Job> jobs;
+        for (int count = 1; count <= 4; ++count) {
+            jobs.push_back(window.begin());
+            QTRY_COMPARE(window.buttons().size(), count);
+            const int oneRow = window.buttons().constFirst()->sizeHint().height();
+            QTRY_COMPARE(window.strip().height(), std::min(count, 3) * oneRow); // then it scrolls
+            QCOMPARE(window.container().geometry(), page);
+            QCOMPARE(window.strip().geometry().bottom(), page.bottom());
+        }
+        QVERIFY(isMarked(zip) && !isMarked(0));
+        QCOMPARE(window.buttons().constFirst()->accessibleName(), u"Zip: /home/jane/<b>"_s);
+        QVERIFY(window.buttons().constFirst()->toolTip().contains(u"/home/jane/&lt;b&gt;"_s));
+        jobs.back().end(JobOutcome::Failed);
+        QCOMPARE(window.tools().viewItem(zip)->accessibleDescription(),
+                 qtTrId("Notice.Failed").arg(u"Zip"_s));
+        jobs.clear();
+        window.begin().end(JobOutcome::Succeeded); // too brief to be shown
+        QVERIFY(!window.strip().isVisible() && !isMarked(zip));
+        QCOMPARE(window.container().geometry(), page);
+    }
+
+    void worksFromTheKeyboard()
+    {
+        Window window;
+        int stopped = 0;
+        const Job job = window.begin([&] { ++stopped; });
+        QTRY_COMPARE(window.buttons().size(), 2);
+        QPushButton *show = window.buttons().constFirst();
+        QPushButton *stop = window.buttons().constLast();
+        QCOMPARE(stop->accessibleName(), qtTrId("Jobs.Stop.Name").arg(u"Zip"_s));
+        for (int presses = 0; presses < 100 && !show->hasFocus(); ++presses)
+            QTest::keyClick(&window.window(), Qt::Key_Tab);
+        QVERIFY(show->hasFocus());
+        QTest::keyClick(show, Qt::Key_Return);
+        QCOMPARE(window.container().contentView(), window.tools().viewItem(zip));
+
+        show->setFocus();
+        QTest::keyClick(&window.window(), Qt::Key_Tab);
+        QVERIFY(stop->hasFocus());
+        QTest::keyClick(stop, Qt::Key_Return);
+        QCOMPARE(stopped, 1);
+        QVERIFY(!stop->isEnabled()); // the run still has to end
+        QVERIFY(window.jobs().running().front().stopRequested);
+    }
+
+    void aRunThatEndsInsideItsStop()
+    {
+        Window window;
+        Job job;
+        job = window.begin([&] { job.end(JobOutcome::Stopped); });
+        QTRY_COMPARE(window.buttons().size(), 2);
+        QTest::mouseClick(window.buttons().constLast(), Qt::LeftButton);
+        QVERIFY(!window.strip().isVisible());
+        QTRY_VERIFY(window.strip().findChildren<JobRow *>().isEmpty());
     }
 };
 

@@ -1,11 +1,8 @@
-#include "Stops.h"
-
 #include "Application.h"
+#include "Stops.h"
 #include "Tour.h"
 
 #include <QAction>
-#include <QLineEdit>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 

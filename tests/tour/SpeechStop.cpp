@@ -16,16 +16,12 @@ void visitSpeech(Tour &tour)
         ->setPlainText(u"Good morning. Here is everything that you asked for."_s);
     tour.picture(u"speech-filled"_s);
     tour.press(page, "saveButton");
-    QFileDialog *chooser = nullptr;
-    tour.await(u"the save chooser comes up"_s, [&] {
-        chooser = page->window()->findChild<QFileDialog *>(u"saveChooser"_s);
-        return chooser && chooser->isVisible();
-    });
+    QFileDialog *chooser = tour.awaitChooser(page, u"saveChooser"_s);
     tour.picture(u"speech-saving"_s);
     chooser->findChild<QLineEdit *>(u"fileNameEdit"_s)->setText(sound);
     tour.expectMessage(u"speech-done"_s);
     QMetaObject::invokeMethod(chooser, "accept", Qt::QueuedConnection);
-    tour.check(tour.awaitMessage() == qtTrId("SaveSuc"), u"the message says that it worked"_s);
+    tour.awaitMessage(qtTrId("SaveSuc"));
     QByteArray type;
     tour.witness(u"soxi"_s, {u"-t"_s, sound}, &type);
     tour.check(type.trimmed() == "aiff", u"soxi calls it AIFF"_s);

@@ -2,16 +2,13 @@
 
 #include "Application.h"
 #include "HoverTableAppDelegate.h"
+#include "HoverTableRowView.h"
 #include "HoverTableView.h"
+#include "PageControls.h"
 
-#include <QApplication>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 #include <QScreen>
-#include <QTest>
 
 #include <cstdio>
 
@@ -33,7 +30,6 @@ Tour::Tour(Application &application, const QDir &pictures)
 {
     m_samples.mkpath(u"samples"_s);
     m_samples.cd(u"samples"_s);
-    QObject::connect(&m_watch, &QTimer::timeout, &m_watch, [this] { answerShownMessage(); });
 }
 
 void Tour::step(const QString &what)
@@ -68,64 +64,65 @@ QWidget *Tour::openTool(const QString &pageClass)
     int row = 0;
     while (tools.viewItem(row)->objectName() != pageClass)
         ++row;
-    HoverTableView &list = m_application.window().tableView();
-    const QModelIndex index = tools.index(row);
-    step(u"open "_s + index.data().toString());
-    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(index).center());
-    QWidget *page = tools.viewItem(row);
-    check(page->isVisible(), u"the page is shown"_s);
-    return page;
+    step(u"open "_s + tools.index(row).data().toString());
+    QTest::mouseClick(m_application.window().tableView().rowView(row), Qt::LeftButton);
+    check(tools.viewItem(row)->isVisible(), u"the page is shown"_s);
+    return tools.viewItem(row);
 }
 
 void Tour::type(QWidget *page, const char *field, const QString &text)
 {
-    auto *edit = page->findChild<QLineEdit *>(QLatin1String(field));
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClicks(edit, text);
-    check(edit->text() == text, QLatin1String(field) + u" reads "_s + text);
+    auto &edit = PageControls::control<QLineEdit>(*page, field);
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClicks(&edit, text);
+    check(edit.text() == text, QLatin1String(field) + u" reads "_s + text);
 }
 
 void Tour::choose(QWidget *page, const char *popUp, int index)
 {
-    auto *box = page->findChild<QComboBox *>(QLatin1String(popUp));
-    box->setCurrentIndex(index);
-    step(u"choose "_s + box->currentText());
+    auto &box = PageControls::control<QComboBox>(*page, popUp);
+    box.setCurrentIndex(index);
+    step(u"choose "_s + box.currentText());
 }
 
 void Tour::press(QWidget *page, const char *button)
 {
-    auto *found = page->findChild<QPushButton *>(QLatin1String(button));
-    check(found && found->isEnabled(), QLatin1String(button) + u" can be pressed"_s);
-    step(u"press "_s + found->text());
+    auto &found = PageControls::control<QPushButton>(*page, button);
+    check(found.isEnabled(), QLatin1String(button) + u" can be pressed"_s);
+    step(u"press "_s + found.text());
     // The press may open a message box with a loop of its own; the tour goes on meanwhile.
-    QMetaObject::invokeMethod(found, &QAbstractButton::click, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(&found, &QAbstractButton::click, Qt::QueuedConnection);
 }
 
 void Tour::expectMessage(const QString &pictureName)
 {
-    m_messagePicture = pictureName;
-    m_message.clear();
-    m_watch.start(20);
+    m_boxes.texts.clear();
+    m_boxes.whileShown = [this, pictureName] { picture(pictureName); };
 }
 
-// A message box has an event loop of its own, in which only a timer finds it.
-void Tour::answerShownMessage()
+void Tour::awaitMessage(const QString &text)
 {
-    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-    if (!box || !box->isVisible())
-        return;
-    m_watch.stop();
-    picture(m_messagePicture);
-    m_message = box->text();
-    box->button(QMessageBox::Ok)->click();
+    await(u"a message comes up"_s, [this] { return !m_boxes.texts.isEmpty(); });
+    check(m_boxes.texts.value(0) == text, u"the message says: "_s + m_boxes.texts.value(0));
 }
 
-QString Tour::awaitMessage()
+void Tour::pressUntilMessage(QWidget *page, const char *button, const QString &pictureName,
+                             const QString &text)
 {
-    await(u"a message comes up"_s, [this] { return !m_message.isEmpty(); });
-    step(u"the message says: "_s + m_message);
-    return m_message;
+    expectMessage(pictureName);
+    press(page, button);
+    awaitMessage(text);
+}
+
+QFileDialog *Tour::awaitChooser(QWidget *page, const QString &name)
+{
+    QFileDialog *chooser = nullptr;
+    await(name + u" comes up"_s, [&] {
+        chooser = page->window()->findChild<QFileDialog *>(name);
+        return chooser && chooser->isVisible();
+    });
+    return chooser;
 }
 
 int Tour::witness(const QString &program, const QStringList &arguments, QByteArray *output)

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QDir>
-#include <QString>
-#include <QTimer>
+#include "MessageBoxes.h"
 
-#include <functional>
+#include <QDir>
 
 class Application;
+class QFileDialog;
 class QWidget;
 
 /// Drives the real window as a person would and keeps account of it: prints each step and check,
@@ -34,10 +33,15 @@ public:
     void type(QWidget *page, const char *field, const QString &text);
     void choose(QWidget *page, const char *popUp, int index);
     void press(QWidget *page, const char *button);
-    /// From now on: when a message box comes up, take a picture of it and press OK.
+    /// From now on: takes a picture of the message box that comes up. Its OK button is pressed.
     void expectMessage(const QString &pictureName);
-    /// Waits until the expected box was answered; its text.
-    QString awaitMessage();
+    /// Waits until the expected box was answered; checks its text.
+    void awaitMessage(const QString &text);
+    /// Both, with a button that leads there.
+    void pressUntilMessage(QWidget *page, const char *button, const QString &pictureName,
+                           const QString &text);
+    /// Waits for the chooser that a button has opened.
+    QFileDialog *awaitChooser(QWidget *page, const QString &name);
     /// Runs a program that had no part in the work, as a witness. Answers its exit status.
     int witness(const QString &program, const QStringList &arguments, QByteArray *output = nullptr);
 
@@ -45,14 +49,10 @@ public:
     QString summary() const;
 
 private:
-    void answerShownMessage();
-
     Application &m_application;
     QDir m_pictures;
     QDir m_samples;
-    QTimer m_watch;
-    QString m_messagePicture;
-    QString m_message;
+    MessageBoxes m_boxes;
     int m_checks = 0;
     int m_failures = 0;
 };

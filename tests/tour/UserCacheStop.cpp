@@ -35,19 +35,15 @@ void visitUserCache(Tour &tour)
     QWidget *page = tour.openTool(u"UserCacheViewController"_s);
     tour.picture(u"cache-locked"_s);
     tour.press(page, "authorizeButton");
-    QFileDialog *chooser = nullptr;
-    tour.await(u"the folder chooser comes up"_s, [&] {
-        chooser = page->window()->findChild<QFileDialog *>(u"folderChooser"_s);
-        return chooser && chooser->isVisible();
-    });
+    QFileDialog *chooser = tour.awaitChooser(page, u"folderChooser"_s);
     chooser->setDirectory(home);
     QMetaObject::invokeMethod(chooser, "accept");
 
     const auto boxText = [page](const char *name) {
         return page->findChild<QCheckBox *>(QLatin1String(name))->text();
     };
-    page->findChild<QCheckBox *>(u"cachesCheckBox"_s)->setChecked(true);
-    page->findChild<QCheckBox *>(u"downloadsCheckBox"_s)->setChecked(true);
+    for (const QString &name : {u"cachesCheckBox"_s, u"downloadsCheckBox"_s})
+        page->findChild<QCheckBox *>(name)->setChecked(true);
     tour.press(page, "checkButton");
     tour.await(u"the sizes stand beside the names"_s, [&] {
         return boxText("cachesCheckBox").contains(u"2.9 MB"_s)

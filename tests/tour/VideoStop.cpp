@@ -22,10 +22,7 @@ void visitVideo(Tour &tour)
     tour.choose(page, "outputFormatPopUp", 2);
     tour.type(page, "outputField", result);
     tour.picture(u"video-filled"_s);
-    tour.expectMessage(u"video-done"_s);
-    tour.press(page, "convertButton");
-    tour.check(tour.awaitMessage() == qtTrId("Convert is completed."),
-               u"the message says that it worked"_s);
+    tour.pressUntilMessage(page, "convertButton", u"video-done"_s, qtTrId("Convert is completed."));
     QByteArray streams;
     tour.witness(u"ffprobe"_s,
                  {u"-v"_s, u"error"_s, u"-show_entries"_s, u"stream=codec_name"_s, result},

@@ -34,20 +34,6 @@ void visitAll(Tour &tour)
     visitRecords(tour);
 }
 
-void resize(QWidget &window, const QString &size)
-{
-    const QStringList sides = size.split(u'x');
-    if (sides.size() == 2)
-        window.resize(sides.first().toInt(), sides.last().toInt());
-}
-
-void scaleFont(double factor)
-{
-    QFont font = QApplication::font();
-    font.setPointSizeF(font.pointSizeF() * factor);
-    Theme::setFont(font);
-}
-
 } // namespace
 
 int main(int argc, char *argv[])
@@ -71,10 +57,13 @@ int main(int argc, char *argv[])
     if (options.isSet(u"pseudo"_s))
         QCoreApplication::installTranslator(&pseudo);
     Theme::install();
-    scaleFont(options.value(u"font-scale"_s).toDouble());
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * options.value(u"font-scale"_s).toDouble());
+    Theme::setFont(font);
     Theme::apply(options.isSet(u"dark"_s) ? Theme::Scheme::Dark : Theme::Scheme::Light);
     Application application;
-    resize(application.window(), options.value(u"size"_s));
+    if (const QStringList sides = options.value(u"size"_s).split(u'x'); sides.size() == 2)
+        application.window().resize(sides.first().toInt(), sides.last().toInt());
     application.start();
     if (!QTest::qWaitForWindowExposed(&application.window()))
         return 1;

@@ -73,31 +73,24 @@ QString Subject::fault(const Contents &before, const Contents &now, const QByteA
     return {};
 }
 
-Subjects::Subjects(const QDir &samples, const QDir &folder) : m_samples(samples), m_folder(folder)
+Subjects::Subjects(const QDir &samples, const QDir &folder)
+    : m_all({{u"HFS image"_s, [this] { return image(true); }},
+             {u"hybrid image"_s, [this] { return image(false); }},
+             {u"movie"_s, [this] { return movie(); }},
+             {u"speech"_s, [this] { return speech(); }},
+             {u"unzip"_s, [this] { return unpacking(); }},
+             {u"placement"_s, [this] { return placement(); }},
+             {u"download"_s, [this] { return download(); }},
+             {u"grant"_s, [this] { return grant(); }},
+             {u"zip in window"_s, [this] { return window(); }}}),
+      m_samples(samples), m_folder(folder)
 {
     m_samples.mkpath(u"home"_s);
 }
 
-QStringList Subjects::names()
-{
-    return {u"HFS image"_s, u"hybrid image"_s, u"movie"_s, u"speech"_s,       u"unzip"_s,
-            u"placement"_s, u"download"_s,     u"grant"_s, u"zip in window"_s};
-}
-
 Subject Subjects::make(const QString &name)
 {
-    const QMap<QString, std::function<Subject()>> all{
-        {u"HFS image"_s, [this] { return image(true); }},
-        {u"hybrid image"_s, [this] { return image(false); }},
-        {u"movie"_s, [this] { return movie(); }},
-        {u"speech"_s, [this] { return speech(); }},
-        {u"unzip"_s, [this] { return unpacking(); }},
-        {u"placement"_s, [this] { return placement(); }},
-        {u"download"_s, [this] { return download(); }},
-        {u"grant"_s, [this] { return grant(); }},
-        {u"zip in window"_s, [this] { return window(); }},
-    };
-    Subject subject = all[name]();
+    Subject subject = m_all[name]();
     const bool isOurs = subject.command.first() == worker;
     TrialRun::Variables variables{{u"HOME"_s, m_samples.filePath(u"home"_s)}};
     if (!isOurs) // its children are the distribution's programs, see plainEnvironment()

@@ -39,7 +39,7 @@ class Subjects
 public:
     Subjects(const QDir &samples, const QDir &folder);
 
-    static QStringList names();
+    QStringList names() const { return m_all.keys(); }
     Subject make(const QString &name);
 
 private:
@@ -53,6 +53,7 @@ private:
     Subject window() const;
     QString sample(const QString &name, qsizetype size) const;
 
+    QMap<QString, std::function<Subject()>> m_all;
     QDir m_samples;
     QDir m_folder;
     Maker m_maker;

@@ -33,9 +33,9 @@ private:
         int status;
         QByteArray words;
     };
-    End run(const Subject &subject) const
+    static End run(const Subject &subject)
     {
-        TrialRun run(subject.command, subject.variables, m_own.filePath(u"log"_s));
+        TrialRun run(subject.command, subject.variables);
         const int status = run.awaitEnd();
         return {status, run.words()};
     }
@@ -56,7 +56,7 @@ void TrialFullDisk::initTestCase()
 void TrialFullDisk::leavesWhatStoodThere_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QString &name : Subjects::names())
+    for (const QString &name : m_subjects->names())
         QTest::newRow(qPrintable(name)) << name;
 }
 
@@ -95,9 +95,10 @@ void TrialFullDisk::leavesWhatStoodThere()
 QStringList TrialFullDisk::hammer(const QString &name, QByteArray &errors) const
 {
     TrialRun run({u"" TOOLVANE_BUILD_DIR "/tests/hammer_child"_s, name, u"3"_s, u"each"_s},
-                 {{u"HOME"_s, m_folder.path()}}, m_own.filePath(u"log"_s));
+                 {{u"HOME"_s, m_folder.path()}});
+    const int status = run.awaitEnd();
     const QByteArray words = run.words();
-    if (run.awaitEnd() != 0)
+    if (status != 0)
         qFatal("%s", words.constData());
     QStringList rows = QString::fromUtf8(words).split(u'\n', Qt::SkipEmptyParts);
     errors = rows.filter(u"[DB]"_s).join(u'\n').toUtf8();

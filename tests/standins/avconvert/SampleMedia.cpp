@@ -1,9 +1,5 @@
 #include "SampleMedia.h"
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-
 using namespace Qt::StringLiterals;
 
 QString SampleMedia::make(const QString &name, const QString &arguments) const
@@ -33,29 +29,13 @@ RunResult convert(const QString &preset, const QString &source, const QString &o
         {u"--preset"_s, preset, u"--source"_s, source, u"--output"_s, output, u"-q"_s});
 }
 
-QJsonObject probe(const QString &path)
+QByteArray probe(const QString &path, const QString &entries, const QString &kind)
 {
-    const RunResult result = runProgram(
-        u"ffprobe"_s,
-        {u"-v"_s, u"error"_s, u"-show_format"_s, u"-show_streams"_s, u"-of"_s, u"json"_s, path});
-    return QJsonDocument::fromJson(result.output).object();
-}
-
-QList<QJsonObject> streamsOf(const QJsonObject &media, const QString &type)
-{
-    QList<QJsonObject> found;
-    const QJsonArray streams = media[u"streams"].toArray();
-    for (const auto &value : streams) {
-        const QJsonObject stream = value.toObject();
-        if (stream[u"codec_type"].toString() == type)
-            found << stream;
-    }
-    return found;
-}
-
-double secondsOf(const QJsonObject &media)
-{
-    return media[u"format"][u"duration"].toString().toDouble();
+    const RunResult result =
+        runProgram(u"ffprobe"_s,
+                   {u"-v"_s, u"error"_s, u"-select_streams"_s, kind, u"-show_entries"_s, entries,
+                    u"-of"_s, u"csv=p=0"_s, path});
+    return result.output.trimmed() + result.errors;
 }
 
 QByteArray complaintsAbout(const QString &path)

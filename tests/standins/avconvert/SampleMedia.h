@@ -2,7 +2,6 @@
 
 #include "StandinRun.h"
 
-#include <QJsonObject>
 #include <QTemporaryDir>
 
 // Media files made for one test, and what ffprobe says about a result.
@@ -25,13 +24,8 @@ private:
 
 RunResult convert(const QString &preset, const QString &source, const QString &output);
 
-// ffprobe's answer: "format" and "streams".
-QJsonObject probe(const QString &path);
-
-// The streams of one type.
-QList<QJsonObject> streamsOf(const QJsonObject &media, const QString &type);
-
-double secondsOf(const QJsonObject &media);
+// ffprobe's answer, a line for each stream of the kind ("v", "a", or all): "h264,160".
+QByteArray probe(const QString &path, const QString &entries, const QString &kind = {});
 
 // What ffmpeg complains about when it decodes picture and sound to the end; empty for a good file.
 QByteArray complaintsAbout(const QString &path);

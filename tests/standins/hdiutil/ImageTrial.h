@@ -2,48 +2,34 @@
 
 #include "StandinRun.h"
 
-#include <QMap>
+#include <QJsonObject>
 #include <QTemporaryDir>
 
-// A folder of its own to make images in, with what the tests of both formats do there. Names are
-// bytes, as the file system has them.
+// What check_hfs.py finds; a contradiction to the format, or no answer, fails the test.
+QJsonObject soundHfs(const QStringList &arguments);
+
+// A folder of its own to make images in, with what the tests of both formats do there.
 class ImageTrial
 {
 public:
-    // Contents of files and targets of links by path; folders are empty and end with "/".
-    using Tree = QMap<QByteArray, QByteArray>;
-
     ImageTrial();
     ~ImageTrial();
     ImageTrial(const ImageTrial &) = delete;
     ImageTrial &operator=(const ImageTrial &) = delete;
 
-    QByteArray path(const QByteArray &name) const { return m_folder + '/' + name; }
     QString image() const { return m_directory.filePath(QStringLiteral("image")); }
     QStringList entries() const { return entriesOf(m_directory.path()); }
 
-    // Makes the folders that a file or link stands in as well; a name that ends with "/" is one.
+    // Makes the folders that it stands in as well. The name is bytes, as the file system has it.
     void makeFile(const QByteArray &name, const QByteArray &content) const;
-    void makeLink(const QByteArray &name, const QByteArray &target) const;
+    // Runs a shell script in the folder; fails the test when the script fails.
+    void require(const QString &script) const;
 
-    // Packs "source" into image() with the arguments that the pages send; `prefix` is a program
-    // that starts it. The status is that of the whole.
+    // Packs "source" into image() with the arguments that the pages send, by a program that starts
+    // the other if there is one.
     RunResult makeImage(bool isHfs, const QString &volumeName = QStringLiteral("Volume"),
-                        const QStringList &prefix = {}) const;
-    static RunResult run(const QStringList &command)
-    {
-        return runProgram(command.first(), command.mid(1));
-    }
-    static QStringList command(bool isHfs, const QString &image, const QString &volumeName,
-                               const QString &source);
-
-    // What stands below a folder on the disk.
-    Tree tree(const QByteArray &name) const;
-
-    // What another program finds in image() when it unpacks it into a folder.
-    Tree unpacked(const QStringList &unpacker) const;
+                        const QStringList &starter = {}) const;
 
 private:
     QTemporaryDir m_directory;
-    QByteArray m_folder;
 };

@@ -38,9 +38,7 @@ void visitZip(Tour &tour)
 
     QWidget *page = tour.openTool(u"ZIPViewController"_s);
     tour.picture(u"zip-empty"_s);
-    tour.expectMessage(u"zip-refused"_s);
-    tour.press(page, "generateButton");
-    tour.awaitMessage();
+    tour.pressUntilMessage(page, "generateButton", u"zip-refused"_s, qtTrId("SrcFolderNull"));
 
     tour.type(page, "srcFolderField", source.path());
     tour.choose(page, "ratioPopUp", 2);
@@ -50,7 +48,7 @@ void visitZip(Tour &tour)
     tour.press(page, "generateButton");
     tour.await(u"the page is busy"_s,
                [page] { return page->findChild<QWidget *>(u"progressIndicator"_s)->isVisible(); });
-    tour.check(tour.awaitMessage() == qtTrId("ZipSuc"), u"the message says that it worked"_s);
+    tour.awaitMessage(qtTrId("ZipSuc"));
     tour.await(u"the page is idle again"_s,
                [page] { return page->findChild<QWidget *>(u"generateButton"_s)->isEnabled(); });
 
@@ -61,4 +59,19 @@ void visitZip(Tour &tour)
                u"unzip unpacks it"_s);
     tour.check(tour.witness(u"diff"_s, {u"-r"_s, source.path(), unpacked}) == 0,
                u"the unpacked folder is the source folder"_s);
+}
+
+void visitUnzip(Tour &tour)
+{
+    const QDir samples = tour.samples();
+    const QString output = samples.filePath(u"unpacked by the page"_s);
+    QWidget *page = tour.openTool(u"UNZIPViewController"_s);
+    tour.type(page, "srcFolderField", samples.filePath(u"holiday.zip"_s));
+    tour.type(page, "outputField", output);
+    tour.pressUntilMessage(page, "generateButton", u"unzip-done"_s, qtTrId("UnzipSuc"));
+    tour.check(tour.witness(u"diff"_s,
+                            {u"-r"_s, samples.filePath(u"holiday/album 1"_s),
+                             output + u"/holiday/album 1"_s})
+                   == 0,
+               u"the new folder holds what was packed"_s);
 }
