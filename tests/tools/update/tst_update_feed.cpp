@@ -1,12 +1,29 @@
-// Proves that a feed of any origin is read for what it says or refused, and never more than that.
+// Proves that a feed of any origin is read for what it says or refused, and that of its versions
+// none is offered that should not be.
 
 #include "Maker.h"
-#include "UpdateFeed.h"
+#include "UpdateOffer.h"
 
 #include <QElapsedTimer>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+const UpdateItem good{.version = {1, 4},
+                      .shortVersion = u"1.4"_s,
+                      .address = "https://h/f",
+                      .length = 10,
+                      .signature = QByteArray(64, 's')};
+const UpdateRules rules{.installed = {1, 2},
+                        .system = {6, 1},
+                        .systemName = u"linux"_s,
+                        .channel = u"beta"_s,
+                        .withdrawn = {{1, 3}}};
+
+} // namespace
 
 class TestUpdateFeed : public QObject
 {
@@ -22,11 +39,13 @@ private Q_SLOTS:
             "<description c:format=\"plain-text\">a &amp; b</description><c:deltas>"
             "<enclosure url=\"https://no/\"/></c:deltas>";
         const auto feed = UpdateFeed::read(Maker::feed(
-            maker.item("1.20.0", "https://h/f", "file", more) + Maker::withdrawn("1.10"),
+            maker.item("1.20.0", "https://h/f", "file", more) + Maker::withdrawn("1.10")
+                + "<item><enclosure url=\"https://h/f\" c:version=\"3.1\" c:os=\"macos\" "
+                  "c:edSignature=\"?\" length=\"many\"/></item>",
             "Mon, 02 Mar 2026 12:00:00 +0200"));
         QVERIFY(feed);
         QCOMPARE(feed->date, QDateTime(QDate(2026, 3, 2), QTime(10, 0), Qt::UTC));
-        QCOMPARE(feed->items.size(), 2);
+        QCOMPARE(feed->items.size(), 3);
         const UpdateItem &item = feed->items.first();
         QCOMPARE(item.version, QVersionNumber(1, 20));
         QCOMPARE(item.shortVersion, u"2 <b>"_s);
@@ -37,24 +56,12 @@ private Q_SLOTS:
         QCOMPARE(item.address, "https://h/f");
         QCOMPARE(item.length, 4);
         QCOMPARE(item.signature, maker.sign("file"));
-        QVERIFY(!item.withdrawn);
-        QVERIFY(feed->items.at(1).withdrawn);
-        QCOMPARE(feed->items.at(1).shortVersion, u"1.10"_s);
-    }
-
-    void readsVersionsOnTheEnclosureToo()
-    {
-        const auto feed = UpdateFeed::read(
-            Maker::feed("<item><description>&lt;p&gt;x</description>"
-                        "<enclosure url=\"https://h/f\" c:version=\"3.1\" c:os=\"macos\" "
-                        "c:edSignature=\"?\" length=\"many\"/></item>"));
-        QVERIFY(feed);
-        const UpdateItem item = feed->items.value(0);
-        QCOMPARE(item.version, QVersionNumber(3, 1));
-        QCOMPARE(item.system, u"macos"_s);
-        QCOMPARE(item.signature, QByteArray());
-        QCOMPARE(item.length, 0);
-        QCOMPARE(item.notesFormat, UpdateItem::NotesFormat::Html);
+        QVERIFY(!item.withdrawn && feed->items.at(1).withdrawn);
+        const UpdateItem &onEnclosure = feed->items.at(2);
+        QCOMPARE(onEnclosure.version, QVersionNumber(3, 1));
+        QCOMPARE(onEnclosure.system, u"macos"_s);
+        QCOMPARE(onEnclosure.signature, QByteArray());
+        QCOMPARE(onEnclosure.length, 0);
     }
 
     void takesOnlyNumbersForVersions()
@@ -65,27 +72,18 @@ private Q_SLOTS:
             QVERIFY2(versionOf(text).isNull(), qPrintable(text));
     }
 
-    void refusesWhatIsNoFeed_data()
-    {
-        QTest::addColumn<QByteArray>("bytes");
-        const QByteArray good = Maker::feed("");
-        QTest::newRow("nothing") << QByteArray();
-        QTest::newRow("no XML") << QByteArray("<!doctype html><p>404<br>");
-        QTest::newRow("another document") << QByteArray("<plist/>");
-        QTest::newRow("no channel") << QByteArray("<rss/>");
-        QTest::newRow("cut short") << good.chopped(12);
-        QTest::newRow("something behind it") << good + "<rss/>";
-        QTest::newRow("document type") << "<!DOCTYPE rss>" + good;
-        QTest::newRow("entities") << "<!DOCTYPE rss [<!ENTITY a \"b\">]>" + good;
-        QTest::newRow("too many items")
-            << Maker::feed(Maker::withdrawn("1").repeated(UpdateFeed::mostItems + 1));
-        QTest::newRow("too long") << good + QByteArray(UpdateFeed::mostBytes, '\n');
-        QTest::newRow("broken text") << Maker::feed("<item><title>\xff\xfe</title></item>");
-    }
     void refusesWhatIsNoFeed()
     {
-        QFETCH(QByteArray, bytes);
-        QVERIFY(!UpdateFeed::read(bytes));
+        const QByteArray good = Maker::feed("");
+        QVERIFY(UpdateFeed::read(good));
+        for (const QByteArray &bytes :
+             {QByteArray(), QByteArray("<!doctype html><p>404<br>"), QByteArray("<plist/>"),
+              QByteArray("<rss/>"), good.chopped(12), good + "<rss/>",
+              "<!DOCTYPE rss [<!ENTITY a \"b\">]>" + good,
+              Maker::feed(Maker::withdrawn("1").repeated(UpdateFeed::mostItems + 1)),
+              good + QByteArray(UpdateFeed::mostBytes, '\n'),
+              Maker::feed("<item><title>\xff\xfe</title></item>")})
+            QVERIFY2(!UpdateFeed::read(bytes), bytes.left(80).constData());
     }
 
     void spendsLittleOnHostileFeeds()
@@ -97,22 +95,17 @@ private Q_SLOTS:
             QByteArray("<a>").repeated(35'000) + QByteArray("</a>").repeated(35'000);
         QElapsedTimer timer;
         timer.start();
+        const QByteArray text(100'000, 'x');
+        const auto longTexts = UpdateFeed::read(
+            Maker::feed("<item><c:version>1</c:version><c:shortVersionString>" + text
+                        + "</c:shortVersionString><description>" + text + "</description></item>"));
+        QVERIFY(longTexts && longTexts->items.first().shortVersion.size() <= 200);
+        QVERIFY(longTexts->items.first().notes.size() <= 16 * 1024);
         for (const QByteArray &items : {deep, "<item" + attributes + "/>"}) {
             const auto feed = UpdateFeed::read(Maker::feed(items));
             QVERIFY(!feed || feed->items.isEmpty());
         }
         QVERIFY2(timer.elapsed() < 30'000, "it works off its input more than once");
-    }
-
-    void keepsTextsShort()
-    {
-        const auto feed = UpdateFeed::read(
-            Maker::feed("<item><c:version>1</c:version><c:shortVersionString>"
-                        + QByteArray(100'000, 'x') + "</c:shortVersionString><description>"
-                        + QByteArray(100'000, 'y') + "</description></item>"));
-        QVERIFY(feed);
-        QVERIFY(feed->items.first().shortVersion.size() <= 200);
-        QVERIFY(feed->items.first().notes.size() <= 16 * 1024);
     }
 
     void splitsTheSignatureOff()
@@ -131,6 +124,60 @@ private Q_SLOTS:
         // Only the last one counts, over all that stands before it.
         const QByteArray twice = maker.sealed(sealed);
         QCOMPARE(SignedFeed::split(twice).feed.toByteArray(), sealed);
+    }
+
+    void judgesEachVersion_data()
+    {
+        QTest::addColumn<bool>("isOffered");
+        QTest::addColumn<UpdateItem>("item");
+        const auto row = [](const char *name, bool isOffered, const auto &change) {
+            UpdateItem item = good;
+            change(item);
+            QTest::newRow(name) << isOffered << item;
+        };
+        row("good", true, [](UpdateItem &) {});
+        row("the installed one", false, [](UpdateItem &i) { i.version = {1, 2}; });
+        row("withdrawn", false, [](UpdateItem &i) { i.withdrawn = true; });
+        row("for this system", true, [](UpdateItem &i) { i.system = u"linux"_s; });
+        row("for another system", false, [](UpdateItem &i) { i.system = u"macos"_s; });
+        row("for this system's version", true, [](UpdateItem &i) { i.minimumSystem = {6, 1}; });
+        row("for a newer system", false, [](UpdateItem &i) { i.minimumSystem = {6, 2}; });
+        row("for the user's channel", true, [](UpdateItem &i) { i.channel = u"beta"_s; });
+        row("for another channel", false, [](UpdateItem &i) { i.channel = u"alpha"_s; });
+        row("taken back earlier", false, [](UpdateItem &i) { i.version = {1, 3}; });
+        row("signed by half", false, [](UpdateItem &i) { i.signature.chop(1); });
+        row("without a length", false, [](UpdateItem &i) { i.length = 0; });
+        row("over plain http", false, [](UpdateItem &i) { i.address = "http://h/f"; });
+    }
+    void judgesEachVersion()
+    {
+        QFETCH(UpdateItem, item);
+        QFETCH(bool, isOffered);
+        QCOMPARE(chooseOffer({.items = {item}}, rules).has_value(), isOffered);
+    }
+
+    void offersTheNewestThatIsNotWithdrawn()
+    {
+        UpdateItem newer = good;
+        newer.version = {1, 10};
+        const auto offer = chooseOffer({.items = {good, newer}}, rules);
+        QVERIFY(offer && offer->version == QVersionNumber(1, 10));
+        UpdateItem takenBack = newer;
+        takenBack.withdrawn = true;
+        QVERIFY(!chooseOffer({.items = {newer, takenBack}}, rules));
+    }
+
+    void tellsSafeAddresses()
+    {
+        for (const char *address :
+             {"HTTPS://h/f", "http://127.0.0.1/f", "http://127.0.0.1:8080/f", "http://[::1]:80/f"})
+            QVERIFY2(isSafeAddress(address), address);
+        for (const char *address :
+             {"", "http://h/f", "https://", "file:///etc/passwd", "/f",
+              "http://127.0.0.1.elsewhere/f", "http://127.0.0.1@elsewhere/f",
+              "http://127.0.0.1:80@elsewhere/f", "http://127.0.0.1\\@elsewhere/f",
+              "http://[::1]elsewhere/f", " https://h/f", "http://localhost/f"})
+            QVERIFY2(!isSafeAddress(address), address);
     }
 };
 

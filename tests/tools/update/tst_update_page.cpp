@@ -7,7 +7,6 @@
 #include "MiscTool.h"
 #include "PageControls.h"
 #include "UpdateCheckView.h"
-#include "UpdateViewController.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -92,7 +91,7 @@ private Q_SLOTS:
         QVERIFY(says("Update.Result.Available"));
     }
 
-    void showsServerTextsAsPlainText()
+    void showsPlainTextAndNoDownloadWithoutAKey()
     {
         publish(offered("1.3",
                         "<c:shortVersionString>&lt;b&gt;1.3&lt;/b&gt; %1</c:shortVersionString>"
@@ -106,12 +105,9 @@ private Q_SLOTS:
         const QString notes = control<QPlainTextEdit>(*m_view, "notesText").toPlainText();
         QVERIFY2(notes.startsWith(u"one"_s) && notes.endsWith(u"three"_s), qPrintable(notes));
         QVERIFY(!notes.contains(u'<'));
-    }
 
-    void offersNoDownloadWithoutAKey()
-    {
+        open({}); // built without the maker's key: nothing can be believed, so nothing is fetched
         m_server.set("/feed.xml", Maker::feed(offered("1.3")));
-        open({});
         check();
         QVERIFY(says("Update.Result.Available"));
         QCOMPARE(label("detailLabel"), qtTrId("Update.NoKey"));
@@ -135,7 +131,6 @@ private Q_SLOTS:
         };
         expect("Update.Result.NotReached", qtTrId("Update.Problem.Status").arg(503),
                HttpPeer::reply("", "503 No"));
-        expect("Update.Result.NotReached", qtTrId("Update.Problem.Unreachable"), {});
         expect("Update.Result.NotTrusted", qtTrId("Update.Problem.WrongSignature"),
                HttpPeer::reply(Maker().sealed(Maker::feed(offered("1.3")))));
     }
@@ -167,7 +162,6 @@ private Q_SLOTS:
         open(m_maker.publicKey);
         QTest::keyClick(m_view.get(), Qt::Key_Return);
         QTRY_VERIFY(says("Update.Result.Available"));
-        QVERIFY(control<QPushButton>(*m_view, "downloadButton").isDefault());
         QSignalSpy ended(&m_jobs, &JobList::jobEnded);
         QTest::keyClick(m_view.get(), Qt::Key_Return);
         QCOMPARE(m_jobs.running().size(), 1U);
@@ -181,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(m_opened.size(), 2);
     }
 
-    void stopsADownload()
+    void stopsADownloadAndLeavesNothingBehind()
     {
         startEndlessDownload();
         auto &bar = control<QProgressBar>(*m_view, "progressIndicator");
@@ -189,26 +183,10 @@ private Q_SLOTS:
         press(*m_view, "stopButton");
         QTRY_VERIFY(says("Update.Result.Available"));
         QVERIFY(m_jobs.isEmpty() && downloads().isEmpty() && m_opened.isEmpty());
-        m_server.set("/files/new.bin", m_file);
         press(*m_view, "downloadButton");
-        QTRY_COMPARE(downloads(), QStringList{u"new.bin"_s});
-    }
-
-    void goesAwayInTheMiddleOfADownload()
-    {
-        startEndlessDownload();
-        QSignalSpy allEnded(&m_jobs, &JobList::allEnded);
-        m_view.reset();
-        QTRY_COMPARE(allEnded.size(), 1);
-        m_jobs.stopAll();
+        m_view.reset(); // goes away in the middle
+        QTRY_VERIFY(m_jobs.isEmpty());
         QVERIFY(downloads().isEmpty());
-    }
-
-    void pageHoldsItsLabelAndTheCheck()
-    {
-        UpdateViewController page(m_jobs);
-        QCOMPARE(control<QLabel>(page, "updateLabel").text(), qtTrId("Update"));
-        QVERIFY(control<QWidget>(page, "updateCheck").findChild<QPushButton *>(u"checkButton"_s));
     }
 
 private:

@@ -9,10 +9,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <thread>
+#include <atomic>
 
 using namespace Qt::StringLiterals;
-using namespace std::chrono_literals;
 using Kind = UpdateProblem::Kind;
 
 Q_DECLARE_METATYPE(MakersServer::Answer)
@@ -64,7 +63,6 @@ private Q_SLOTS:
         addRow("changed afterwards", QByteArray(good).replace("1.1", "1.9"), Kind::WrongSignature);
         addRow("error", MakersServer::status("500 Oh"), Kind::Status);
         addRow("redirects to a file", MakersServer::redirect("file:///etc/passwd"), Kind::Status);
-        addRow("redirects", MakersServer::redirect("http://example.invalid/"), Kind::Status);
         addRow("endless", MakersServer::endless(feed), Kind::TooLarge);
     }
     void believesFeedsByTheirSignatureAndDate()
@@ -103,6 +101,7 @@ private Q_SLOTS:
         m_server.set(filePath, QByteArray("new"));
         QCOMPARE(fetch(item("new"), folder.path()).path,
                  folder.filePath(u"toolvane-1.4 3.tar.gz"_s));
+        QCOMPARE(fetch(item("new"), fetched.path).problem.kind, Kind::NotWritten); // no folder
         QFile written(fetched.path);
         QVERIFY(written.open(QIODevice::ReadOnly));
         QCOMPARE(written.readAll(), file);
@@ -131,35 +130,6 @@ private Q_SLOTS:
         const FetchedFile fetched = fetch(item(QByteArray(300'000, 'f')), folder.path());
         QTEST(fetched.problem.kind, "problem");
         QVERIFY(fetched.path.isEmpty());
-        QVERIFY(isEmpty(folder));
-    }
-
-    void saysWhenItCannotWrite()
-    {
-        const QTemporaryDir folder;
-        QFile inTheWay(folder.filePath(u"Downloads"_s));
-        QVERIFY(inTheWay.open(QIODevice::WriteOnly));
-        const FetchedFile fetched = fetch(item("new"), inTheWay.fileName());
-        QCOMPARE(fetched.problem.kind, Kind::NotWritten);
-        QVERIFY(!fetched.problem.detail.isEmpty());
-    }
-
-    void stopsOnRequest()
-    {
-        const QTemporaryDir folder;
-        const QByteArray file(300'000, 'f');
-        const QByteArray part = HttpPeer::reply(file).first(1000);
-        m_server.set(filePath, MakersServer::silent(part));
-        std::stop_source source;
-        m_received = 0;
-        const std::jthread stopper([&source, this] {
-            while (m_received == 0)
-                std::this_thread::sleep_for(1ms);
-            source.request_stop();
-        });
-        const FetchedFile fetched =
-            fetchFile(item(file), m_maker.publicKey, folder.path(), m_received, source.get_token());
-        QCOMPARE(fetched.problem.kind, Kind::Stopped);
         QVERIFY(isEmpty(folder));
     }
 

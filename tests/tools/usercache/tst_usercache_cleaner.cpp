@@ -1,30 +1,118 @@
-// Proves in which order a cleaner works and reports, where it measures and where it deletes.
+// Proves in which order a cleaner works and reports, where it measures and where it deletes, and
+// that its run ends well whatever happens to who wanted it.
 
 #include "CacheCleaner.h"
+#include "CacheRun.h"
 #include "DiskUsage.h"
+#include "JobList.h"
 #include "SecurityScopedAccess.h"
-#include "ShownPage.h"
+#include "TestHome.h"
+
+#include <QSignalSpy>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
-namespace
+class CleanerTest : public QObject
 {
+    Q_OBJECT
 
-const CacheSelection everything = CacheSelection().set();
-
-/// Each update in words, with the number of accesses held while it was made.
-class Recorder
-{
-public:
-    CacheCleaner cleaner(const QUrl &folder, CacheSelection ticked, std::stop_token stop = {})
+private Q_SLOTS:
+    void init()
     {
-        return CacheCleaner(
-            folder, ticked, [this](const CacheUpdate &update) { note(update); }, std::move(stop));
+        TestHome::reset();
+        TestHome::makeFile("Logs/a", 100);
+        TestHome::makeFile(".Trash/b", 20);
+        TestHome::makeFile("Documents/c", 1);
+        m_updates.clear();
     }
 
-    QStringList updates;
+    // The measuring step inside a clean ends as any other does, so the page is idle once early.
+    void reportsInOrder()
+    {
+        const int opened = SecurityScopedAccess::openedSoFar();
+        cleaner(home(), "11010").checkDisk();
+        QCOMPARE(m_updates,
+                 QStringList({u"1: 100 | 1"_s, u"3: 0 | 1"_s, u"4: 20 | 1"_s, u"idle | 1"_s}));
+        QCOMPARE(SecurityScopedAccess::openedSoFar() - opened, 1);
+        m_updates.clear();
+        TestHome::grant();
+        cleaner({}, "00010").cleanDisk();
+        QCOMPARE(m_updates,
+                 QStringList({u"resolved %1 | 0"_s.arg(MiscTool::getUserHome()), u"1: 0 | 2"_s,
+                              u"idle | 2"_s, u"disk | 1"_s, u"idle | 1"_s}));
+        QCOMPARE(SecurityScopedAccess::openedSoFar() - opened, 3);
+        QCOMPARE(SecurityScopedAccess::heldNow(), 0);
+        QVERIFY(!TestHome::exists("Logs") && TestHome::exists(".Trash/b"));
+    }
+
+    void measuresBelowTheGrantAndDeletesBelowHome()
+    {
+        const QByteArray granted = SampleTree::makeRoot();
+        SampleTree::makeFile(granted + "/Logs/kept", "1234567");
+        cleaner(QUrl::fromLocalFile(QFile::decodeName(granted)), "00010").cleanDisk();
+        QCOMPARE(m_updates.first(), u"1: 7 | 2"_s);
+        QVERIFY(SampleTree::exists(granted + "/Logs/kept"));
+        QVERIFY(!TestHome::exists("Logs"));
+    }
+
+    void neverMeasuresAtTheRoot()
+    {
+        QCOMPARE(CacheCleaner::measuredFolder(u"/"_s, 1), QString());
+        cleaner({}, "00010").checkDisk();
+        QCOMPARE(m_updates, QStringList({u"1: 0 | 1"_s, u"idle | 1"_s}));
+    }
+
+    void usedPercentage()
+    {
+        constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
+        QCOMPARE(DiskUsage({.total = 0, .free = 0}).usedPercentage(), 0);
+        QCOMPARE(DiskUsage({.total = most, .free = most / 4}).usedPercentage(), 75);
+        QCOMPARE(DiskUsage({.total = 1000, .free = 1}).usedPercentage(), 99); // no fraction
+    }
+
+    void stoppedRunDeletesNothingMore()
+    {
+        JobList jobs;
+        QSignalSpy ended(&jobs, &JobList::jobEnded);
+        const auto turn = std::make_shared<std::mutex>();
+        std::unique_lock held(*turn); // the run waits for its turn
+        TestHome::grant();
+        auto *run = new CacheRun(cleanEverything, jobs, {.page = {}, .title = u"Clean"_s}, turn);
+        connect(run, &CacheRun::updated, this, [this](const CacheUpdate &update) { note(update); });
+        jobs.stopAll();
+        held.unlock();
+        QTRY_VERIFY(jobs.isEmpty());
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+        QCOMPARE(m_updates.filter(u"idle"_s).size(), 2); // a page would be idle again
+        QVERIFY(TestHome::exists("Logs/a") && TestHome::exists(".Trash/b"));
+    }
+
+    // Where the program ends without having asked, it still waits for the thread.
+    void listDestroyedWhileItRuns()
+    {
+        TestHome::grant();
+        SampleTree::makeNested(TestHome::path() + "/Logs", 10, 50);
+        auto jobs = std::make_unique<JobList>();
+        new CacheRun(cleanEverything, *jobs, {.page = {}, .title = u"Clean"_s},
+                     std::make_shared<std::mutex>());
+        jobs.reset();
+        const SampleTree::Snapshot after = SampleTree::snapshot(TestHome::path());
+        QTest::qWait(20);
+        QCOMPARE(SampleTree::difference(after, SampleTree::snapshot(TestHome::path())),
+                 QList<QByteArray>());
+        QVERIFY(TestHome::exists("Documents/c"));
+    }
 
 private:
+    static QUrl home() { return QUrl::fromLocalFile(MiscTool::getUserHome()); }
+    CacheCleaner cleaner(const QUrl &folder, const char *ticked)
+    {
+        return CacheCleaner(
+            folder, CacheSelection(ticked), [this](const CacheUpdate &update) { note(update); },
+            std::stop_token());
+    }
+    /// In words, with the number of accesses held while it was made.
     void note(const CacheUpdate &update)
     {
         QString what = u"idle"_s;
@@ -34,111 +122,13 @@ private:
             what = u"%1: %2"_s.arg(measured->category).arg(measured->bytes);
         else if (std::holds_alternative<DiskChanged>(update))
             what = u"disk"_s;
-        updates += u"%1 | %2"_s.arg(what).arg(SecurityScopedAccess::heldNow());
+        m_updates += u"%1 | %2"_s.arg(what).arg(SecurityScopedAccess::heldNow());
     }
+
+    const CacheRun::Request cleanEverything{
+        .work = CacheRun::Work::Clean, .bookmarkURL = {}, .ticked = CacheSelection().set()};
+    QStringList m_updates;
 };
 
-QUrl home()
-{
-    return QUrl::fromLocalFile(MiscTool::getUserHome());
-}
-
-} // namespace
-
-class CleanerTest : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void init() { TestHome::reset(); }
-
-    void checkReportsInOrder()
-    {
-        TestHome::makeFile("Logs/a", 100);
-        TestHome::makeFile(".Trash/b", 20);
-        TestHome::makeFile("Downloads/not ticked", 1);
-        const int opened = SecurityScopedAccess::openedSoFar();
-        Recorder recorder;
-        recorder.cleaner(home(), CacheSelection("11010")).checkDisk();
-        QCOMPARE(recorder.updates,
-                 QStringList({u"1: 100 | 1"_s, u"3: 0 | 1"_s, u"4: 20 | 1"_s, u"idle | 1"_s}));
-        QCOMPARE(SecurityScopedAccess::openedSoFar() - opened, 1);
-        QCOMPARE(SecurityScopedAccess::heldNow(), 0);
-    }
-
-    // The measuring step inside ends as any other does, so the page is idle once early.
-    void cleanReportsInOrder()
-    {
-        TestHome::makeFile("Logs/a", 100);
-        const int opened = SecurityScopedAccess::openedSoFar();
-        Recorder recorder;
-        recorder.cleaner(home(), CacheSelection("00010")).cleanDisk();
-        QCOMPARE(recorder.updates,
-                 QStringList({u"1: 0 | 2"_s, u"idle | 2"_s, u"disk | 1"_s, u"idle | 1"_s}));
-        QCOMPARE(SecurityScopedAccess::openedSoFar() - opened, 2);
-        QCOMPARE(SecurityScopedAccess::heldNow(), 0);
-    }
-
-    void measuresBelowTheGrantAndDeletesBelowHome()
-    {
-        const QByteArray granted = SampleTree::makeRoot();
-        SampleTree::makeFile(granted + "/Logs/kept", "1234567");
-        TestHome::makeFile("Logs/gone", 100);
-        Recorder recorder;
-        recorder.cleaner(QUrl::fromLocalFile(QFile::decodeName(granted)), CacheSelection("00010"))
-            .cleanDisk();
-        QCOMPARE(recorder.updates.first(), u"1: 7 | 2"_s);
-        QVERIFY(SampleTree::exists(granted + "/Logs/kept"));
-        QVERIFY(!TestHome::exists("Logs"));
-    }
-
-    void resolvesAnUnsetGrant()
-    {
-        TestHome::makeFile("Logs/a", 100);
-        TestHome::grant();
-        Recorder recorder;
-        recorder.cleaner(QUrl(), CacheSelection("00010")).cleanDisk();
-        QCOMPARE(recorder.updates.first(), u"resolved %1 | 0"_s.arg(MiscTool::getUserHome()));
-        QCOMPARE(recorder.updates.filter(u"resolved"_s).size(), 1);
-        QVERIFY(!TestHome::exists("Logs"));
-    }
-
-    void neverMeasuresAtTheRoot()
-    {
-        QCOMPARE(CacheCleaner::measuredFolder({}, 1), QString());
-        QCOMPARE(CacheCleaner::measuredFolder(u"/"_s, 1), QString());
-        QCOMPARE(CacheCleaner::measuredFolder(u"/home/ä"_s, 0), u"/home/ä/Library/Caches"_s);
-        Recorder recorder;
-        recorder.cleaner(QUrl(), CacheSelection("00010")).checkDisk();
-        QCOMPARE(recorder.updates, QStringList({u"1: 0 | 1"_s, u"idle | 1"_s}));
-    }
-
-    void stopBeginsNoFurtherCategory()
-    {
-        TestHome::makeFile("Logs/a", 100);
-        TestHome::makeFile("Downloads/b", 100);
-        std::stop_source stop;
-        stop.request_stop();
-        Recorder recorder;
-        recorder.cleaner(home(), everything, stop.get_token()).cleanDisk();
-        QCOMPARE(recorder.updates, QStringList({u"idle | 2"_s, u"disk | 1"_s, u"idle | 1"_s}));
-        QVERIFY(TestHome::exists("Logs/a"));
-        QVERIFY(TestHome::exists("Downloads/b"));
-    }
-
-    void usedPercentage()
-    {
-        const auto used = [](std::int64_t total, std::int64_t free) {
-            return DiskUsage({.total = total, .free = free}).usedPercentage();
-        };
-        constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-        QCOMPARE(used(1000, 1), 99); // the fraction is dropped
-        QCOMPARE(used(1000, 0), 100);
-        QCOMPARE(used(1000, 1000), 0);
-        QCOMPARE(used(0, 0), 0);
-        QCOMPARE(used(most, most / 4), 75);
-    }
-};
-
-QTEST_MAIN(CleanerTest)
+QTEST_GUILESS_MAIN(CleanerTest)
 #include "tst_usercache_cleaner.moc"
