@@ -2,10 +2,17 @@
 // times and then says nothing.
 
 #include "AboutPageTest.h"
+#include "Application.h"
+#include "ContainerBox.h"
+#include "HoverTableAppDelegate.h"
+#include "HoverTableView.h"
 #include "IconName.h"
 #include "NamedImage.h"
 
+#include <QAction>
 #include <QElapsedTimer>
+#include <QMenuBar>
+#include <QToolBar>
 
 using namespace Qt::StringLiterals;
 using namespace PageControls;
@@ -32,6 +39,35 @@ class TestAboutPage : public AboutPageTest
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { Application::prepare(); }
+
+    // In the window it is made and loads only when it is asked for, and once.
+    void opensOnRequestOnly()
+    {
+        serve(AppsPlist::list(AppsPlist::app("zip", "A")));
+        Application application;
+        application.start();
+        MainWindow &window = application.window();
+        application.tools().selectTool(3);
+        QTest::qWait(50);
+        QVERIFY(m_server->paths().isEmpty() && !window.findChild<AboutViewController *>());
+
+        auto *item = window.findChild<QAction *>(u"aboutItem"_s);
+        QVERIFY(window.findChild<QToolBar *>()->actions().contains(item));
+        QVERIFY(window.findChild<QMenu *>(u"helpMenu"_s)->actions().contains(item));
+        item->trigger();
+        auto *page = window.findChild<AboutViewController *>();
+        QCOMPARE(application.delegate().container->contentView(), page);
+        QVERIFY(!window.tableView().selectionModel()->hasSelection());
+        QTRY_COMPARE(page->data.size(), 1);
+
+        application.tools().selectTool(3); // the same tool once more
+        QCOMPARE(application.delegate().container->contentView(), application.tools().viewItem(3));
+        item->trigger();
+        QCOMPARE(application.delegate().container->contentView(), page);
+        QCOMPARE(m_server->paths(), QList<QByteArray>{"/conf/Apps.plist"}); // one page, loaded once
+    }
+
     void listsAndOpensWhatTheServerSays()
     {
         serve(AppsPlist::list(twoApps(), social));

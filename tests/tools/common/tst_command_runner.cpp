@@ -1,0 +1,249 @@
+// A run of a command ends in exactly one of five ways, through the event loop, and leaves no
+// process behind. That pages which go take their runs along is tested with the pages.
+
+#include "CommandRunner.h"
+#include "PageAction.h"
+#include "ProgramPath.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <unistd.h>
+
+#include <csignal>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+using End = CommandResult::End;
+
+namespace
+{
+
+QCoro::Task<> runTwiceAndFail(CommandRunner *runner, JobList *jobs, Command command,
+                              JobDescription description, std::vector<bool> *listed)
+{
+    for (int i = 0; i < 2; ++i) {
+        co_await runner->run(command, description);
+        listed->push_back(!jobs->isEmpty());
+    }
+    throw std::runtime_error("no such\nthing");
+}
+
+/// One that has ended and is only not reaped yet does not run.
+bool processRuns(const QByteArray &pid)
+{
+    QFile status(u"/proc/%1/stat"_s.arg(QString::fromLatin1(pid.trimmed())));
+    if (!status.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray line = status.readAll();
+    return line.mid(line.lastIndexOf(')') + 2, 1) != "Z";
+}
+
+} // namespace
+
+class CommandRunnerTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_runner = std::make_unique<CommandRunner>(m_jobs);
+    }
+    void cleanup()
+    {
+        m_runner.reset();
+        QTRY_VERIFY(m_jobs.isEmpty());
+        QCoreApplication::processEvents(); // what is still to be told about it
+    }
+
+    void endsByItself()
+    {
+        QVERIFY(runToEnd(behaviour({u"exit"_s, u"0"_s})).succeeded());
+        QCOMPARE(runToEnd(behaviour({u"exit"_s, u"12"_s})).exitStatus(), 12);
+        const CommandResult crashed = runToEnd(behaviour({u"crash"_s}));
+        QCOMPARE(crashed.end(), End::Killed);
+        QVERIFY(!crashed.succeeded());
+        QCOMPARE(crashed.description(), u"killed by signal %1"_s.arg(SIGABRT));
+    }
+
+    void couldNotStart()
+    {
+        const QString program = behaviour({}).launchPath;
+        const QString nullInside = "/tmp"_L1 + QChar(u'\0') + "/x"_L1;
+        for (const Command &command :
+             {Command{u"/nonexistent/zip"_s, {}}, Command{QString(), {}},
+              Command{u"/etc/passwd"_s, {}}, Command{program, {QString(200 * 1024, u'a')}},
+              Command{program, {u"exit"_s, nullInside}}}) {
+            const QFuture<CommandResult> future = m_runner->run(command, description);
+            QVERIFY(!future.isFinished());
+            QTRY_VERIFY(future.isFinished());
+            QVERIFY2(!future.result().couldStart(), qPrintable(command.launchPath));
+            QVERIFY(!future.result().description().contains(u'\n'));
+        }
+    }
+
+    // The user's folder vanished: the page reports a failure, instead of treating it like a program
+    // that is not installed. Nothing runs in the wrong folder.
+    void missingWorkingDirectoryIsAFailedRun()
+    {
+        Command command = behaviour({u"report"_s, path(u"pid"_s)});
+        for (const QString &folder : {path(u"not\na folder"_s), QString()}) {
+            command.workingDirectory = folder;
+            QCOMPARE(runToEnd(command).exitStatus(), 66);
+        }
+        QVERIFY(!told());
+    }
+
+    void arguments()
+    {
+        const QString folder = path(u"a b'\"\n-\U0001F600"_s + QString(200, u'n'));
+        QVERIFY(QDir().mkdir(folder));
+        const QStringList odd{
+            QString(), u"-rf"_s, u"--"_s, u"a b"_s,         u"$HOME;`id`"_s,
+            u"x\ny"_s, u"\""_s,  u"'*"_s, u"\U0001F600ä"_s, QString(100'000, u'l')};
+        Command command = behaviour(QStringList{u"report"_s, path(u"pid"_s)} + odd);
+        command.workingDirectory = folder;
+        // What a child must not inherit from the application.
+        std::signal(SIGPIPE, SIG_IGN);
+        sigset_t blocked;
+        sigemptyset(&blocked);
+        sigaddset(&blocked, SIGUSR1);
+        pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
+        QVERIFY(runToEnd(command).succeeded());
+
+        QByteArray expected = QFile::encodeName(QFileInfo(folder).canonicalFilePath())
+            + "\nstdin at its end\nleads a session\n"
+              "SigBlk:\t0000000000000000\nSigIgn:\t0000000000000000\n";
+        for (const QString &argument : odd)
+            expected += argument.toUtf8() + '\0';
+        QCOMPARE(content(u"pid"_s), expected);
+    }
+
+    // A window that waits for the last job must not quit between a command and what follows it.
+    void nextJobFollowsWithoutAGap()
+    {
+        QSignalSpy allEnded(&m_jobs, &JobList::allEnded);
+        std::vector<bool> listed;
+        const Command command = behaviour({u"exit"_s, u"0"_s});
+        QTest::ignoreMessage(QtWarningMsg, "CommandRunnerTest: action abandoned: no such thing");
+        startPageAction(this,
+                        runTwiceAndFail(m_runner.get(), &m_jobs, command, description, &listed));
+        QTRY_COMPARE(listed, (std::vector{true, true}));
+        QTRY_COMPARE(allEnded.size(), 1);
+    }
+
+    void ownProgramsRunInPlace()
+    {
+        QCOMPARE(ownProgramsFolder(), QStringLiteral(TOOLVANE_BUILD_DIR "/libexec/toolvane"));
+        const QString own = path(u"own"_s);
+        QVERIFY(QDir().mkpath(own + u"/folder"_s));
+        QVERIFY(QFile::copy(u"/bin/true"_s, own + u"/hdiutil"_s));
+        QVERIFY(QFile(own + u"/data"_s).open(QIODevice::WriteOnly));
+        QCOMPARE(programPath(u"/usr/bin/hdiutil"_s, own), own + u"/hdiutil"_s);
+        for (const QString &given : {u"/usr/bin/zip"_s, u"/usr/bin/data"_s, u"/usr/bin/folder"_s,
+                                     u"/usr/bin/"_s, QString()})
+            QCOMPARE(programPath(given, own), given);
+    }
+
+    void stop_data()
+    {
+        QTest::addColumn<bool>("needsKill");
+        QTest::newRow("sleep") << false;
+        QTest::newRow("ignore-term") << true;
+        QTest::newRow("grandchild") << true; // which outlives the leader of the group
+    }
+    void stop()
+    {
+        QFETCH(bool, needsKill);
+        const auto early = start(u"sleep"_s);
+        m_runner->stop(); // before it runs
+        QTRY_VERIFY(early.isFinished() && early.result().end() == End::Cancelled);
+        QFile::remove(path(u"pid"_s));
+        const auto future = start(QString::fromLatin1(QTest::currentDataTag()));
+        QTRY_VERIFY(told());
+        QSignalSpy ended(&m_jobs, &JobList::jobEnded);
+        QElapsedTimer time;
+        time.start();
+        m_jobs.stopAll();
+        m_runner->stop(); // a second request changes nothing
+        QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 10000);
+        QCOMPARE(time.elapsed() >= 3000, needsKill);
+        QCOMPARE(future.result().end(), End::Cancelled);
+        QTRY_VERIFY(!processRuns(content(u"pid"_s)));
+        QTRY_COMPARE(ended.size(), 1);
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+    }
+
+    // What a command leaves running on purpose, like a file manager, stays.
+    void leftoversOfAnOrdinaryRunLive()
+    {
+        QVERIFY(runToEnd(behaviour({u"grandchild"_s, path(u"pid"_s), u"exit"_s})).succeeded());
+        QTRY_VERIFY(told());
+        m_runner.reset();
+        QVERIFY(processRuns(content(u"pid"_s)));
+        kill(content(u"pid"_s).toInt(), SIGKILL);
+    }
+
+    void jobListGone()
+    {
+        auto jobs = std::make_unique<JobList>();
+        m_runner = std::make_unique<CommandRunner>(*jobs);
+        const auto future = start(u"ignore-term"_s);
+        QTRY_VERIFY(told());
+        jobs.reset();
+        QVERIFY(future.isFinished() && future.result().end() == End::OwnerGone);
+        QTRY_VERIFY(!processRuns(content(u"pid"_s)));
+    }
+
+    void diesWithTheApplication()
+    {
+        QProcess application;
+        application.setProcessChannelMode(QProcess::ForwardedChannels);
+        application.start(QStringLiteral(TOOLVANE_PARENT_PROGRAM),
+                          {behaviour({}).launchPath, u"ignore-term"_s, path(u"pid"_s)});
+        QTRY_VERIFY_WITH_TIMEOUT(told(), 20000);
+        QVERIFY(processRuns(content(u"pid"_s)));
+        application.kill();
+        QTRY_COMPARE(application.state(), QProcess::NotRunning);
+        QTRY_VERIFY(!processRuns(content(u"pid"_s)));
+    }
+
+private:
+    static Command behaviour(const QStringList &arguments)
+    {
+        return {QStringLiteral(TOOLVANE_SOURCE_DIR "/tests/tools/common/programs/behaviour.sh"),
+                arguments};
+    }
+    CommandResult runToEnd(const Command &command)
+    {
+        const QFuture<CommandResult> future = m_runner->run(command, description);
+        [&] { QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 20000); }();
+        return future.isFinished() ? future.result() : CommandResult::couldNotStart(u"never"_s);
+    }
+    QFuture<CommandResult> start(const QString &name)
+    {
+        return m_runner->run(behaviour({name, path(u"pid"_s)}), description);
+    }
+
+    QString path(const QString &name) const { return m_folder->filePath(name); }
+    bool told() const { return QFile::exists(path(u"pid"_s)); }
+    QByteArray content(const QString &name) const
+    {
+        QFile file(path(name));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    const JobDescription description{u"TestPage"_s, u"Test"_s};
+    JobList m_jobs;
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<CommandRunner> m_runner;
+};
+
+QTEST_GUILESS_MAIN(CommandRunnerTest)
+#include "tst_command_runner.moc"

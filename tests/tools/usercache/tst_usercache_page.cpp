@@ -1,0 +1,285 @@
+// Proves what a user of the page sees and loses: how the grant is given, refused, withdrawn and
+// restored, the ticked folders and nothing else, and the page's states on the way.
+
+#include "CacheRun.h"
+#include "JobList.h"
+#include "MessageBoxes.h"
+#include "PageControls.h"
+#include "TestHome.h"
+#include "UserCacheViewController.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QGroupBox>
+#include <QLabel>
+#include <QProgressBar>
+#include <QSignalSpy>
+
+using namespace PageControls;
+using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// What is below home, our own settings aside.
+SampleTree::Snapshot homeNow()
+{
+    SampleTree::Snapshot items = SampleTree::snapshot(TestHome::path());
+    items.removeIf([](auto item) { return item.key().startsWith("/.config"); });
+    return items;
+}
+
+} // namespace
+
+class UserCachePageTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    // Every category's folder, and what is easily taken for one.
+    void init()
+    {
+        TestHome::reset();
+        for (const char *file :
+             {"Library/Caches/a", "Library/Caches/deep/b", "Logs/c", "Downloads/d",
+              "Mail Downloads/e", ".Trash/f", "Library/Logs/g", "Library/Mail Downloads/h",
+              "Library/Caches.old/i", "downloads/j", "Documents/k", "l", "Trash/m"})
+            TestHome::makeFile(file, 1536);
+        SampleTree::makeLink(TestHome::path() + "/Downloads/to documents", "../Documents");
+        m_boxes = std::make_unique<MessageBoxes>();
+    }
+
+    void fromTheGrantToACleanDisk()
+    {
+        open();
+        press(*m_page, "authorizeButton");
+        QCOMPARE(control<QFileDialog>(*m_page, "folderChooser").directory().path(),
+                 MiscTool::getUserHome());
+        answerChooser(*m_page, "folderChooser", MiscTool::getUserHome());
+        QVERIFY(showsGrant());
+        QFile settings(QSettings().fileName()); // on the disk at once, not when the program ends
+        QVERIFY(settings.open(QIODevice::ReadOnly));
+        QVERIFY(settings.readAll().contains("AuthorizedLocation="));
+
+        open(); // a new start
+        QVERIFY(showsGrant());
+        QCOMPARE(text(*m_page, "userHomeField"), MiscTool::getUserHome());
+        const SampleTree::Snapshot before = homeNow();
+        tick("cachesCheckBox");
+        tick("downloadsCheckBox");
+        run("checkButton");
+        QCOMPARE(title("downloadsCheckBox"), u"Downloads1.5 KB"_s);
+        QCOMPARE(title("logsCheckBox"), u"Logs"_s);
+        QCOMPARE(SampleTree::difference(before, homeNow()), QList<QByteArray>());
+
+        control<QLabel>(*m_page, "diskTotalSize").clear();
+        run("cleanButton");
+        QVERIFY(!TestHome::exists("Library/Caches") && !TestHome::exists("Downloads"));
+        QCOMPARE(title("downloadsCheckBox"), u"Downloads"_s);
+        const auto total = MiscTool::getDiskTotalSize().value_or(0);
+        QCOMPARE(control<QLabel>(*m_page, "diskTotalSize").text(),
+                 MiscTool::convertBytes(static_cast<std::uint64_t>(total)));
+        const int percentage = control<QProgressBar>(*m_page, "diskLevelIndicator").value();
+        QCOMPARE(control<QGroupBox>(*m_page, "diskLevelIndicatorBox").title(),
+                 u"%1%"_s.arg(percentage));
+        QCOMPARE(m_boxes->texts, QStringList());
+    }
+
+    // A refused folder or a cancelled chooser withdraws the grant until the next start: the image
+    // and what is stored stay as they were.
+    void withoutGrantNothingRuns()
+    {
+        const QString home = MiscTool::getUserHome();
+        SampleTree::makeLink(TestHome::path() + "/Link", TestHome::path());
+        const SampleTree::Snapshot before = homeNow();
+        open();
+        QVERIFY(!showsGrant());
+        tick("logsCheckBox");
+        expectRefusal("cleanButton");
+        for (const QString &folder :
+             {home + u"/Logs"_s, QFileInfo(home).path(), home + u"/Link"_s}) {
+            TestHome::grant();
+            open();
+            authorize(folder);
+            QCOMPARE(m_boxes->texts.last(), u"Wrong Authorized Location"_s);
+            QCOMPARE(m_boxes->informativeTexts.last(), u"Please authorize to "_s + home);
+            expectRefusal("checkButton");
+        }
+        authorize(home);
+        run("checkButton");
+        authorize({});
+        QCOMPARE(m_boxes->texts.last(), u"Authorization Failed"_s);
+        QCOMPARE(m_boxes->informativeTexts.last(), u"Please authorize again"_s);
+        QVERIFY(showsGrant());
+        expectRefusal("cleanButton");
+        QCOMPARE(SampleTree::difference(before, homeNow()), QList<QByteArray>());
+        open();
+        run("checkButton");
+    }
+
+    void staleGrantCountsAsHeld()
+    {
+        const QByteArray folder = SampleTree::makeRoot() + "/folder";
+        SampleTree::makeFile(folder + "/Logs/b", QByteArray(2048, 'x'));
+        const QString name = QFile::decodeName(folder);
+        StoredGrant::store(
+            MiscTool::bookmarkForURL(QUrl::fromLocalFile(name)).value_or(QByteArray()));
+        QVERIFY(QFile::rename(name, name + u".away"_s) && QDir().mkdir(name)); // another one
+        open();
+        QVERIFY(showsGrant());
+        QCOMPARE(text(*m_page, "userHomeField"), QString());
+        tick("logsCheckBox");
+        run("checkButton");
+        QCOMPARE(title("logsCheckBox"), u"Logs"_s);
+
+        // Once the folder is back, so is the grant: each run tries it again.
+        QVERIFY(QDir().rmdir(name) && QFile::rename(name + u".away"_s, name));
+        run("checkButton");
+        QCOMPARE(title("logsCheckBox"), u"Logs2.0 KB"_s);
+        // From then on the page has its folder, whatever happens to the bookmark.
+        StoredGrant::store("no bookmark");
+        run("checkButton");
+        QCOMPARE(title("logsCheckBox"), u"Logs2.0 KB"_s);
+        QCOMPARE(m_boxes->texts, QStringList());
+    }
+
+    void cleansJustTheTickedFolder_data()
+    {
+        QTest::addColumn<QByteArray>("folder");
+        QTest::newRow("cachesCheckBox") << QByteArray("/Library/Caches");
+        QTest::newRow("logsCheckBox") << QByteArray("/Logs");
+        QTest::newRow("downloadsCheckBox") << QByteArray("/Downloads");
+        QTest::newRow("mailDownloadCheckBox") << QByteArray("/Mail Downloads");
+        QTest::newRow("trashCheckBox") << QByteArray("/.Trash");
+    }
+    void cleansJustTheTickedFolder()
+    {
+        QFETCH(QByteArray, folder);
+        TestHome::grant();
+        open();
+        tick(QTest::currentDataTag());
+        const SampleTree::Snapshot before = homeNow();
+        run("cleanButton");
+        SampleTree::Snapshot expected = before;
+        expected.removeIf(
+            [&](auto item) { return item.key() == folder || item.key().startsWith(folder + '/'); });
+        QVERIFY(expected.size() < before.size());
+        QCOMPARE(SampleTree::difference(expected, homeNow()), QList<QByteArray>());
+    }
+
+    // A clean is idle once early. Who presses Check just then must see the page busy until that
+    // check is through, and its sizes after that, though the clean still has updates of its own on
+    // the way.
+    void pressInTheEarlyIdleMoment()
+    {
+        TestHome::grant();
+        open();
+        tick("downloadsCheckBox");
+        press(*m_page, "cleanButton");
+        auto *clean = m_jobs.findChild<CacheRun *>();
+        QVERIFY(clean);
+        int updates = 0;
+        QStringList idleAfterPress; // what the page had measured whenever it was usable again
+        // Connected after the page itself, so this sees the page as each update left it.
+        connect(clean, &CacheRun::updated, this, [&](const CacheUpdate &update) {
+            const bool isUsable = control<QPushButton>(*m_page, "checkButton").isEnabled();
+            ++updates;
+            if (updates == 2 && std::holds_alternative<CleanerIdle>(update) && isUsable) {
+                tick("downloadsCheckBox", false);
+                tick("logsCheckBox");
+                control<QPushButton>(*m_page, "checkButton").click();
+            } else if (updates > 2 && isUsable) {
+                idleAfterPress += title("logsCheckBox");
+            }
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(isIdle(), patience);
+        QCOMPARE(updates, 4);
+        QCOMPARE(idleAfterPress, QStringList());
+        QCOMPARE(title("logsCheckBox"), u"Logs1.5 KB"_s);
+        QVERIFY(!TestHome::exists("Downloads") && TestHome::exists("Logs/c"));
+    }
+
+    // As on quitting: the run stays listed until its thread has ended.
+    void pageDestroyedWhileItRuns()
+    {
+        SampleTree::makeNested(TestHome::path() + "/Library/Caches", 10, 50);
+        TestHome::grant();
+        open();
+        QSignalSpy ended(&m_jobs, &JobList::jobEnded);
+        tick("cachesCheckBox");
+        press(*m_page, "cleanButton");
+        m_page.reset();
+        QVERIFY(!m_jobs.isEmpty());
+        QTRY_VERIFY_WITH_TIMEOUT(m_jobs.isEmpty(), patience);
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+        QVERIFY(TestHome::exists("Documents/k"));
+    }
+
+private:
+    static constexpr int patience = 30'000; ///< Milliseconds, on a machine that has much to do.
+
+    void open()
+    {
+        m_page = std::make_unique<UserCacheViewController>(m_jobs);
+        m_page->setVisible(true);
+    }
+    QString title(const char *checkBox) const
+    {
+        return control<QCheckBox>(*m_page, checkBox).text();
+    }
+    void tick(const char *checkBox, bool ticked = true) const
+    {
+        control<QCheckBox>(*m_page, checkBox).setChecked(ticked);
+    }
+    bool showsGrant() const
+    {
+        return control<QWidget>(*m_page, "authorizeStatusButton").accessibleName()
+            == "UserCache.Authorized"_L1;
+    }
+    void authorize(const QString &folder) const
+    {
+        press(*m_page, "authorizeButton");
+        answerChooser(*m_page, "folderChooser", folder);
+    }
+
+    void expectRefusal(const char *button)
+    {
+        press(*m_page, button);
+        QVERIFY(isIdle());
+        QCOMPARE(m_boxes->texts.last(), u"Not Authorized Error"_s);
+        QCOMPARE(m_boxes->informativeTexts.last(), u"Please authorize first"_s);
+    }
+
+    static QStringList controls()
+    {
+        return {u"authorizeButton"_s, u"cachesCheckBox"_s, u"downloadsCheckBox"_s,
+                u"trashCheckBox"_s,   u"logsCheckBox"_s,   u"mailDownloadCheckBox"_s,
+                u"checkButton"_s,     u"cleanButton"_s};
+    }
+    bool isIdle() const
+    {
+        return m_jobs.isEmpty() && enabledOf(*m_page, controls()) == controls()
+            && control<QWidget>(*m_page, "progressIndicatorBox").isHidden();
+    }
+    /// Presses the button, which returns at once, and waits until the work has ended.
+    void run(const char *button)
+    {
+        QSignalSpy ended(&m_jobs, &JobList::jobEnded);
+        press(*m_page, button);
+        QCOMPARE(enabledOf(*m_page, controls()), QStringList());
+        QVERIFY(control<QWidget>(*m_page, "progressIndicatorBox").isVisible());
+        QCOMPARE(control<QProgressBar>(*m_page, "progressIndicator").maximum(), 0); // moving
+        const JobDescription job = m_jobs.running().front().description;
+        QCOMPARE(job.page, m_page->objectName());
+        QCOMPARE(job.subject, MiscTool::getUserHome());
+        QTRY_VERIFY_WITH_TIMEOUT(isIdle(), patience);
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Succeeded);
+    }
+
+    JobList m_jobs;
+    std::unique_ptr<MessageBoxes> m_boxes;
+    std::unique_ptr<UserCacheViewController> m_page;
+};
+
+QTEST_MAIN(UserCachePageTest)
+#include "tst_usercache_page.moc"
