@@ -11,6 +11,7 @@
 
 #include <QAction>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QMenuBar>
 #include <QToolBar>
 
@@ -93,6 +94,7 @@ private Q_SLOTS:
         open();
         QCOMPARE(rows(), 0);
         QVERIFY(table().isVisible() && !QApplication::activeModalWidget());
+        QVERIFY(table().viewport()->findChild<QLabel *>()->isVisible()); // which says so
         press(*m_page, "webButton");
         press(*m_page, "emailButton");
         QCOMPARE(m_opened, QStringList());
@@ -102,6 +104,7 @@ private Q_SLOTS:
         QSettings().remove(u"Addresses/Configuration"_s);
         open();
         QCOMPARE(rows(), 2);
+        QVERIFY(!table().viewport()->findChild<QLabel *>()->isVisible());
         QCOMPARE(read("Apps.plist"), AppsPlist::list(twoApps()));
     }
 

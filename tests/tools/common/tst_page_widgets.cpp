@@ -80,6 +80,9 @@ private Q_SLOTS:
         QVERIFY(drop(field, urls));
         QCOMPARE(field.text(), path(QDir(m_folder->path()).dirName() + u".m4v"_s));
         field.setSource(source);
+        source.setText(u"."_s);
+        QVERIFY(drop(field, urls));
+        QCOMPARE(field.text(), path(QDir::current().dirName() + u".m4v"_s));
         source.setText(u"/elsewhere/clip.part.avi"_s);
         for (const QString &name : {u"clip.part.m4v"_s, u"clip.part 2.m4v"_s}) {
             QVERIFY(drop(field, urls));

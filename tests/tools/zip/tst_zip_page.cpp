@@ -158,7 +158,11 @@ private Q_SLOTS:
 
     void aStoppedPlacementIsAFailure()
     {
-        onceZipIsThrough([this] { m_jobs.stopAll(); });
+        onceZipIsThrough([this] {
+            const auto &parts = m_jobs.running();
+            QCOMPARE(parts.back().started, parts.front().started); // to the user it is one run
+            m_jobs.stopAll();
+        });
         packAndExpect(u"ZipFail"_s);
         QVERIFY(!QFile::exists(output()) && documents().isEmpty());
     }
