@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QStringList>
 #include <QTimer>
@@ -28,7 +29,7 @@ public:
 private:
     void look()
     {
-        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        const QPointer box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (!box || box->objectName() != QLatin1String("messageBox"))
             return;
         m_look.stop();
@@ -36,7 +37,8 @@ private:
         informativeTexts += box->informativeText();
         if (whileShown)
             whileShown();
-        box->button(QMessageBox::Ok)->click();
+        if (box)
+            box->button(QMessageBox::Ok)->click();
         m_look.start();
     }
 

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPointer>
 
 #include <algorithm>
 
@@ -42,13 +43,17 @@ QWidget *windowForBoxes()
 
 int MiscTool::showAlert(const QString &messageText, const QString &informativeText)
 {
-    QMessageBox box(QMessageBox::Information, QApplication::applicationDisplayName(), messageText,
-                    QMessageBox::Ok, windowForBoxes());
-    box.setObjectName(QStringLiteral("messageBox"));
-    box.setInformativeText(informativeText);
-    showAsPlainText(box);
-    Mnemonics::keepUnique(&box);
-    return box.exec();
+    // Not on the stack: its window may go while the box is shown, and takes it along.
+    const QPointer<QMessageBox> box =
+        new QMessageBox(QMessageBox::Information, QApplication::applicationDisplayName(),
+                        messageText, QMessageBox::Ok, windowForBoxes());
+    box->setObjectName(QStringLiteral("messageBox"));
+    box->setInformativeText(informativeText);
+    showAsPlainText(*box);
+    Mnemonics::keepUnique(box);
+    const int answer = box->exec();
+    delete box;
+    return answer;
 }
 
 void MiscTool::showWindow(QWidget *window)

@@ -9,6 +9,8 @@
 #include <QPointer>
 #include <QTest>
 
+#include <memory>
+
 using namespace Qt::StringLiterals;
 
 class tst_MiscToolWindow : public QObject
@@ -53,6 +55,15 @@ private Q_SLOTS:
             QVERIFY(QTest::qWaitFor([&] { return gone.isNull(); }));
         };
         QCOMPARE(MiscTool::showAlert(u"The run has ended."_s, {}), int(QMessageBox::Ok));
+    }
+
+    void theBoxGoesWithItsWindow()
+    {
+        auto window = std::make_unique<QWidget>();
+        window->show();
+        MessageBoxes boxes;
+        boxes.whileShown = [&] { window.reset(); };
+        QCOMPARE(MiscTool::showAlert(u"The run has ended."_s, {}), 0);
     }
 
     void aShakeEndsWhereItBeganAlsoWhenItStartsAnew()
