@@ -113,8 +113,9 @@ void HoverTableRowView::leaveEvent(QEvent *)
 void HoverTableRowView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    drawBackgroundInRect(
+        painter); // to the last pixel, of which a fractional scale may leave a part
     painter.setRenderHint(QPainter::Antialiasing);
-    drawBackgroundInRect(painter);
     if (m_selected)
         drawSelectionInRect(painter);
     drawSeparatorInRect(painter);

@@ -118,6 +118,13 @@ void HoverTableView::drawGridInClipRect()
     }
 }
 
+// A page is shown as long as the window is: no click leaves the list without a choice.
+QItemSelectionModel::SelectionFlags HoverTableView::selectionCommand(const QModelIndex &index,
+                                                                     const QEvent *) const
+{
+    return index.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::NoUpdate;
+}
+
 void HoverTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QListView::currentChanged(current, previous);

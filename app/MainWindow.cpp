@@ -16,6 +16,7 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -34,15 +35,19 @@ MainWindow::MainWindow(JobList &jobs) : ui(std::make_unique<Ui::MainWindow>()), 
     fillToolbar();
     connect(ui->aboutItem, &QAction::triggered, this, &MainWindow::showAbout);
     connect(ui->quitItem, &QAction::triggered, this, &QWidget::close);
-    restoreGeometry(QSettings().value(geometryKey).toByteArray());
+    if (!restoreGeometry(QSettings().value(geometryKey).toByteArray()))
+        resize(size().boundedTo(screen()->availableSize()));
 }
 
 MainWindow::~MainWindow() = default;
 
 void MainWindow::fillToolbar()
 {
-    ui->websiteItem->setIcon(namedImage(u"website"_s));
-    ui->aboutItem->setIcon(namedImage(u"about"_s));
+    for (const auto &[item, image] :
+         {std::pair(ui->websiteItem, u"website"_s), std::pair(ui->aboutItem, u"about"_s)}) {
+        item->setIcon(namedImage(image));
+        item->setIconText(MnemonicChoice::withoutMark(item->text())); // a tool button has no letter
+    }
     ui->toolbar->addWidget(new ToolbarTitle(ui->appNameItem, ui->toolbar));
     auto *spacer = new QWidget(ui->toolbar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -135,6 +140,15 @@ void MainWindow::askBeforeClosing()
     connect(&m_jobs, &JobList::allEnded, question, &QWidget::close);
     Mnemonics::keepUnique(question);
     question->open();
+}
+
+void MainWindow::quit()
+{
+    if (!m_jobs.isEmpty())
+        return quitWithoutFinishing();
+    QSettings().setValue(geometryKey, saveGeometry());
+    hide();
+    QCoreApplication::quit(); // a message that is shown is no reason to stay
 }
 
 void MainWindow::quitWithoutFinishing()

@@ -40,6 +40,10 @@ public:
     /// this is the one it gave.
     void comeToFront(const QString &activationToken = {});
 
+    /// Ends the program without a question, as at the end of the user's session: what runs is
+    /// ended first, and waited for.
+    void quit();
+
 Q_SIGNALS:
     /// The user wants to quit although something runs: the pages are to go, and their runs with
     /// them.

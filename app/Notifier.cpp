@@ -27,7 +27,9 @@ QDBusMessage callOf(const QString &method)
 
 bool isNews(const RunningJob &job, JobOutcome outcome)
 {
-    return outcome == JobOutcome::Succeeded ? job.description.successIsNews : !job.stopRequested;
+    if (outcome == JobOutcome::Succeeded)
+        return job.description.successIsNews;
+    return outcome == JobOutcome::Failed && !job.stopRequested;
 }
 
 } // namespace

@@ -18,7 +18,8 @@ struct Tool {
     QWidget *(*makePage)(JobList &jobs, QWidget *parent);
 };
 
-/// All tools in the order of the sidebar. The one place that names them.
+/// All tools in the order of the sidebar: the one place in the program that names them. What a
+/// desktop shows of them stands in packaging/desktop.
 QList<Tool> allTools();
 
 QStringList toolCommandNames(); ///< In the same order.

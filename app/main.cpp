@@ -2,6 +2,7 @@
 #include "CommandLine.h"
 #include "DesktopLook.h"
 #include "SingleInstance.h"
+#include "TerminationSignals.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -51,6 +52,9 @@ int main(int argc, char *argv[])
     const DesktopLook look;
     Application application;
     application.start(request.page);
+    const TerminationSignals signals;
+    QObject::connect(&signals, &TerminationSignals::received, &application.window(),
+                     &MainWindow::quit);
     instance.serve([&application](const StartRequest &later) { return application.open(later); });
     return QApplication::exec();
 }

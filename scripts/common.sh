@@ -45,11 +45,11 @@ build() {
     local preset=$1
     shift
     say "building ($preset)"
-    cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
-        cat "build-$preset.log" >&2
+    local output
+    output=$(cmake --preset "$preset" 2>&1) || {
+        printf '%s\n' "$output" >&2
         exit 1
     }
-    rm -f "build-$preset.log"
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 

@@ -23,11 +23,13 @@ bool takeSign(std::string_view &text)
     return sign == '-';
 }
 
-/// What stands for a number that from_chars finds too large or too small for a double.
+/// What stands for a number that from_chars finds too large or too small for a double. Its exponent
+/// tells, and where there is none its first digit.
 double nearestTo(std::string_view number)
 {
-    const bool isTiny = number[0] == '0' || number[0] == '.' || number.find("e-") != number.npos
-        || number.find("E-") != number.npos;
+    const std::size_t exponent = number.find_first_of("eE");
+    const bool isTiny = exponent == number.npos ? number[0] == '0' || number[0] == '.'
+                                                : number[exponent + 1] == '-';
     return isTiny ? 0 : std::numeric_limits<double>::max();
 }
 

@@ -2,10 +2,14 @@
 
 #include "CurlLibrary.h"
 
+#include <QDebug>
 #include <QIODevice>
+#include <QUrl>
 
 #include <algorithm>
 #include <memory>
+
+using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -94,6 +98,7 @@ private:
         set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
         set(CURLOPT_USERAGENT, "Toolvane");
         set(CURLOPT_NOSIGNAL, 1L); // signals would end up on any thread
+        set(CURLOPT_QUICK_EXIT, 1L); // waits for no look-up of a name that hangs
         set(CURLOPT_WRITEFUNCTION, &Transfer::takeBody);
         set(CURLOPT_WRITEDATA, this);
         set(CURLOPT_HEADERFUNCTION, &Transfer::takeHeader);
@@ -173,13 +178,11 @@ private:
         return refused;
     }
 
-    static int takeProgress(void *transfer, curl_off_t announced, curl_off_t received, curl_off_t,
-                            curl_off_t)
+    static int takeProgress(void *transfer, curl_off_t, curl_off_t received, curl_off_t, curl_off_t)
     {
         auto *self = static_cast<Transfer *>(transfer);
         if (self->m_request.progress && received > 0)
-            self->m_request.progress(
-                received, announced > 0 ? std::optional<qint64>(announced) : std::nullopt);
+            self->m_request.progress(received);
         return self->m_request.stop.stop_requested() ? 1 : 0;
     }
 
@@ -205,16 +208,26 @@ HttpReply perform(const HttpRequest &request, QIODevice *target,
     return Transfer(*curl, request, target).perform(postBody);
 }
 
+/// The log gets the host alone: what follows it may be nobody else's business.
+HttpReply performAndLog(const HttpRequest &request, QIODevice *target)
+{
+    HttpReply reply = perform(request, target, std::nullopt);
+    if (!reply.answered() && reply.end != HttpReply::End::Cancelled)
+        qWarning().noquote() << QUrl::fromEncoded(request.address).host() + u": "_s
+                + QString::fromUtf8(reply.message);
+    return reply;
+}
+
 } // namespace
 
 HttpReply httpGet(const HttpRequest &request)
 {
-    return perform(request, nullptr, std::nullopt);
+    return performAndLog(request, nullptr);
 }
 
 HttpReply httpGet(const HttpRequest &request, QIODevice &target)
 {
-    return perform(request, &target, std::nullopt);
+    return performAndLog(request, &target);
 }
 
 HttpReply httpPost(const HttpRequest &request, QByteArrayView body)

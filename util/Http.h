@@ -36,9 +36,8 @@ struct HttpRequest {
     QList<QByteArray> headers = {}; ///< "Name: value" each, without line ends.
     HttpLimits limits = {};
     std::stop_token stop = {}; ///< Asks the request to end; it does within about a second.
-    /// Called on the requesting thread with the bytes received so far and those that the server
-    /// announced.
-    std::function<void(qint64 received, std::optional<qint64> announced)> progress = {};
+    /// Called on the requesting thread with the bytes received so far.
+    std::function<void(qint64 received)> progress = {};
 };
 
 struct HttpReply {
@@ -55,12 +54,13 @@ struct HttpReply {
     End end = End::Failed;
     int status = 0; ///< 200, 404, …; 0 where no reply came.
     QByteArray body = {}; ///< Empty unless answered, and where it went into a target.
-    QByteArray message = {}; ///< English words for the log where the request failed.
+    QByteArray message = {}; ///< English words where the request failed.
 
     bool answered() const { return end == End::Answered; }
     bool succeeded() const { return answered() && status >= 200 && status < 300; }
 };
 
+/// A failure leaves a line in the log.
 HttpReply httpGet(const HttpRequest &request);
 
 /// Writes the body into the open target piece by piece, whatever the reply's status is. The target
@@ -68,5 +68,6 @@ HttpReply httpGet(const HttpRequest &request);
 /// only then.
 HttpReply httpGet(const HttpRequest &request, QIODevice &target);
 
-/// The body is sent with its length; there is no Content-Type unless the headers hold one.
+/// The body is sent with its length; there is no Content-Type unless the headers hold one. Nothing
+/// is logged.
 HttpReply httpPost(const HttpRequest &request, QByteArrayView body);

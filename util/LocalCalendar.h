@@ -4,8 +4,7 @@
 
 /// A day as the user's own calendar counts it: the calendar of the locale that the environment
 /// names for dates (LC_ALL, LC_TIME, LANG), so Buddhist in Thailand, Persian in Iran. A keyword
-/// such as
-/// "@calendar=hebrew" in the locale's name is honoured.
+/// such as "@calendar=hebrew" in the locale's name is honoured.
 struct LocalDate {
     std::int64_t year = 0;
     std::int64_t month = 0; ///< From 1.

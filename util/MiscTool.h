@@ -53,8 +53,7 @@ public:
     /// Total size of everything below a folder: files, links and sub-folders' own entries, the
     /// folder itself not counted, links below not followed; a path that is itself a link to a
     /// folder means that folder. Unreadable items count 0; a file, a missing or an unreadable
-    /// folder gives 0. As bytes for names that are not UTF-8.
-    static std::int64_t getSize(const QByteArray &path);
+    /// folder gives 0.
     static std::int64_t getSize(const QString &path);
     /// "1.5 KB", "5.00 GB", "--" for 0: thresholds of 1024, reckoned in single precision.
     static QString convertBytes(std::uint64_t count);

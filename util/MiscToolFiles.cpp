@@ -94,12 +94,7 @@ std::int64_t MiscTool::getLocalFileSize(const QString &path)
 
 std::int64_t MiscTool::getSize(const QString &path)
 {
-    return getSize(QFile::encodeName(path));
-}
-
-std::int64_t MiscTool::getSize(const QByteArray &path)
-{
-    return folderSize(path);
+    return folderSize(QFile::encodeName(path));
 }
 
 std::optional<QByteArray> MiscTool::bookmarkForURL(const QUrl &url)

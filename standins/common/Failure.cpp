@@ -1,9 +1,17 @@
 #include "Failure.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace standin
 {
+
+std::string printable(std::string text)
+{
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
+    return text;
+}
 
 void fail(const std::string &path, const std::string &reason)
 {

@@ -31,6 +31,9 @@ class WrongUsage : public std::exception
 {
 };
 
+// A message is one line, whatever a file is called: control characters become "?".
+std::string printable(std::string text);
+
 // "path: reason", status 1.
 [[noreturn]] void fail(const std::string &path, const std::string &reason);
 

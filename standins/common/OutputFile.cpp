@@ -19,13 +19,22 @@ namespace standin
 namespace
 {
 
+constexpr int mostLinks = 40; // as many as the system follows
+
+// Also one that leads to a name where nothing stands yet.
 std::string followLinks(const std::string &target)
 {
     if (target.empty())
         failWithError(target, ENOENT);
+    std::filesystem::path path = target;
     std::error_code error;
-    const auto real = std::filesystem::canonical(target, error);
-    return error ? target : real.string();
+    for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
+        if (links == mostLinks)
+            failWithError(target, ELOOP);
+        path = path.parent_path() / std::filesystem::read_symlink(path, error);
+    }
+    const auto real = std::filesystem::canonical(path, error);
+    return error ? path.string() : real.string();
 }
 
 std::string folderOf(const std::string &target)

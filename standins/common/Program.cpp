@@ -27,9 +27,9 @@ void fillStandardDescriptors()
 }
 
 // One write, so that lines of several programs do not mix in a shared log.
-void printLine(std::string line)
+void printLine(const std::string &text)
 {
-    line += '\n';
+    const std::string line = printable(text) + '\n';
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, line.data(), line.size());
 }
 

@@ -18,14 +18,6 @@ hfs::Item itemFrom(hfs::ItemKind kind, const struct stat &status)
     return item;
 }
 
-// A message is one line, whatever a file is called.
-std::string printable(std::string name)
-{
-    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
-    std::replace_if(name.begin(), name.end(), isControl, '?');
-    return name;
-}
-
 } // namespace
 
 bool Exclusion::holds(const struct stat &folder, const std::string &name) const
@@ -67,7 +59,7 @@ void FolderPacker::packNext()
     Folder &folder = m_open.back();
     const auto index = folder.next++;
     m_path.resize(folder.pathLength);
-    m_path.append("/").append(printable(folder.names[index]));
+    m_path.append("/").append(standin::printable(folder.names[index]));
     const auto status = source::statusOf(folder.descriptor, folder.names[index], m_path);
     if (!status)
         return;

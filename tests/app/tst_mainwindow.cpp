@@ -2,6 +2,8 @@
 
 #include "Application.h"
 #include "HoverTableAppDelegate.h"
+#include "MiscTool.h"
+#include "TerminationSignals.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -9,6 +11,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -99,6 +103,26 @@ private Q_SLOTS:
         job.end(JobOutcome::Succeeded);
         QTRY_VERIFY(quitQuestions(window).isEmpty());
         QVERIFY(window.isVisible());
+    }
+
+    // As at the end of the user's session, with a message that nobody has answered.
+    void aSignalEndsTheRunsFirst()
+    {
+        Application application;
+        application.start();
+        const TerminationSignals signals;
+        connect(&signals, &TerminationSignals::received, &application.window(), &MainWindow::quit);
+        bool wasAbandoned = false;
+        Job job = application.jobs().begin({.page = u"ZIPViewController"_s, .title = {}});
+        connect(&application.window(), &MainWindow::abandonRuns, this, [&] {
+            wasAbandoned = application.jobs().running().size() == 1;
+            job.end(JobOutcome::Stopped);
+        });
+        QTimer::singleShot(0, this, [] { MiscTool::showAlert(u"The run has ended."_s, {}); });
+        QTimer::singleShot(50, this, [] { ::raise(SIGTERM); });
+        QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(wasAbandoned && !application.window().isVisible());
     }
 
     void quittingEndsTheRunsFirst()

@@ -108,9 +108,9 @@ private Q_SLOTS:
         QCOMPARE(m_server.shown[0].hints.value(u"desktop-entry"_s), u"toolvane"_s);
 
         m_server.capabilities = {u"actions"_s, u"body"_s, u"body-markup"_s};
-        run(*m_jobs, JobOutcome::Stopped);
+        run(*m_jobs, JobOutcome::Failed);
         QTRY_COMPARE(m_server.shown.size(), 2);
-        QCOMPARE(m_server.shown[1].summary, qtTrId("Notice.Stopped").arg(u"Zip"_s));
+        QCOMPARE(m_server.shown[1].summary, qtTrId("Notice.Failed").arg(u"Zip"_s));
         QCOMPARE(m_server.shown[1].body, u"/home/a &lt;b&gt;&amp;amp;"_s);
         QCOMPARE(m_server.shown[1].actions.value(0), u"default"_s);
     }
@@ -123,11 +123,12 @@ private Q_SLOTS:
         Job stopped;
         stopped = m_jobs->begin(zipOfLetters, [&] { stopped.end(JobOutcome::Stopped); });
         m_jobs->stopAll();
+        run(*m_jobs, JobOutcome::Stopped); // by a button of its page
         QApplication::setActiveWindow(m_window.get());
         run(*m_jobs, JobOutcome::Failed);
         QApplication::setActiveWindow(nullptr);
         m_window->hide(); // as when the program is quit and ends its runs
-        run(*m_jobs, JobOutcome::Stopped);
+        run(*m_jobs, JobOutcome::Failed);
         m_window->show();
         QApplication::setActiveWindow(nullptr);
 

@@ -76,6 +76,10 @@ private Q_SLOTS:
         QTest::mouseClick(&window.row(5), Qt::LeftButton);
         QCOMPARE(window.container().contentView(), window.tools().viewItem(5));
         QVERIFY(!page->isVisible());
+        QTest::mouseClick(&window.row(5), Qt::LeftButton, Qt::ControlModifier);
+        QTest::mouseClick(window.list().viewport(), Qt::LeftButton, {},
+                          window.list().viewport()->rect().bottomLeft() + QPoint(9, -9));
+        QVERIFY(window.row(5).isSelected()); // no click chooses nothing
         window.tools().selectTool(zip);
         QCOMPARE(window.container().contentView(), page);
         QCOMPARE(PageControls::text(*page, "srcFolderField"), u"typed"_s);
@@ -120,6 +124,8 @@ private Q_SLOTS:
         window.tools().selectTool(1);
         QCOMPARE(pixel(row, row.width() - 14, row.height() / 2), QColor(209, 209, 209));
         QCOMPARE(pixel(row, 2, row.height() / 2), ground); // outside the inset
+        row.setSelectionHighlightStyle(HoverTableRowView::SelectionHighlightStyle::None);
+        QCOMPARE(pixel(row, row.width() - 14, row.height() / 2), ground);
 
         // Below the rows the lines go on; the last row draws its own.
         const int height = window.list().rowHeight();

@@ -125,13 +125,15 @@ private Q_SLOTS:
         QCOMPARE(odd.at(0).Flag, true);
         QCOMPARE(odd.at(0).Big, 9007199254740993);
         const auto prices = parsed(R"({"RESULT":[{"Amount":"2.3456789 kg"},
-            {"Amount":"infinity","ID":"-3000000000"},{"Amount":"1e-999"},{"Amount":"-.5e1"}]})",
+            {"Amount":"infinity","ID":"-3000000000"},{"Amount":"1e-999"},{"Amount":"-.5e1"},
+            {"Amount":"0.5e999"}]})",
                                    PriceSchema{});
         QCOMPARE(prices.at(0).Amount, 2.3456789);
         QCOMPARE(prices.at(1).Amount, 0.0);
         QCOMPARE(prices.at(1).ID, std::numeric_limits<int>::min());
         QCOMPARE(prices.at(2).Amount, 0.0);
         QCOMPARE(prices.at(3).Amount, -5.0);
+        QCOMPARE(prices.at(4).Amount, std::numeric_limits<double>::max());
     }
 
     void otherRepliesHoldNoRecords()

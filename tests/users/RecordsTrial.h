@@ -48,7 +48,10 @@ public:
         RecordWindow::closeOf(owner);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         RecordWindow::open(shown, owner);
-        if (!QTest::qWaitForWindowActive(owner.findChild<RecordWindow *>()))
+        auto *window = owner.findChild<RecordWindow *>();
+        QTest::qWait(1); // a refusal comes before the window, which is active again afterwards
+        window->activateWindow();
+        if (!QTest::qWaitForWindowActive(window))
             qFatal("the record window does not open");
         return page(shown);
     }

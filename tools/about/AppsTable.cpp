@@ -1,6 +1,7 @@
 #include "AppsTable.h"
 
 #include "IconCache.h"
+#include "PlainToolTip.h"
 
 using namespace Qt::StringLiterals;
 
@@ -74,7 +75,7 @@ QVariant AppsTable::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return objectValueForTableColumn(identifier, index.row());
     if (role == Qt::ToolTipRole)
-        return u"<p>%1</p>"_s.arg(text(identifier, index.row()).toHtmlEscaped());
+        return plainToolTip(text(identifier, index.row()));
     return {};
 }
 

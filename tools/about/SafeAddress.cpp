@@ -22,7 +22,9 @@ bool isSafe(const QUrl &url)
 
 void openSafely(const QString &address)
 {
-    const QUrl url(address.left(longest));
+    QUrl url(address.left(longest));
+    if (url.scheme() == "mailto"_L1)
+        url.setQuery(QString()); // which could name files of the user's to send along
     if (isSafe(url))
         QDesktopServices::openUrl(url);
 }

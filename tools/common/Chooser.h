@@ -30,9 +30,9 @@ void chooseFolder(QWidget *page, Chosen chosen, const QString &startFolder = {},
 void chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen);
 
 /// A file to write. The path that `chosen` gets always ends in the suffix: it is added to a name
-/// typed without it. Folders cannot be created in this chooser, nor anything be renamed or deleted.
-/// With the path of a source the chooser proposes a free name like the source's, and starts beside
-/// the source when it was not used before.
+/// typed without it. Qt's own chooser lets nobody create folders there, rename or delete; a
+/// desktop's may. With the path of a source the chooser proposes a free name like the source's, and
+/// starts beside the source when it was not used before.
 void chooseSaveFile(QWidget *page, const QString &suffix, Chosen chosen,
                     const QString &source = {});
 

@@ -2,8 +2,6 @@
 
 #include "CommandRun.h"
 
-#include <algorithm>
-
 CommandRunner::CommandRunner(JobList &jobs) : m_jobs(&jobs)
 {
 }
@@ -22,17 +20,4 @@ QFuture<CommandResult> CommandRunner::run(const Command &command, const JobDescr
     auto *run = new CommandRun(command, description, m_jobs); // owned by the list of jobs
     m_runs.push_back(run);
     return run->start();
-}
-
-bool CommandRunner::isRunning() const
-{
-    return std::ranges::any_of(m_runs, [](const auto &run) { return run && !run->isSettled(); });
-}
-
-void CommandRunner::stop()
-{
-    for (const QPointer<CommandRun> &run : m_runs) {
-        if (run)
-            run->stop();
-    }
 }

@@ -32,8 +32,8 @@ private:
 
 /// Moves a finished file to its place on a worker thread. Whatever stands at `to` stays byte for
 /// byte; nothing half-written is ever left at `to` or beside it. Afterwards `from` is gone, even
-/// when the file could not be placed. A failure also goes to the log. May be called on any thread;
-/// the future has exactly one result.
+/// when the file could not be placed; only an order to stop leaves it where it is. A failure also
+/// goes to the log. May be called on any thread; the future has exactly one result.
 ///
 /// An order to stop counts until the file gets its name: then nothing is placed. What the system
 /// is flushing to a slow disk just then is waited for.

@@ -6,22 +6,33 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include <utility>
+
 namespace
 {
 
-// Keys that a control leaves unused arrive at its page.
-class ReturnKey : public QObject
+class MainButton : public QObject
 {
 public:
-    ReturnKey(QWidget &page, QPushButton &button) : QObject(&page), m_button(button)
+    MainButton(QWidget &page, QPushButton &button) : QObject(&page), m_button(button)
     {
         page.installEventFilter(this);
+        button.installEventFilter(this);
+        connect(qApp, &QApplication::focusChanged, this,
+                [this](const QWidget *left) { m_left = left; });
     }
 
-    bool eventFilter(QObject *, QEvent *event) override
+    bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() != QEvent::KeyPress)
-            return false;
+        if (watched == &m_button && event->type() == QEvent::EnabledChange)
+            m_button.isEnabled() ? giveFocusBack() : noteLostFocus();
+        return watched != &m_button && event->type() == QEvent::KeyPress && takesKey(event);
+    }
+
+private:
+    // Keys that a control leaves unused arrive at its page.
+    bool takesKey(QEvent *event)
+    {
         const auto *press = static_cast<QKeyEvent *>(event);
         const bool isReturn = press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter;
         if (!isReturn || press->isAutoRepeat() || !m_button.isVisible())
@@ -32,8 +43,25 @@ public:
         return true;
     }
 
-private:
+    void noteLostFocus()
+    {
+        if (m_left != &m_button)
+            return;
+        m_isFocusLost = true;
+        // Where it is once everything else is disabled, too.
+        QMetaObject::invokeMethod(
+            this, [this] { m_instead = m_button.window()->focusWidget(); }, Qt::QueuedConnection);
+    }
+    void giveFocusBack()
+    {
+        if (std::exchange(m_isFocusLost, false) && m_button.window()->focusWidget() == m_instead)
+            m_button.setFocus();
+    }
+
     QPushButton &m_button;
+    const QWidget *m_left = nullptr; ///< What had the focus before, to be compared only.
+    const QWidget *m_instead = nullptr;
+    bool m_isFocusLost = false;
 };
 
 } // namespace
@@ -49,5 +77,5 @@ void PageStatus::setIdle(BusyIndicator &indicator, bool idle)
 
 void PageStatus::pressOnReturn(QWidget &page, QPushButton &button)
 {
-    new ReturnKey(page, button); // owned by the page
+    new MainButton(page, button); // owned by the page
 }

@@ -13,7 +13,8 @@ void setIdle(BusyIndicator &indicator, bool idle);
 
 /// Return presses the button from every control of the page that has no use of its own for the
 /// key, another push button excepted, which is pressed itself; a disabled or hidden button is not
-/// pressed. The default button of a dialog does the same, but a page is none.
+/// pressed. The default button of a dialog does the same, but a page is none. A button that is
+/// disabled while it has the focus gets it back afterwards, unless the user went elsewhere.
 void pressOnReturn(QWidget &page, QPushButton &button);
 
 } // namespace PageStatus

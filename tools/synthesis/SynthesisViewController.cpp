@@ -81,8 +81,10 @@ bool SynthesisViewController::verify()
 {
     if (!ui->textField->document()->isEmpty())
         return true;
+    const QPointer<SynthesisViewController> self(this);
     FormCheck::refuse("TextNullAlert");
-    ui->textField->clearFocus();
+    if (self)
+        ui->textField->clearFocus();
     return false;
 }
 

@@ -78,12 +78,11 @@ QCoro::Task<> UpdateChecker::download()
         return fetchFile(item, key, MiscTool::getDownloadFolder(), *received, stop);
     };
     const FetchedFile fetched = co_await QtConcurrent::run(&m_worker, work);
+    const bool isUsersStop = fetched.problem.kind == Kind::Stopped && !(self && m_isStalled);
     if (!fetched.problem)
         job.end(JobOutcome::Succeeded);
-    else if (fetched.problem.kind == Kind::Stopped)
-        job.end(JobOutcome::Stopped);
     else
-        job.end(JobOutcome::Failed);
+        job.end(isUsersStop ? JobOutcome::Stopped : JobOutcome::Failed);
     if (self)
         conclude(fetched);
 }

@@ -1,5 +1,6 @@
 #include "UpdateFeed.h"
 
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,14 @@ QByteArray fromBase64(QByteArrayView text)
     const auto result =
         QByteArray::fromBase64Encoding(text.toByteArray(), QByteArray::AbortOnBase64DecodingErrors);
     return result ? *result : QByteArray();
+}
+
+// As RSS 2.0 writes it: RFC 822 with four-digit years, where Greenwich has names, too.
+QDateTime dateOf(QString text)
+{
+    static const QRegularExpression greenwich(u"\\s(GMT|UT|UTC|Z)\\z"_s);
+    text = text.trimmed().replace(greenwich, u" +0000"_s);
+    return QDateTime::fromString(text, Qt::RFC2822Date).toUTC();
 }
 
 class FeedReader
@@ -79,7 +88,7 @@ private:
         m_hasChannel = true;
         while (m_xml.readNextStartElement()) {
             if (isPlain("lastBuildDate"_L1))
-                m_feed.date = QDateTime::fromString(text().trimmed(), Qt::RFC2822Date).toUTC();
+                m_feed.date = dateOf(text());
             else if (isPlain("item"_L1))
                 readItem();
             else

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -68,7 +69,7 @@ UpdateProblem receive(const UpdateItem &item, QFile &target, std::atomic<qint64>
     HttpRequest request{.address = item.address,
                         .limits = limitsFor(item.address, fileTime, item.length),
                         .stop = stop};
-    request.progress = [&received](qint64 bytes, std::optional<qint64>) { received = bytes; };
+    request.progress = [&received](qint64 bytes) { received = bytes; };
     if (const UpdateProblem problem = UpdateProblem::of(httpGet(request, target)))
         return problem.kind == Kind::NotWritten
             ? UpdateProblem{Kind::NotWritten, target.errorString()}
@@ -147,6 +148,7 @@ FetchedFile fetchFile(const UpdateItem &item, const QByteArray &publicKey, const
     // What is checked is what stands in the file, not what came over the wire.
     if (!target.seek(0) || !SignatureCheck::isValid(target, publicKey, item.signature))
         return {{Kind::WrongSignature}};
+    fchmod(file.descriptor(), 0644); // the package manager of some systems reads as another user
     return publish(file, folder, fileNameOf(item));
 }
 

@@ -4,6 +4,7 @@
 #include "DiskUsage.h"
 #include "MiscTool.h"
 #include "NamedImage.h"
+#include "PageStatus.h"
 #include "StoredGrant.h"
 #include "ui_UserCacheViewController.h"
 
@@ -19,6 +20,7 @@ UserCacheViewController::UserCacheViewController(JobList &jobs, QWidget *parent)
             &UserCacheViewController::authorizeAction);
     connect(ui->checkButton, &QPushButton::clicked, this, &UserCacheViewController::checkAction);
     connect(ui->cleanButton, &QPushButton::clicked, this, &UserCacheViewController::cleanAction);
+    PageStatus::pressOnReturn(*this, *ui->checkButton);
     awakeFromNib();
 }
 
@@ -128,7 +130,7 @@ void UserCacheViewController::start(CacheRun::Work work)
     auto *run = new CacheRun(request, m_jobs, job(), m_turn);
     m_newestRun = run;
     connect(run, &CacheRun::updated, this,
-            [this, run](const CacheUpdate &update) { show(update, run == m_newestRun); });
+            [this, run](const CacheUpdate &update) { follow(update, run == m_newestRun); });
 }
 
 CacheSelection UserCacheViewController::tickedCategories() const
@@ -144,7 +146,7 @@ JobDescription UserCacheViewController::job() const
     return {.page = objectName(), .title = qtTrId("UserCache"), .subject = MiscTool::getUserHome()};
 }
 
-void UserCacheViewController::show(const CacheUpdate &update, bool isNewest)
+void UserCacheViewController::follow(const CacheUpdate &update, bool isNewest)
 {
     if (const auto *resolved = std::get_if<GrantResolved>(&update))
         m_bookmarkURL = resolved->bookmarkURL;

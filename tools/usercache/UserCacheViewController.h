@@ -47,7 +47,7 @@ private:
     void start(CacheRun::Work work);
     CacheSelection tickedCategories() const;
     JobDescription job() const;
-    void show(const CacheUpdate &update, bool isNewest);
+    void follow(const CacheUpdate &update, bool isNewest);
     void showSize(const FolderMeasured &measured);
     std::array<QCheckBox *, cacheCategoryCount> checkBoxes() const;
 

@@ -9,6 +9,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 AbstractViewController::AbstractViewController(const Module &module, QWidget *parent)
@@ -24,6 +26,11 @@ AbstractViewController::AbstractViewController(const Module &module, QWidget *pa
 }
 
 AbstractViewController::~AbstractViewController() = default;
+
+void AbstractViewController::focusTable()
+{
+    page->table->setFocus();
+}
 
 void AbstractViewController::connectActions()
 {
@@ -76,9 +83,23 @@ bool AbstractViewController::mayView()
     page->moduleBox->setVisible(isAllowed);
     page->hintLabel->setVisible(isAllowed);
     page->refusedView->setHidden(isAllowed);
-    if (!isAllowed)
-        MiscTool::showAlert(qtTrId("NoPermissionAlert"), qtTrId("NoPermissionInfo"));
+    m_isRefusalDue = !isAllowed;
+    if (isVisible())
+        tellRefusal();
     return isAllowed;
+}
+
+// Of a page in a tab that nobody has opened there is nothing to tell yet.
+void AbstractViewController::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    QMetaObject::invokeMethod(this, &AbstractViewController::tellRefusal, Qt::QueuedConnection);
+}
+
+void AbstractViewController::tellRefusal()
+{
+    if (std::exchange(m_isRefusalDue, false))
+        MiscTool::showAlert(qtTrId("NoPermissionAlert"), qtTrId("NoPermissionInfo"));
 }
 
 void AbstractViewController::addAction()
@@ -123,6 +144,7 @@ void AbstractViewController::saveAction()
     }
     reloadData();
     panel->accept();
+    focusTable();
     if (operation == Operation::AddRecord && newestID() > newestBefore)
         selectID(newestID()); // otherwise it would be lost from sight in a long list
 }

@@ -48,6 +48,7 @@ public:
     std::unique_ptr<BLGeneral> blGeneral; ///< None on a page that the user may not see.
 
     virtual void reloadData() = 0; ///< Asks for the right to see the page, then loads the records.
+    void focusTable();
     void addAction();
     void editAction(); ///< Nothing where no row is selected.
     void deleteAction(); ///< Asks first. Nothing where no row is selected.
@@ -56,6 +57,8 @@ public:
 
 protected:
     AbstractViewController(const Module &module, QWidget *parent);
+
+    void showEvent(QShowEvent *event) override;
 
     void awakeFromNib();
     virtual void initLocalizables();
@@ -72,7 +75,7 @@ protected:
     virtual int newestID() const = 0; ///< The highest of all records; 0 without records.
     virtual void selectID(int ID) = 0;
 
-    /// Whether the user may see the page, which is hidden and says so otherwise.
+    /// Whether the user may see the page, which is hidden otherwise, and says so once it is open.
     bool mayView();
     int selectedRow() const; ///< The position in the list of records, -1 for none.
     void selectRow(int row);
@@ -91,4 +94,7 @@ protected:
 private:
     void connectActions();
     void showPanel(const QAbstractButton &starter);
+    void tellRefusal();
+
+    bool m_isRefusalDue = false;
 };

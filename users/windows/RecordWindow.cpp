@@ -27,6 +27,7 @@ void RecordWindow::open(Page page, QWidget &owner)
         window = new RecordWindow(owner);
     window->ui->pages->setCurrentIndex(int(page));
     MiscTool::showWindow(window);
+    static_cast<AbstractViewController *>(window->ui->pages->currentWidget())->focusTable();
 }
 
 void RecordWindow::closeOf(const QWidget &owner)

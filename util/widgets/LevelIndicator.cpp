@@ -1,5 +1,6 @@
 #include "LevelIndicator.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 
@@ -20,6 +21,7 @@ constexpr int gap = 12;
 LevelIndicator::LevelIndicator(QWidget *parent) : QProgressBar(parent)
 {
     setRange(0, 100);
+    setLocale(QLocale::c()); // the digits of all other sizes
     setValue(0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }

@@ -17,6 +17,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace
 {
 
@@ -96,6 +98,21 @@ QSet<QChar> lettersOfMenuBar(const QWidget &page)
     return letters;
 }
 
+// Fingers remember letters: a text that becomes longer at its end keeps the one that it had.
+QString keepingLetter(const QString &text, const QString &before)
+{
+    const QChar letter = MnemonicChoice::letterOf(before);
+    if (letter.isNull() || !MnemonicChoice::letterOf(text).isNull())
+        return text;
+    const QString brackets = u"(&%1)"_s.arg(letter);
+    if (before.contains(brackets))
+        return text + brackets;
+    const auto mark = std::ranges::mismatch(text, before).in2; // what the text lacks
+    const qsizetype place = mark - before.begin();
+    const bool isThere = place < text.size() && *mark == u'&' && text.at(place).toUpper() == letter;
+    return isThere ? QString(text).insert(place, u'&') : text;
+}
+
 // A tab is reached with the arrow keys; those that have a letter keep it alone.
 void assignTabs(QTabBar &bar, QSet<QChar> &taken)
 {
@@ -144,18 +161,18 @@ void Mnemonics::assignIn(const QWidget &part, QSet<QChar> taken, Texts &texts) c
     collect(part, contents);
     for (QTabBar *bar : std::as_const(contents.tabBars))
         assignTabs(*bar, taken);
-    QStringList originals;
+    QStringList wanted;
     for (const QWidget *control : std::as_const(contents.controls)) {
-        const auto known = m_texts.constFind(control);
-        const bool isOurs = known != m_texts.constEnd() && known->shown == textOf(*control);
-        originals += isOurs ? known->original : textOf(*control);
+        const Marked known = m_texts.value(control);
+        const QString text = textOf(*control);
+        wanted += known.shown == text ? known.wanted : keepingLetter(text, known.shown);
     }
-    const QStringList marked = MnemonicChoice::unique(originals, taken);
+    const QStringList marked = MnemonicChoice::unique(wanted, taken);
     for (qsizetype i = 0; i < marked.size(); ++i) {
         QWidget &control = *contents.controls.at(i);
         if (textOf(control) != marked.at(i))
             control.setProperty(textProperty(control), marked.at(i));
-        texts[&control] = {originals.at(i), marked.at(i)};
+        texts[&control] = {wanted.at(i), marked.at(i)};
         taken += MnemonicChoice::letterOf(marked.at(i));
     }
     for (const QWidget *page : std::as_const(contents.pages))

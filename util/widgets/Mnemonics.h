@@ -10,8 +10,8 @@ class QWidget;
 /// Keeps the mnemonics of a page or dialog without clashes in every language: each button, check
 /// box, label with a buddy, and box that names a field gets a letter of its own that the window's
 /// menu bar does not use. It looks when the page is shown and whenever its layout changes, so a
-/// page may set texts at run time as it likes. A page in a tab takes from what the controls around
-/// the tabs leave. Interface thread only.
+/// page may set texts at run time as it likes; a control whose text gets longer keeps its letter. A
+/// page in a tab takes from what the controls around the tabs leave. Interface thread only.
 class Mnemonics : public QObject
 {
     Q_OBJECT
@@ -24,9 +24,9 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// A text as the program set it, and as it was marked.
+    /// A text as the program set it, with the letter that it had before, and as it was marked.
     struct Marked {
-        QString original;
+        QString wanted;
         QString shown;
     };
     using Texts = QHash<const QWidget *, Marked>;

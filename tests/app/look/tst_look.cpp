@@ -153,7 +153,6 @@ private Q_SLOTS:
     void aLevelIsAsLongAsItsValueAndWarns()
     {
         LevelIndicator level;
-        level.setLocale(QLocale::c());
         level.setWarningText(u"Nearly full"_s);
         level.resize(400, 30);
         const QColor full = level.palette().color(QPalette::Highlight);

@@ -58,6 +58,19 @@ private Q_SLOTS:
         QCOMPARE(status.st_mode & 07777, 0640U);
     }
 
+    void followsLinksAlsoToNothing()
+    {
+        for (const auto &[link, to] : {std::pair(u"a"_s, u"b"_s), {u"b"_s, u"out"_s}})
+            QVERIFY(QFile::link(to, m_dir->filePath(link)));
+        for (const char *content : {"first", "second"}) {
+            OutputFile file(m_dir->filePath(u"a"_s).toStdString());
+            file.write(content, strlen(content));
+            file.commit();
+            QCOMPARE(contentOf(m_target), content);
+        }
+        QCOMPARE(QFile::symLinkTarget(m_dir->filePath(u"a"_s)), m_dir->filePath(u"b"_s));
+    }
+
     void leavesNothingWhenEnded()
     {
         writeFile(m_target, "older");
@@ -82,13 +95,15 @@ private Q_SLOTS:
         QCOMPARE(::mkfifo(qPrintable(m_dir->filePath(u"fifo"_s)), 0600), 0);
         writeFile(m_dir->filePath(u"file"_s), "older");
         QVERIFY(QFile::setPermissions(m_dir->filePath(u"file"_s), QFile::ReadOwner));
+        QVERIFY(QFile::link(u"loop"_s, m_dir->filePath(u"loop"_s)));
         const QStringList before = entriesOf(m_dir->path());
         QList<std::pair<QString, const char *>> refused{
             {u"."_s, "Is a directory"},
             {u"new/"_s, "Is a directory"},
             {u"none/out"_s, "none: No such file or directory"},
             {u"file/out"_s, "Not a directory"},
-            {u"fifo"_s, "Not a regular file"}};
+            {u"fifo"_s, "Not a regular file"},
+            {u"loop"_s, "Too many levels of symbolic links"}};
         if (::geteuid() != 0)
             refused.append({u"file"_s, "Permission denied"});
         for (const auto &[path, reason] : refused) {

@@ -134,7 +134,7 @@ private Q_SLOTS:
         for (const char *address :
              {"file:///etc/passwd", "FILE:///etc/passwd", "/etc/passwd", "javascript:alert(1)",
               "x-other://a", "https:///etc", "mailto:", "//a.example", "http://[bad/",
-              "http://a.example/", "mailto:a@b.example"})
+              "http://a.example/", "mailto:a@b.example?attach=/etc/passwd"})
             apps += AppsPlist::app("", "A", address);
         serve(AppsPlist::list(apps, AppsPlist::string("Twitter", "file:///etc/passwd")));
         open();

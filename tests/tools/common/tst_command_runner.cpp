@@ -162,7 +162,7 @@ private Q_SLOTS:
     {
         QFETCH(bool, needsKill);
         const auto early = start(u"sleep"_s);
-        m_runner->stop(); // before it runs
+        m_jobs.stopAll(); // before it runs
         QTRY_VERIFY(early.isFinished() && early.result().end() == End::Cancelled);
         QFile::remove(path(u"pid"_s));
         const auto future = start(QString::fromLatin1(QTest::currentDataTag()));
@@ -171,7 +171,7 @@ private Q_SLOTS:
         QElapsedTimer time;
         time.start();
         m_jobs.stopAll();
-        m_runner->stop(); // a second request changes nothing
+        m_jobs.stopAll(); // a second request changes nothing
         QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 10000);
         QCOMPARE(time.elapsed() >= 3000, needsKill);
         QCOMPARE(future.result().end(), End::Cancelled);

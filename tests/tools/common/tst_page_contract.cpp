@@ -82,6 +82,7 @@ private Q_SLOTS:
         QCOMPARE(wasKept, m_contract.keepsForm);
         QTRY_VERIFY(isIdle());
         QCOMPARE(startButton().geometry(), place); // nothing jumps
+        QVERIFY(m_page->focusWidget() == &startButton() || !startButton().isDefault());
         if (show) {
             press(*m_page, "showInFolderButton");
             QTRY_COMPARE(open.arguments(), (QStringList{u"-R"_s, inFolder(m_contract.made)}));

@@ -35,6 +35,13 @@ private Q_SLOTS:
         QVERIFY(m_jobs.isEmpty());
     }
 
+    void goesWhileItRefuses()
+    {
+        m_boxes->whileShown = [this] { m_page.reset(); };
+        press(*m_page, "readButton");
+        QVERIFY(!m_page);
+    }
+
     void readsSilently()
     {
         textField().setPlainText(u"--output-file=/x\n\"two\" lines"_s);

@@ -54,7 +54,7 @@ private Q_SLOTS:
             return m_maker.sealed(Maker::feed("", date));
         };
         addRow("the maker's", good, Kind::None);
-        addRow("a newer one", dated("Tue, 03 Mar 2026 10:00:00 +0000"), Kind::None);
+        addRow("a newer one", dated("Tue, 03 Mar 2026 10:00:00 GMT"), Kind::None);
         addRow("an older one", dated("Sun, 01 Mar 2026 10:00:00 +0000"), Kind::Older);
         addRow("without a date", dated("some day"), Kind::NoDate);
         addRow("no feed", m_maker.sealed("hello\n"), Kind::NotAFeed);
@@ -104,6 +104,7 @@ private Q_SLOTS:
         QCOMPARE(fetch(item("new"), fetched.path).problem.kind, Kind::NotWritten); // no folder
         QFile written(fetched.path);
         QVERIFY(written.open(QIODevice::ReadOnly));
+        QVERIFY(written.permissions() & QFile::ReadOther); // who installs it may be another user
         QCOMPARE(written.readAll(), file);
     }
 

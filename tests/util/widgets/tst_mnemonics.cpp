@@ -47,13 +47,20 @@ private Q_SLOTS:
         auto *caches = new QCheckBox(u"Caches "_s);
         auto *check = new QPushButton(u"Check"_s);
         auto *stop = new QPushButton(u"&Stop"_s);
-        for (QWidget *widget : QList<QWidget *>{caches, check, stop})
+        auto *trash = new QCheckBox(u"Trash "_s);
+        auto *later = new QPushButton(u"Zoo"_s);
+        for (QWidget *widget : QList<QWidget *>{later, caches, check, stop, trash})
             layout->addWidget(widget);
         Mnemonics::keepUnique(&page);
         page.show();
         QCOMPARE(check->text(), u"C&heck"_s);
+        QCOMPARE(trash->text(), u"&Trash "_s);
         caches->setText(u"Caches 3.2 GB"_s);
+        trash->setText(u"Trash 4.0 KB"_s);
+        later->setText(u"Tree"_s); // would have liked the letter
         QTRY_COMPARE(caches->text(), u"&Caches 3.2 GB"_s);
+        QTRY_COMPARE(trash->text(), u"&Trash 4.0 KB"_s);
+        QCOMPARE(check->text(), u"C&heck"_s);
         stop->setText(u"&Halt"_s); // comes with a mark of its own
         QTRY_COMPARE(check->text(), u"Ch&eck"_s);
         QCOMPARE(stop->text(), u"&Halt"_s);

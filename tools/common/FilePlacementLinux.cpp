@@ -1,6 +1,5 @@
-#include "FilePlacement.h"
-
 #include "FileCopy.h"
+#include "FilePlacement.h"
 #include "UnpublishedFile.h"
 
 #include <QDebug>
@@ -94,7 +93,8 @@ FilePlacement place(const Place &from, const Place &to, const std::stop_token &s
             return {FilePlacement::End::Renamed, 0};
         error = errno == EEXIST ? EEXIST : copyTo(from, to, stop);
     }
-    unlink(from.path.constData());
+    if (error != ECANCELED) // who stops a run loses nothing
+        unlink(from.path.constData());
     return error == 0 ? FilePlacement(FilePlacement::End::Copied, 0)
                       : FilePlacement(FilePlacement::End::NotPlaced, error);
 }
