@@ -43,11 +43,10 @@ MainWindow::~MainWindow() = default;
 
 void MainWindow::fillToolbar()
 {
-    for (const auto &[item, image] :
-         {std::pair(ui->websiteItem, u"website"_s), std::pair(ui->aboutItem, u"about"_s)}) {
-        item->setIcon(namedImage(image));
-        item->setIconText(MnemonicChoice::withoutMark(item->text())); // a tool button has no letter
-    }
+    ui->websiteItem->setIcon(namedImage(u"website"_s));
+    // A tool button has no letter: Qt takes the mark away, and leaves "(W)".
+    ui->websiteItem->setIconText(MnemonicChoice::withoutMark(ui->websiteItem->text()));
+    ui->aboutItem->setIcon(namedImage(u"about"_s));
     ui->toolbar->addWidget(new ToolbarTitle(ui->appNameItem, ui->toolbar));
     auto *spacer = new QWidget(ui->toolbar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
