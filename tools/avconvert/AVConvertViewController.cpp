@@ -113,6 +113,7 @@ QCoro::Task<> AVConvertViewController::convertAction()
         co_return;
     if (result.succeeded())
         clear();
+    ui->elapsedLabel->hold();
     MiscTool::showAlert(qtTrId(result.succeeded() ? "Convert is completed." : "Convert is failed."),
                         QString());
     if (!self)

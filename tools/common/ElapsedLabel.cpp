@@ -42,6 +42,12 @@ void ElapsedLabel::setRunning(bool running)
     setVisible(running);
 }
 
+void ElapsedLabel::hold()
+{
+    updateText();
+    m_started.invalidate();
+}
+
 // Also sent when the page as a whole is shown or hidden: the time goes on, the timer need not.
 void ElapsedLabel::showEvent(QShowEvent *event)
 {

@@ -18,6 +18,10 @@ public:
     QSize sizeHint() const override; ///< Wide enough for ten hours, whatever it shows now.
     QSize minimumSizeHint() const override { return sizeHint(); }
 
+    /// The run has ended: its time stands, although the page is to look busy until the user has
+    /// seen how.
+    void hold();
+
 public Q_SLOTS:
     void setRunning(bool running); ///< Starting anew begins at 0:00.
 

@@ -102,6 +102,7 @@ QCoro::Task<> UNZIPViewController::generateAction()
     const CommandResult result = co_await m_runner.run(command, job(archive));
     if (!self || !result.couldStart())
         co_return;
+    ui->elapsedLabel->hold();
     MiscTool::showAlert(qtTrId(result.succeeded() ? "UnzipSuc" : "UnzipFail"), QString());
     if (self)
         setStatus(true);

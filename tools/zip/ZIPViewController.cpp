@@ -128,6 +128,7 @@ QCoro::Task<> ZIPViewController::generateAction()
         isPlaced = placement.succeeded();
         succeeded = !placement.wasStopped(); // no other failure of the placement is judged
     }
+    ui->elapsedLabel->hold();
     MiscTool::showAlert(qtTrId(succeeded ? "ZipSuc" : "ZipFail"), QString());
     if (!self)
         co_return;

@@ -133,6 +133,10 @@ private Q_SLOTS:
         page.show();
         QTRY_VERIFY(moves());
         QVERIFY(elapsed.isVisible() && elapsed.text() != u"0:00"_s);
+        elapsed.hold(); // while the page tells the end
+        const QString held = elapsed.text();
+        QTest::qWait(1100);
+        QVERIFY(elapsed.isVisible() && elapsed.text() == held);
         indicator.stopAnimation();
         QTRY_VERIFY(!moves());
         QVERIFY(!elapsed.isVisible());
