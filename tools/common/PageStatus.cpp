@@ -18,14 +18,16 @@ public:
     {
         page.installEventFilter(this);
         button.installEventFilter(this);
-        connect(qApp, &QApplication::focusChanged, this,
-                [this](const QWidget *left) { m_left = left; });
+        connect(qApp, &QApplication::focusChanged, this, [this](const QWidget *left) {
+            if (left == &m_button && !m_button.isEnabled())
+                noteLostFocus();
+        });
     }
 
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (watched == &m_button && event->type() == QEvent::EnabledChange)
-            m_button.isEnabled() ? giveFocusBack() : noteLostFocus();
+        if (watched == &m_button && event->type() == QEvent::EnabledChange && m_button.isEnabled())
+            giveFocusBack();
         return watched != &m_button && event->type() == QEvent::KeyPress && takesKey(event);
     }
 
@@ -45,8 +47,6 @@ private:
 
     void noteLostFocus()
     {
-        if (m_left != &m_button)
-            return;
         m_isFocusLost = true;
         // Where it is once everything else is disabled, too.
         QMetaObject::invokeMethod(
@@ -59,8 +59,7 @@ private:
     }
 
     QPushButton &m_button;
-    const QWidget *m_left = nullptr; ///< What had the focus before, to be compared only.
-    const QWidget *m_instead = nullptr;
+    const QWidget *m_instead = nullptr; ///< To be compared only.
     bool m_isFocusLost = false;
 };
 
