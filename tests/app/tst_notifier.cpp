@@ -4,14 +4,11 @@
 #include "Application.h"
 #include "ContainerBox.h"
 #include "Notifier.h"
+#include "SessionBus.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
-#include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -64,24 +61,11 @@ class NotifierTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_daemon.start(u"dbus-daemon"_s,
-                       {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
-                        u"--address=unix:dir="_s + m_folder.path()});
-        QVERIFY(m_daemon.waitForReadyRead(10000));
-        const QByteArray address = m_daemon.readLine().trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        for (const QString &name : {u"server"_s, u"stranger"_s})
-            QVERIFY(QDBusConnection::connectToBus(QString::fromUtf8(address), name).isConnected());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8());
+        QVERIFY(m_bus.connect(u"server"_s).isConnected());
+        QVERIFY(m_bus.connect(u"stranger"_s).isConnected());
         QVERIFY(bus().registerObject(objectPath, &m_server, QDBusConnection::ExportAllContents));
         Application::prepare();
-    }
-
-    void cleanupTestCase()
-    {
-        for (const QString &name : {u"server"_s, u"stranger"_s})
-            QDBusConnection::disconnectFromBus(name);
-        m_daemon.terminate();
-        m_daemon.waitForFinished();
     }
 
     void init()
@@ -222,9 +206,8 @@ private:
     }
     QDBusConnection bus() const { return QDBusConnection(u"server"_s); }
 
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
     NotificationServer m_server;
+    SessionBus m_bus;
     std::unique_ptr<JobList> m_jobs;
     std::unique_ptr<QWidget> m_window;
     std::unique_ptr<Notifier> m_notifier;

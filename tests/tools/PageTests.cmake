@@ -13,6 +13,4 @@ function(toolvane_page_test name)
     toolvane_test(${name} SOURCES ${arg_SOURCES} LINK ${arg_PAGES})
     set_target_properties(${name} PROPERTIES
         RUNTIME_OUTPUT_DIRECTORY "${TOOLVANE_RECORDING_TREE}/tests")
-    target_include_directories(${name} PRIVATE
-        "${PROJECT_SOURCE_DIR}/tests/tools")
 endfunction()

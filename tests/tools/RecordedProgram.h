@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QFile>
+#include "Files.h"
+
 #include <QStringList>
 
 #include <optional>
@@ -21,28 +22,24 @@ public:
     Q_DISABLE_COPY_MOVE(RecordedProgram)
 
     /// From now on the program ends with this status.
-    void endWith(int status) { write(".status", QByteArray::number(status)); }
+    void endWith(int status)
+    {
+        Files::write(m_path + QLatin1String(".status"), QByteArray::number(status));
+    }
     /// From now on the program does not end before release().
-    void hold() { write(".hold", {}); }
+    void hold() { Files::write(m_path + QLatin1String(".hold"), {}); }
     void release() { QFile::remove(m_path + QLatin1String(".hold")); }
 
     /// What the program was last started with; none when it has not run.
     std::optional<QStringList> arguments() const
     {
-        QFile file(m_path + QLatin1String(".arguments"));
-        if (!file.open(QIODevice::ReadOnly))
+        const QString path = m_path + QLatin1String(".arguments");
+        if (!QFile::exists(path))
             return std::nullopt;
-        const QStringList texts = QString::fromUtf8(file.readAll()).split(QChar::Null);
+        const QStringList texts = QString::fromUtf8(Files::read(path)).split(QChar::Null);
         return texts.first(texts.size() - 1); // each is followed by a null character
     }
 
 private:
-    void write(const char *suffix, const QByteArray &content) const
-    {
-        QFile file(m_path + QLatin1String(suffix));
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
-            qFatal("cannot write %s", qPrintable(file.fileName()));
-    }
-
     QString m_path;
 };

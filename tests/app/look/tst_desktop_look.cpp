@@ -2,17 +2,14 @@
 // survives a portal that lies, goes or never was.
 
 #include "DesktopLook.h"
+#include "SessionBus.h"
 
 #include <QApplication>
-#include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QProcess>
 #include <QSettings>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 using Scheme = Theme::Scheme;
@@ -72,15 +69,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "writes settings");
-        m_bus.start(u"dbus-daemon"_s,
-                    {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
-                     u"--address=unix:dir="_s + m_dir.path()});
-        QVERIFY(m_bus.waitForReadyRead(10000));
-        const QByteArray address = m_bus.readLine().trimmed();
-        qputenv("DBUS_SESSION_BUS_ADDRESS", address);
-        QDBusConnection bus =
-            QDBusConnection::connectToBus(QString::fromUtf8(address), u"portal"_s);
-        QVERIFY(bus.isConnected());
+        qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8());
+        QDBusConnection bus = m_bus.connect(u"portal"_s);
         QVERIFY(bus.registerObject(path, &m_portal, QDBusConnection::ExportAllSlots));
         QVERIFY(bus.registerService(service));
         QCoreApplication::setOrganizationName(u"Toolvane"_s);
@@ -93,14 +83,6 @@ private Q_SLOTS:
         m_portal.answer = 0U;
         m_portal.asked = 0;
         Theme::apply(Scheme::Light);
-    }
-
-    void cleanupTestCase()
-    {
-        QDBusConnection::disconnectFromBus(u"portal"_s);
-        QDBusConnection::disconnectFromBus(u"qt_default_session_bus"_s);
-        m_bus.terminate();
-        m_bus.waitForFinished();
     }
 
     void withoutPreferenceThePlatformIsAskedAnew()
@@ -168,9 +150,8 @@ private Q_SLOTS:
     }
 
 private:
-    QTemporaryDir m_dir;
-    QProcess m_bus;
     FakePortal m_portal;
+    SessionBus m_bus;
 };
 
 QTEST_MAIN(TestDesktopLook)

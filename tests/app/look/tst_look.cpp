@@ -8,9 +8,7 @@
 #include "Theme.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
 
@@ -106,13 +104,6 @@ private Q_SLOTS:
             QVERIFY(Contrast::ratio(Qt::white, idle) >= 1.15);
             QVERIFY(Contrast::ratio(sidebar.color(QPalette::Highlight), idle) >= 3);
         }
-    }
-
-    void controlsOfARowAreOneHeight()
-    {
-        const int height = QLineEdit().sizeHint().height();
-        QCOMPARE(QPushButton(u"Select"_s).sizeHint().height(), height);
-        QCOMPARE(QComboBox().sizeHint().height(), height);
     }
 
     void oneButtonIsAccented()

@@ -38,28 +38,22 @@ private Q_SLOTS:
         writeFile(m_media.path(u"out.m4v"_s), "older");
     }
 
-    void leavesTheOlderFile_data()
-    {
-        QTest::addColumn<QString>("source");
-        QTest::addColumn<QByteArray>("words");
-        QTest::newRow("missing") << u"none.mp4"_s << "No such file or directory"_ba;
-        QTest::newRow("folder") << u"."_s << "Is a directory"_ba;
-        QTest::newRow("fifo") << u"fifo.mp4"_s << "Not a regular file"_ba;
-        QTest::newRow("no media") << u"text.avi"_s << "Not a readable video"_ba;
-        QTest::newRow("still picture") << u"picture.mp4"_s << "Not a readable video"_ba;
-        QTest::newRow("playlist") << u"playlist.avi"_s << "Not a readable video"_ba;
-        QTest::newRow("list of files") << u"list.mp4"_s << "Not a readable video"_ba;
-        QTest::newRow("half an mp4") << u"half.mp4"_s << "Not a readable video"_ba;
-        QTest::newRow("half an mp4, index first") << u"halfearly.mp4"_s << "ends in the middle"_ba;
-        QTest::newRow("half an avi") << u"half.avi"_s << "ends in the middle"_ba;
-    }
     void leavesTheOlderFile()
     {
-        QFETCH(QString, source);
-        QFETCH(QByteArray, words);
-        for (const QString &preset : {u"Preset640x480"_s, u"PresetPassthrough"_s}) {
-            checkRefused(preset, m_media.path(source), m_media.path(u"out.m4v"_s), words);
-            QCOMPARE(contentOf(m_media.path(u"out.m4v"_s)), "older");
+        for (const auto &[source, words] :
+             {std::pair(u"none.mp4"_s, "No such file or directory"),
+              std::pair(u"."_s, "Is a directory"), std::pair(u"fifo.mp4"_s, "Not a regular file"),
+              std::pair(u"text.avi"_s, "Not a readable video"),
+              std::pair(u"picture.mp4"_s, "Not a readable video"),
+              std::pair(u"playlist.avi"_s, "Not a readable video"),
+              std::pair(u"list.mp4"_s, "Not a readable video"),
+              std::pair(u"half.mp4"_s, "Not a readable video"),
+              std::pair(u"halfearly.mp4"_s, "ends in the middle"),
+              std::pair(u"half.avi"_s, "ends in the middle")}) {
+            for (const QString &preset : {u"Preset640x480"_s, u"PresetPassthrough"_s}) {
+                checkRefused(preset, m_media.path(source), m_media.path(u"out.m4v"_s), words);
+                QCOMPARE(contentOf(m_media.path(u"out.m4v"_s)), "older");
+            }
         }
     }
 

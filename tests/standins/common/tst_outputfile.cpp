@@ -31,32 +31,8 @@ private Q_SLOTS:
         m_target = m_dir->filePath(u"out"_s);
     }
 
-    void replacesOnlyOnCommit_data()
-    {
-        QTest::addColumn<OutputFile::Temporary>("kind");
-        QTest::newRow("without a name") << OutputFile::Temporary::NamelessIfPossible;
-        QTest::newRow("with a name") << OutputFile::Temporary::Named;
-    }
-    void replacesOnlyOnCommit()
-    {
-        QFETCH(OutputFile::Temporary, kind);
-        const mode_t before = ::umask(027);
-        OutputFile(m_target.toStdString(), kind).write("half", 4);
-        QVERIFY(entriesOf(m_dir->path()).isEmpty());
-        writeFile(m_target, "older");
-        {
-            OutputFile file(m_target.toStdString(), kind);
-            file.write("newer", 5);
-            QCOMPARE(contentOf(m_target), "older");
-            file.commit();
-        }
-        ::umask(before);
-        QCOMPARE(contentOf(m_target), "newer");
-        QCOMPARE(entriesOf(m_dir->path()), QStringList{u"out"_s});
-        struct stat status;
-        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
-        QCOMPARE(status.st_mode & 07777, 0640U);
-    }
+    void replacesOnlyOnCommit() { replacesOnCommit(OutputFile::Temporary::NamelessIfPossible); }
+    void replacesOnlyOnCommitWithAName() { replacesOnCommit(OutputFile::Temporary::Named); }
 
     void followsLinksAlsoToNothing()
     {
@@ -118,6 +94,26 @@ private Q_SLOTS:
     }
 
 private:
+    void replacesOnCommit(OutputFile::Temporary kind)
+    {
+        const mode_t before = ::umask(027);
+        OutputFile(m_target.toStdString(), kind).write("half", 4);
+        QVERIFY(entriesOf(m_dir->path()).isEmpty());
+        writeFile(m_target, "older");
+        {
+            OutputFile file(m_target.toStdString(), kind);
+            file.write("newer", 5);
+            QCOMPARE(contentOf(m_target), "older");
+            file.commit();
+        }
+        ::umask(before);
+        QCOMPARE(contentOf(m_target), "newer");
+        QCOMPARE(entriesOf(m_dir->path()), QStringList{u"out"_s});
+        struct stat status;
+        QCOMPARE(::stat(qPrintable(m_target), &status), 0);
+        QCOMPARE(status.st_mode & 07777, 0640U);
+    }
+
     std::unique_ptr<QTemporaryDir> m_dir;
     QString m_target;
 };

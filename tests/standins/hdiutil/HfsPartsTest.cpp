@@ -71,46 +71,40 @@ private Q_SLOTS:
         QCOMPARE(hybridVolumeName(std::string(31, 'v') + "\u00E9"), std::string(31, 'v'));
     }
 
-    void treesOfEverySize_data()
-    {
-        QTest::addColumn<int>("mapNodes");
-        QTest::newRow("0") << 0;
-        QTest::newRow("13720") << 0; // 2048 nodes: the map in the header is just full
-        QTest::newRow("13721") << 1;
-        QTest::newRow("100000") << 4;
-    }
     void treesOfEverySize()
     {
-        const int records = QByteArray(QTest::currentDataTag()).toInt();
-        QTemporaryFile file;
-        QVERIFY(file.open());
-        hfs::ImageFile image(file.handle(), "image");
-        hfs::BTreeWriter tree(image, {512, 516, 0, 6});
-        for (int i = 0; i < records; ++i) {
-            const auto name = u"%1"_s.arg(i % 1000, 3, 10, QChar(u'0')).toStdU16String();
-            tree.append(hfs::catalogKey(static_cast<std::uint32_t>(i / 1000), name),
-                        hfs::Bytes(50));
+        // The map in the header is just full with the 2048 nodes of 13720 records.
+        for (const auto &[records, mapNodes] :
+             {std::pair(0, 0), {13720, 0}, {13721, 1}, {100000, 4}}) {
+            QTemporaryFile file;
+            QVERIFY(file.open());
+            hfs::ImageFile image(file.handle(), "image");
+            hfs::BTreeWriter tree(image, {512, 516, 0, 6});
+            for (int i = 0; i < records; ++i) {
+                const auto name = u"%1"_s.arg(i % 1000, 3, 10, QChar(u'0')).toStdU16String();
+                tree.append(hfs::catalogKey(static_cast<std::uint32_t>(i / 1000), name),
+                            hfs::Bytes(50));
+            }
+            const auto size = tree.finish();
+            image.flush();
+            QCOMPARE(quint64(file.size()), size);
+            const auto found = soundHfs({u"--tree"_s, file.fileName()});
+            QCOMPARE(found[u"records"].toInt(), records);
+            QCOMPARE(found[u"mapNodes"].toInt(), mapNodes);
         }
-        const auto size = tree.finish();
-        image.flush();
-        QCOMPARE(quint64(file.size()), size);
-        const auto found = soundHfs({u"--tree"_s, file.fileName()});
-        QCOMPARE(found[u"records"].toInt(), records);
-        QTEST(found[u"mapNodes"].toInt(), "mapNodes");
     }
 
-    void fileThatChanges_data()
+    void filesThatChange()
     {
-        QTest::addColumn<qint64>("size"); // when the image is told of it; a large one has a hole
-        QTest::addColumn<qint64>("changedSize"); // when it is read
-        QTest::newRow("has grown") << 300'000LL << 400'000LL;
-        QTest::newRow("was cut") << 300'000LL << 5LL;
-        QTest::newRow("was cut in the hole") << 9'000'000LL << 8'000'000LL;
+        takesWhatIsThere(300'000, 400'000);
+        takesWhatIsThere(300'000, 5);
+        takesWhatIsThere(9'000'000, 8'000'000); // cut in its hole
     }
-    void fileThatChanges()
+
+private:
+    // The sizes when the image is told of it and when it is read; a large file has a hole.
+    static void takesWhatIsThere(qint64 size, qint64 changedSize)
     {
-        QFETCH(qint64, size);
-        QFETCH(qint64, changedSize);
         QTemporaryFile source;
         QVERIFY(source.open());
         source.write(QByteArray(size > 1'000'000 ? 10 : size, 'x'));

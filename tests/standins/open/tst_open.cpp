@@ -1,12 +1,10 @@
 // Proves that a folder or file reaches the file manager, on the bus or else by xdg-open, and that
 // the status says whether it did.
+#include "SessionBus.h"
 #include "StandinRun.h"
 
-#include <QDBusConnection>
 #include <QDBusContext>
 #include <QSignalSpy>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <sys/stat.h>
 
@@ -49,22 +47,8 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "writes into the home folder");
-        m_bus.start(u"dbus-daemon"_s,
-                    {u"--session"_s, u"--nofork"_s, u"--print-address=1"_s,
-                     u"--address=unix:dir="_s + m_dir.path()});
-        QVERIFY(m_bus.waitForReadyRead(10000));
-        m_address = QString::fromUtf8(m_bus.readLine()).trimmed();
-        QDBusConnection bus = QDBusConnection::connectToBus(m_address, u"test"_s);
-        QVERIFY(bus.isConnected());
-        QVERIFY(bus.registerObject(u"/org/freedesktop/FileManager1"_s, &m_manager,
-                                   QDBusConnection::ExportAllSlots));
-    }
-
-    void cleanupTestCase()
-    {
-        QDBusConnection::disconnectFromBus(u"test"_s);
-        m_bus.terminate();
-        m_bus.waitForFinished();
+        QVERIFY(m_bus.connect(u"test"_s).registerObject(
+            u"/org/freedesktop/FileManager1"_s, &m_manager, QDBusConnection::ExportAllSlots));
     }
 
     void init()
@@ -73,37 +57,31 @@ private Q_SLOTS:
         m_manager.refuses = false;
     }
 
-    void showsFolderOrSelectsItem_data()
-    {
-        QTest::addColumn<QString>("path"); // below the test's folder
-        QTest::addColumn<QString>("shown"); // by "open -a Finder"
-        QTest::addColumn<QString>("selected"); // by "open -R"
-        QTest::newRow("folder") << u"plain/"_s << u"plain/"_s << u"plain"_s;
-        QTest::newRow("characters that part addresses")
-            << u"a, b#c?d%41;\u00fc"_s << u"a%2C%20b%23c%3Fd%2541%3B%C3%BC"_s
-            << u"a%2C%20b%23c%3Fd%2541%3B%C3%BC"_s;
-        QTest::newRow("file") << u"plain/-f, 1"_s << u"plain"_s << u"plain/-f%2C%201"_s;
-        QTest::newRow("link that leads nowhere") << u"link"_s << QString() << u"link"_s;
-    }
     void showsFolderOrSelectsItem()
     {
-        QFETCH(QString, path);
-        QFETCH(QString, shown);
-        QFETCH(QString, selected);
         offerFileManager();
         const QDir folder(m_dir.path());
         QVERIFY(folder.mkpath(u"plain"_s) && folder.mkpath(u"a, b#c?d%41;\u00fc"_s));
         writeFile(folder.filePath(u"plain/-f, 1"_s), {});
         QFile::link(u"/nowhere"_s, folder.filePath(u"link"_s));
-        QStringList expected{u"selected"_s, u"file://"_s + folder.filePath(selected)};
-        const RunResult result = open({u"-R"_s, folder.filePath(path)});
-        QCOMPARE(result.output + result.errors, QByteArray());
-        QCOMPARE(result.status, 0);
-        if (!shown.isEmpty()) {
-            QCOMPARE(open({u"-a"_s, u"Finder"_s, folder.filePath(path)}).status, 0);
-            expected << u"file://"_s + folder.filePath(shown);
+        const auto coded = u"a%2C%20b%23c%3Fd%2541%3B%C3%BC"_s;
+        // The path, what "open -a Finder" shows, and what "open -R" selects.
+        for (const auto &[path, shown, selected] :
+             {std::tuple(u"plain/"_s, u"plain/"_s, u"plain"_s),
+              std::tuple(u"a, b#c?d%41;\u00fc"_s, coded, coded),
+              std::tuple(u"plain/-f, 1"_s, u"plain"_s, u"plain/-f%2C%201"_s),
+              std::tuple(u"link"_s, QString(), u"link"_s)}) {
+            m_manager.shown.clear();
+            QStringList expected{u"selected"_s, u"file://"_s + folder.filePath(selected)};
+            const RunResult result = open({u"-R"_s, folder.filePath(path)});
+            QCOMPARE(result.output + result.errors, QByteArray());
+            QCOMPARE(result.status, 0);
+            if (!shown.isEmpty()) {
+                QCOMPARE(open({u"-a"_s, u"Finder"_s, folder.filePath(path)}).status, 0);
+                expected << u"file://"_s + folder.filePath(shown);
+            }
+            QCOMPARE(m_manager.shown, expected);
         }
-        QCOMPARE(m_manager.shown, expected);
     }
 
     void saysWhenNothingShowsIt()
@@ -120,32 +98,28 @@ private Q_SLOTS:
         QCOMPARE(m_manager.shown.size(), 1);
     }
 
-    void fallsBackToOpener_data()
-    {
-        QTest::addColumn<QByteArray>("script");
-        QTest::addColumn<int>("status");
-        QTest::newRow("opened") << "exit 0"_ba << 0;
-        QTest::newRow("failed") << "exit 4"_ba << 1;
-        QTest::newRow("stays") << "echo $$ > \"$HOME/number\"; exec sleep 60"_ba << 0;
-    }
     // xdg-open on a desktop that it does not know starts the application that is registered for
     // folders.
     void fallsBackToOpener()
     {
-        QFETCH(QByteArray, script);
         writeFile(m_dir.filePath(u"file"_s), {});
         withdrawFileManager();
-        registerApplication("echo \"$1\" > \"$HOME/opened\"; " + script);
         QProcessEnvironment environment = onBus();
         environment.insert(u"DISPLAY"_s, u":250"_s);
-        const RunResult result = open({u"-R"_s, m_dir.filePath(u"file"_s)}, environment);
-        QTEST(result.status, "status");
-        const QByteArray opened = contentOf(QDir::homePath() + u"/opened"_s).trimmed();
-        QVERIFY2(opened.endsWith(m_dir.path().toUtf8()), opened.constData());
-        if (const int number = contentOf(QDir::homePath() + u"/number"_s).trimmed().toInt()) {
-            QVERIFY(isRunning(number));
-            ::kill(number, SIGKILL);
+        for (const auto &[script, status] :
+             {std::pair("exit 0", 0), std::pair("exit 4", 1),
+              std::pair("echo $$ > \"$HOME/number\"; exec sleep 60", 0)}) {
+            registerApplication("echo \"$1\" > \"$HOME/opened\"; "_ba + script);
+            const RunResult result = open({u"-R"_s, m_dir.filePath(u"file"_s)}, environment);
+            QCOMPARE(result.status, status);
+            QFile opened(QDir::homePath() + u"/opened"_s);
+            const QByteArray address = contentOf(opened.fileName()).trimmed();
+            QVERIFY2(address.endsWith(m_dir.path().toUtf8()), address.constData());
+            QVERIFY(opened.remove());
         }
+        const int number = contentOf(QDir::homePath() + u"/number"_s).trimmed().toInt();
+        QVERIFY(isRunning(number));
+        ::kill(number, SIGKILL);
     }
 
     void refusesWhatDoesNotExist()
@@ -165,7 +139,7 @@ private:
     QProcessEnvironment onBus() const
     {
         QProcessEnvironment environment = plainEnvironment();
-        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_address);
+        environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, m_bus.address());
         environment.remove(u"DISPLAY"_s);
         environment.remove(u"WAYLAND_DISPLAY"_s);
         return environment;
@@ -213,9 +187,8 @@ private:
     }
 
     QTemporaryDir m_dir;
-    QProcess m_bus;
-    QString m_address;
     RecordingFileManager m_manager;
+    SessionBus m_bus;
 };
 
 QTEST_GUILESS_MAIN(TestOpen)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AboutViewController.h"
+#include "Files.h"
 #include "MakersServer.h"
 #include "MiscTool.h"
 #include "PageControls.h"
@@ -85,13 +86,11 @@ protected:
     }
     static QByteArray read(const char *name)
     {
-        QFile file(documents().filePath(QLatin1String(name)));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        return Files::read(documents().filePath(QLatin1String(name)));
     }
     static void write(const char *name, const QByteArray &bytes)
     {
-        QFile file(documents().filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        Files::write(documents().filePath(QLatin1String(name)), bytes);
     }
 
     QString serversAddress() const { return QString::fromLatin1(m_server->address("/conf/")); }

@@ -21,12 +21,10 @@ struct FormField {
     bool isLockedByARun = false;
 };
 
-/// A button that opens a chooser, what is typed there, and what stands in the field then.
+/// A button that opens a chooser, what is typed there, and what stands in the form then.
 struct Choice {
     const char *button;
-    const char *chooser;
     QString typed;
-    const char *field;
     QString chosen;
 };
 
@@ -35,7 +33,7 @@ struct PageContract {
     std::function<QWidget *(JobList &)> makePage = {};
     const char *program = {};
     QList<FormField> form = {}; ///< In the order in which it is checked.
-    QList<Choice> choices = {};
+    QList<Choice> choices = {}; ///< For the first and the last field.
     QStringList buttons = {}; ///< Off while it runs; the last one starts it.
     QString arguments = {}; ///< With "|" between them.
     QString success = {};
@@ -66,14 +64,13 @@ inline std::vector<std::pair<const char *, PageContract>> pageContracts()
     };
     const QStringList buttons{u"srcSelectButton"_s, u"outputSelectButton"_s, u"clearButton"_s,
                               u"generateButton"_s};
-    const Choice source{"srcSelectButton", "folderChooser", u"@"_s, "srcFolderField", u"@"_s};
+    const Choice source{"srcSelectButton", u"@"_s, u"@"_s};
     row("zip",
         {.makePage = makePage<ZIPViewController>,
          .program = "zip",
          .form = {{"srcFolderField", u"@"_s, u"[SrcFolderNull]"_s},
                   {"outputField", u"@/-made <b>.zip"_s, u"[ZipFileNameNull]"_s, true}},
-         .choices = {source,
-                     {"outputButton", "saveChooser", u"@/a"_s, "outputField", u"@/a.zip"_s}},
+         .choices = {source, {"outputButton", u"@/a"_s, u"@/a.zip"_s}},
          .buttons = {u"srcSelectButton"_s, u"ratioPopUp"_s, u"outputButton"_s, u"clearButton"_s,
                      u"generateButton"_s},
          .arguments = u"-r|"_s + MiscTool::getAppDocumentFolder() + u"/-made <b>.zip|.|-1|-q"_s,
@@ -86,9 +83,8 @@ inline std::vector<std::pair<const char *, PageContract>> pageContracts()
          .program = "unzip",
          .form = {{"srcFolderField", u"@/photos.zip"_s, u"[SrcFolderNull]"_s},
                   {"outputField", u"@/new/below"_s}},
-         .choices = {{"srcSelectButton", "fileChooser", u"@/photos.zip"_s, "srcFolderField",
-                      u"@/photos.zip"_s},
-                     {"outputSelectButton", "folderChooser", u"@"_s, "outputField", u"@"_s}},
+         .choices = {{"srcSelectButton", u"@/photos.zip"_s, u"@/photos.zip"_s},
+                     {"outputSelectButton", u"@"_s, u"@"_s}},
          .buttons = buttons,
          .arguments = u"-q|@/photos.zip|-d|@/new/below/photos"_s,
          .success = u"[UnzipSuc]"_s,
@@ -110,8 +106,7 @@ inline std::vector<std::pair<const char *, PageContract>> pageContracts()
         disk.makePage = isDmg ? makePage<DMGViewController> : makePage<ISOViewController>;
         disk.arguments = (isDmg ? u"makehybrid|-hfs|"_s : u"makehybrid|"_s) + image;
         disk.choices = {source,
-                        {"outputSelectButton", "saveChooser", u"@/a"_s, "outputField",
-                         u"@/a."_s + QLatin1String(suffix)}};
+                        {"outputSelectButton", u"@/a"_s, u"@/a."_s + QLatin1String(suffix)}};
         row(suffix, disk);
     }
     row("video",
@@ -119,9 +114,8 @@ inline std::vector<std::pair<const char *, PageContract>> pageContracts()
          .program = "avconvert",
          .form = {{"sourceField", u"@/-video.avi"_s, u"[Source file cannot be null.]"_s},
                   {"outputField", u"@/-made.m4v"_s, u"[Output file cannot be null.]"_s}},
-         .choices = {{"sourceSelectButton", "fileChooser", u"@/holiday.MPEG"_s, "sourceField",
-                      u"@/holiday.MPEG"_s},
-                     {"outputSelectButton", "saveChooser", u"@/a"_s, "outputField", u"@/a.m4v"_s}},
+         .choices = {{"sourceSelectButton", u"@/holiday.MPEG"_s, u"@/holiday.MPEG"_s},
+                     {"outputSelectButton", u"@/a"_s, u"@/a.m4v"_s}},
          .buttons = {u"sourceSelectButton"_s, u"outputFormatPopUp"_s, u"outputSelectButton"_s,
                      u"convertButton"_s},
          .arguments = u"--preset|Preset3840x2160|--source|@/-video.avi|--output|@/-made.m4v|-q"_s,

@@ -1,10 +1,10 @@
 // A finished file gets to its place whole or not at all, and replaces nothing that stands there.
 
 #include "FilePlacement.h"
+#include "Files.h"
 #include "OldSystem.h"
 
 #include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -36,7 +36,6 @@ private Q_SLOTS:
             && mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
         if (oldSystem && !pretendOldSystem())
             QSKIP("this kernel lets no process restrict itself");
-        m_bytes = QByteArray(300'000, 'z') + QByteArray("\0end", 4);
     }
 
     void init()
@@ -47,7 +46,7 @@ private Q_SLOTS:
         const QByteArray folder = QFile::encodeName(m_elsewhere->path());
         if (m_mounted)
             QCOMPARE(mount("tmpfs", folder.constData(), "tmpfs", 0, "size=1m"), 0);
-        write(source(), m_bytes);
+        Files::write(source(), m_bytes);
         QCOMPARE(chmod(QFile::encodeName(source()).constData(), 0640), 0);
     }
 
@@ -63,12 +62,12 @@ private Q_SLOTS:
     {
         const QString near = m_here->filePath(u"-a \n\U0001F600.zip"_s);
         QCOMPARE(place(source(), near).end(), oldSystem ? End::Copied : End::Renamed);
-        QCOMPARE(content(near), m_bytes);
+        QCOMPARE(Files::read(near), m_bytes);
         struct stat before = {};
         QCOMPARE(stat(QFile::encodeName(near).constData(), &before), 0);
         const QString far = m_elsewhere->filePath(QString(251, u'n') + u".zip"_s);
         QCOMPARE(place(near, far).end(), End::Copied);
-        QCOMPARE(content(far), m_bytes);
+        QCOMPARE(Files::read(far), m_bytes);
         struct stat after = {};
         QCOMPARE(stat(QFile::encodeName(far).constData(), &after), 0);
         QCOMPARE(after.st_mode, before.st_mode);
@@ -82,16 +81,16 @@ private Q_SLOTS:
         for (const QString &folder : {m_here->path(), m_elsewhere->path()}) {
             const QString file = folder + u"/file"_s;
             const QString link = folder + u"/dangling link"_s;
-            write(file, "precious");
+            Files::write(file, "precious");
             QVERIFY(QDir(folder).mkdir(u"folder"_s) && QFile::link(u"/nonexistent/there"_s, link));
             for (const QString &target : {file, folder + u"/folder"_s, link}) {
-                write(source(), m_bytes);
+                Files::write(source(), m_bytes);
                 const FilePlacement placement = place(source(), target);
                 QCOMPARE(placement.end(), End::NotPlaced);
                 QCOMPARE(placement.error(), EEXIST);
                 QVERIFY(!QFile::exists(source()));
             }
-            QCOMPARE(content(file), QByteArray("precious"));
+            QCOMPARE(Files::read(file), "precious");
             QVERIFY(QFileInfo(folder + u"/folder"_s).isDir() && QFileInfo(link).isSymLink());
             QCOMPARE(entries(folder).size(), 3);
         }
@@ -103,13 +102,13 @@ private Q_SLOTS:
         const QString spelled =
             m_here->path() + u"/../"_s + QFileInfo(m_here->path()).fileName() + u"//finished"_s;
         QCOMPARE(place(source(), spelled).end(), End::AlreadyThere);
-        QCOMPARE(content(source()), m_bytes);
+        QCOMPARE(Files::read(source()), m_bytes);
         const QString otherLink = m_here->filePath(u"link"_s);
         QCOMPARE(
             link(QFile::encodeName(source()).constData(), QFile::encodeName(otherLink).constData()),
             0);
         QCOMPARE(place(source(), otherLink).end(), End::NotPlaced);
-        QCOMPARE(content(otherLink), m_bytes);
+        QCOMPARE(Files::read(otherLink), m_bytes);
     }
 
     void sourceIsNoFile()
@@ -126,52 +125,43 @@ private Q_SLOTS:
     {
         if (!m_mounted)
             QSKIP("mounting is not permitted here");
-        write(m_elsewhere->filePath(u"filler"_s), QByteArray(900'000, 'f'));
+        Files::write(m_elsewhere->filePath(u"filler"_s), QByteArray(900'000, 'f'));
         const FilePlacement placement = place(source(), m_elsewhere->filePath(u"a"_s));
         QCOMPARE(placement.error(), ENOSPC);
         QCOMPARE(entries(m_elsewhere->path()), QStringList{u"filler"_s});
         const QByteArray folder = QFile::encodeName(m_elsewhere->path());
         QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr), 0);
-        write(source(), m_bytes);
+        Files::write(source(), m_bytes);
         const FilePlacement readOnly = place(source(), m_elsewhere->filePath(u"a"_s));
         QCOMPARE(readOnly.error(), EROFS);
         QVERIFY(!readOnly.description().contains(u'\n'));
         QVERIFY(entries(m_here->path()).isEmpty());
     }
 
-    void stopped_data()
-    {
-        QTest::addColumn<bool>("elsewhere");
-        QTest::addColumn<int>("after"); // milliseconds
-        QTest::newRow("before it would be renamed") << false << 0;
-        QTest::newRow("before it is copied") << true << 0;
-        QTest::newRow("in the middle") << true << 10;
-    }
-
     void stopped()
     {
-        QFETCH(bool, elsewhere);
-        QFETCH(int, after);
-        if (after > 0) {
-            if (!m_mounted)
-                QSKIP("mounting is not permitted here");
-            const QByteArray folder = QFile::encodeName(m_elsewhere->path());
-            QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT, "size=512m"), 0);
-            QVERIFY(QFile::resize(source(), 510 << 20)); // far more than can be copied until then
+        // Before it would be renamed, before it is copied, and in the middle of the copy.
+        for (const auto &[elsewhere, after] : {std::pair(false, 0), {true, 0}, {true, 10}}) {
+            if (after > 0) {
+                if (!m_mounted)
+                    QSKIP("mounting is not permitted here");
+                const QByteArray folder = QFile::encodeName(m_elsewhere->path());
+                QCOMPARE(mount("none", folder.constData(), nullptr, MS_REMOUNT, "size=512m"), 0);
+                QVERIFY(QFile::resize(source(), 510 << 20)); // more than is copied until then
+            }
+            const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
+            std::stop_source stop;
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not placed"_s));
+            if (after == 0)
+                stop.request_stop();
+            const auto future = placeFile(source(), folder + u"/a"_s, stop.get_token());
+            QTimer::singleShot(after, this, [stop]() mutable { stop.request_stop(); });
+            QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 60000);
+            QVERIFY(future.result().wasStopped());
+            QCOMPARE(future.result().error(), ECANCELED);
+            QCOMPARE(entries(m_here->path()), QStringList{u"finished"_s}); // nothing is lost
+            QVERIFY(entries(m_elsewhere->path()).isEmpty());
         }
-        const QString folder = elsewhere ? m_elsewhere->path() : m_here->path();
-        std::stop_source stop;
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"not placed"_s));
-        if (after == 0)
-            stop.request_stop();
-        const auto future = placeFile(source(), folder + u"/a"_s, stop.get_token());
-        QTimer::singleShot(after, this, [stop]() mutable { stop.request_stop(); });
-        QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 60000);
-        QVERIFY(future.result().wasStopped());
-        QCOMPARE(future.result().error(), ECANCELED);
-        QVERIFY(QFile::exists(source())); // nothing is lost
-        QFile::remove(source());
-        QVERIFY(entries(folder).isEmpty());
     }
 
 private:
@@ -181,17 +171,6 @@ private:
         [&] { QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 60000); }();
         return future.result();
     }
-    static QByteArray content(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-    }
-    static void write(const QString &path, const QByteArray &bytes)
-    {
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
     QString source() const { return m_here->filePath(u"finished"_s); }
     /// Everything in the folder, temporary names included.
     static QStringList entries(const QString &folder)
@@ -200,7 +179,7 @@ private:
                                       | QDir::NoDotAndDotDot);
     }
 
-    QByteArray m_bytes;
+    const QByteArray m_bytes = QByteArray(300'000, 'z') + QByteArray("\0end", 4);
     std::unique_ptr<QTemporaryDir> m_here;
     std::unique_ptr<QTemporaryDir> m_elsewhere; // a small file system of its own, where permitted
     bool m_mounted = false;

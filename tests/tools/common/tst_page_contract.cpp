@@ -142,8 +142,11 @@ private Q_SLOTS:
     {
         for (const Choice &choice : m_contract.choices) {
             press(*m_page, choice.button);
-            answerChooser(*m_page, choice.chooser, inFolder(choice.typed));
-            QCOMPARE(text(*m_page, choice.field), inFolder(choice.chosen));
+            const auto chooser = m_page->findChild<QFileDialog *>()->objectName().toLatin1();
+            answerChooser(*m_page, chooser.constData(), inFolder(choice.typed));
+            const bool isFirst = &choice == &m_contract.choices.constFirst();
+            const FormField &field = isFirst ? m_contract.form.first() : m_contract.form.last();
+            QCOMPARE(text(*m_page, field.name), inFolder(choice.chosen));
         }
         if (auto *volume = m_page->findChild<QLineEdit *>(u"volumnNameField"_s))
             QCOMPARE(volume->text(), QFileInfo(m_folder->path()).fileName());

@@ -1,31 +1,131 @@
-// The fields and indicators that pages share show what they should and take only what fits.
+// The choosers, fields and indicators that pages share show what they should, and give the page a
+// path of the kind that was asked for, or nothing.
 
-#include "BusyIndicator.h"
+#include "Chooser.h"
 #include "ElapsedLabel.h"
+#include "Files.h"
+#include "PageControls.h"
 #include "PathField.h"
+#include "RecentFolder.h"
 
-#include <QAbstractAnimation>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QDropEvent>
-#include <QHBoxLayout>
+#include <QMessageBox>
 #include <QMimeData>
+#include <QSettings>
 #include <QTemporaryDir>
-#include <QTest>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
+using PageControls::answerChooser;
 
 class PageWidgets : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QCoreApplication::setOrganizationName(u"Toolvane"_s); }
     void init()
     {
+        QSettings().clear();
         m_folder = std::make_unique<QTemporaryDir>();
         QVERIFY(QDir(m_folder->path()).mkdir(u"a folder"_s));
-        for (const QString &name : {u"A.ZIP"_s, u"b.txt"_s})
-            QVERIFY(QFile(path(name)).open(QIODevice::WriteOnly));
+        Files::write(path(u"A.ZIP"_s), {});
+        Files::write(path(u"b.txt"_s), {});
+        m_window = std::make_unique<QWidget>();
+        m_page = new QWidget(m_window.get());
+        for (const QString &chooser : {u"fileChooser"_s, u"saveChooser"_s})
+            RecentFolder::remember(*m_page, chooser, m_folder->path());
+        m_window->show();
+        m_chosen.clear();
+    }
+    // No sheet is left over, however it ended.
+    void cleanup() { QTRY_VERIFY(!sheet()); }
+
+    void fileOfItsKind()
+    {
+        Chooser::chooseFile(m_page, {u"tar"_s, u"zip"_s}, remember());
+        answer(sheet(), path(u"b.txt"_s));
+        QVERIFY(m_chosen.isEmpty());
+        QTRY_COMPARE(m_window->findChildren<QFileDialog *>().size(), 1); // it asks again
+        answer(sheet(), path(u"A.ZIP"_s));
+        QCOMPARE(m_chosen, QStringList{path(u"A.ZIP"_s)});
+    }
+
+    void saveName()
+    {
+        for (const auto &[typed, whole] : {std::pair(u"photos.ZIP"_s, u"photos.ZIP"_s),
+                                           std::pair(u"-rf ä.tar"_s, u"-rf ä.tar.zip"_s)}) {
+            Chooser::chooseSaveFile(m_page, u"zip"_s, remember());
+            QFileDialog *dialog = sheet();
+            QVERIFY(!dialog->findChild<QWidget *>(u"newFolderButton"_s)->isEnabled());
+            answer(dialog, typed);
+            QCOMPARE(m_chosen.last(), path(whole));
+            QTRY_VERIFY(!sheet());
+        }
+    }
+
+    // Else "a.b" would replace "a.b.dmg" after no question at all.
+    void asksAboutTheNameThatWillBeWritten()
+    {
+        const QString standing = path(u"a.b.dmg"_s);
+        Files::write(standing, {});
+        Chooser::chooseSaveFile(m_page, u"dmg"_s, remember());
+        answer(sheet(), u"a.b"_s);
+        QVERIFY(m_chosen.isEmpty());
+        QTRY_COMPARE(m_window->findChildren<QFileDialog *>().size(), 1);
+        QFileDialog *again = sheet();
+        QCOMPARE(again->selectedFiles(), QStringList{standing});
+
+        bool asked = false;
+        QTimer::singleShot(0, this, [&] {
+            auto *question = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            asked = question != nullptr;
+            if (question)
+                question->button(QMessageBox::Yes)->click();
+        });
+        again->findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Save)->click();
+        QVERIFY(asked);
+        QCOMPARE(m_chosen, QStringList{standing});
+    }
+
+    void startsWhereItWasUsed()
+    {
+        const QDir folder(m_folder->path());
+        QVERIFY(folder.mkpath(u"one/Photos"_s));
+        Chooser::chooseFolder(m_page, remember());
+        answerChooser(*m_page, "folderChooser", folder.filePath(u"one/Photos/"_s));
+        QCOMPARE(m_chosen, QStringList{folder.filePath(u"one/Photos"_s)});
+        Chooser::chooseFolder(m_page, remember()); // its neighbours are seen, and OK takes it again
+        QCOMPARE(sheet()->directory().path(), folder.filePath(u"one"_s));
+        QCOMPARE(sheet()->selectedFiles(), QStringList{folder.filePath(u"one/Photos"_s)});
+        answerChooser(*m_page, "folderChooser", {});
+        Chooser::chooseSaveFile(m_page, u"zip"_s, remember());
+        answerChooser(*m_page, "saveChooser", folder.filePath(u"one/a.zip"_s));
+        Chooser::chooseSaveFile(m_page, u"zip"_s, remember());
+        QCOMPARE(sheet()->directory().path(), folder.filePath(u"one"_s));
+        answerChooser(*m_page, "saveChooser", {});
+
+        QVERIFY(QDir(folder.filePath(u"one"_s)).removeRecursively());
+        Chooser::chooseFolder(m_page, remember());
+        QCOMPARE(sheet()->directory().path(), QDir::homePath());
+        QVERIFY(sheet()->isModal());
+        answerChooser(*m_page, "folderChooser", {});
+    }
+
+    void pageDies()
+    {
+        int cancels = 0;
+        Chooser::chooseFolder(m_page, remember(), {}, [&] { ++cancels; });
+        QPointer<QFileDialog> dialog = sheet();
+        delete m_page;
+        QVERIFY(dialog);
+        static_cast<QDialog *>(dialog)->accept();
+        QTRY_VERIFY(!dialog);
+        QCOMPARE(cancels, 0);
+        QVERIFY(m_chosen.isEmpty());
     }
 
     void takesWhatFits()
@@ -87,58 +187,35 @@ private Q_SLOTS:
         for (const QString &name : {u"clip.part.m4v"_s, u"clip.part 2.m4v"_s}) {
             QVERIFY(drop(field, urls));
             QCOMPARE(field.text(), path(name));
-            QVERIFY(QFile(field.text()).open(QIODevice::WriteOnly)); // the next one makes way
+            Files::write(field.text(), {}); // the next one makes way
         }
     }
 
     void showsALongPathInItsToolTip()
     {
         PathField field;
-        const QSize before = field.sizeHint();
         field.setText(u"/"_s + QString(4000, u'w'));
         QCOMPARE(field.toolTip(), field.text());
-        QCOMPARE(field.sizeHint(), before);
         field.setText(u"/<b>bold</b>"_s); // a name, no markup
         QVERIFY(field.toolTip().contains(u"&lt;b&gt;bold"_s));
     }
 
-    void elapsedText()
+    // Also while its page is hidden, and until the page tells the end.
+    void theTimeGoesOn()
     {
-        QCOMPARE(ElapsedLabel::elapsedText(-1), u"0:00"_s);
-        QCOMPARE(ElapsedLabel::elapsedText(3'599'999), u"59:59"_s);
-        QCOMPARE(ElapsedLabel::elapsedText(3'723'000), u"1:02:03"_s);
-    }
-
-    // The style's animation would otherwise wake the processor up for nobody; the time goes on.
-    void indicatorsOfAHiddenPageRest()
-    {
-        QApplication::setStyle(u"fusion"_s);
         QWidget page;
-        QHBoxLayout row(&page);
-        BusyIndicator indicator;
-        ElapsedLabel elapsed;
-        row.addWidget(&indicator);
-        row.addWidget(&elapsed);
-        connect(&indicator, &BusyIndicator::animatingChanged, &elapsed, &ElapsedLabel::setRunning);
-        const auto moves = [&] { return indicator.findChild<QAbstractAnimation *>() != nullptr; };
+        ElapsedLabel elapsed(&page);
         page.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&page));
-        indicator.startAnimation();
-        indicator.startAnimation();
-        QTRY_VERIFY(moves());
-        QCOMPARE(elapsed.text(), u"0:00"_s);
+        elapsed.setRunning(true);
         page.hide(); // another page is chosen
-        QTRY_VERIFY(!moves());
-        QTest::qWait(1000);
+        QTest::qWait(1100);
         page.show();
-        QTRY_VERIFY(moves());
         QVERIFY(elapsed.isVisible() && elapsed.text() != u"0:00"_s);
-        elapsed.hold(); // while the page tells the end
+        elapsed.hold();
         const QString held = elapsed.text();
         QTest::qWait(1100);
         QVERIFY(elapsed.isVisible() && elapsed.text() == held);
-        indicator.stopAnimation();
-        QTRY_VERIFY(!moves());
+        elapsed.setRunning(false);
         QVERIFY(!elapsed.isVisible());
     }
 
@@ -158,7 +235,22 @@ private:
             QTest::qFail("the drag promised something else", __FILE__, __LINE__);
         return dropped.isAccepted() && dropped.dropAction() == Qt::CopyAction;
     }
+    QFileDialog *sheet() const { return m_window->findChild<QFileDialog *>(); }
+    static void answer(QFileDialog *sheet, const QString &typed)
+    {
+        auto *name = sheet->findChild<QLineEdit *>(u"fileNameEdit"_s);
+        name->setText(typed);
+        QTest::keyClick(name, Qt::Key_Return);
+    }
+    Chooser::Chosen remember()
+    {
+        return [this](const QString &path) { m_chosen << path; };
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QWidget> m_window;
+    QWidget *m_page = nullptr;
+    QStringList m_chosen;
 };
 
 QTEST_MAIN(PageWidgets)

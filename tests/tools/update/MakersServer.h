@@ -17,10 +17,7 @@ public:
         const std::lock_guard lock(m_mutex);
         m_answers[path] = answer;
     }
-    void set(const QByteArray &path, const QByteArray &body)
-    {
-        set(path, raw(HttpPeer::reply(body)));
-    }
+    void set(const QByteArray &path, const QByteArray &body) { set(path, serving(body)); }
 
     QByteArray address(const QByteArray &path) const { return m_peer.address(path); }
     /// The paths asked for, in order.
@@ -38,6 +35,7 @@ public:
     {
         return [reply](HttpPeer::Connection &connection) { connection.send(reply); };
     }
+    static Answer serving(const QByteArray &body) { return raw(HttpPeer::reply(body)); }
     static Answer status(const QByteArray &status)
     {
         return raw(HttpPeer::reply("an error page", status));

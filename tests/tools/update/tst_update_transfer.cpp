@@ -1,11 +1,16 @@
 // Proves that a feed is believed and a file kept only when they are wholly as the maker signed
-// them, whatever the server does, and that nothing else is ever left behind.
+// them, whatever the server does, that nothing else is ever left behind, and that what the
+// publishing scripts build is believed.
 
+#include "Files.h"
 #include "Maker.h"
 #include "MakersServer.h"
+#include "SignatureCheck.h"
+#include "UpdateOffer.h"
 #include "UpdateTransfer.h"
 
 #include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -13,8 +18,7 @@
 
 using namespace Qt::StringLiterals;
 using Kind = UpdateProblem::Kind;
-
-Q_DECLARE_METATYPE(MakersServer::Answer)
+using Answers = QList<std::pair<MakersServer::Answer, Kind>>;
 
 namespace
 {
@@ -22,19 +26,24 @@ namespace
 constexpr const char *filePath = "/files/toolvane-1.4.tar.gz";
 const QDateTime feedDate(QDate(2026, 3, 2), QTime(10, 0), Qt::UTC);
 
-void addRow(const char *name, const MakersServer::Answer &answer, Kind problem)
+QByteArray flipped(QByteArray bytes, qsizetype bit)
 {
-    QTest::newRow(name) << answer << problem;
+    bytes[bit / 8] = static_cast<char>(bytes[bit / 8] ^ (1 << (bit % 8)));
+    return bytes;
 }
 
-void addRow(const char *name, const QByteArray &body, Kind problem)
+// The same number modulo the group's order, written in another way.
+QByteArray unreduced(QByteArray signature)
 {
-    addRow(name, MakersServer::raw(HttpPeer::reply(body)), problem);
-}
-
-bool isEmpty(const QTemporaryDir &folder)
-{
-    return QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    const QByteArray order =
+        QByteArray::fromHex("edd3f55c1a631258d69cf7a2def9de1400000000000000000000000000000010");
+    int carry = 0;
+    for (qsizetype i = 0; i < order.size(); ++i) {
+        carry += uchar(signature[32 + i]) + uchar(order[i]);
+        signature[32 + i] = static_cast<char>(carry & 0xff);
+        carry >>= 8;
+    }
+    return signature;
 }
 
 } // namespace
@@ -44,35 +53,59 @@ class TestUpdateTransfer : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void believesFeedsByTheirSignatureAndDate_data()
+    // The sanitizers have no business in the scripts.
+    void initTestCase() { qunsetenv("LD_PRELOAD"); }
+
+    void refusesEveryFlippedBitAndMadeUpKeys()
     {
-        QTest::addColumn<MakersServer::Answer>("answer");
-        QTest::addColumn<Kind>("problem");
+        const QByteArray message("what the maker made");
+        const QByteArray signature = m_maker.sign(message);
+        QVERIFY(SignatureCheck::isValid(message, m_maker.publicKey, signature));
+        int accepted = 0;
+        const auto check = [&](const QByteArray &m, const QByteArray &k, const QByteArray &s) {
+            accepted += SignatureCheck::isValid(m, k, s) ? 1 : 0;
+        };
+        for (qsizetype bit = 0; bit < message.size() * 8; ++bit)
+            check(flipped(message, bit), m_maker.publicKey, signature);
+        for (qsizetype bit = 0; bit < signature.size() * 8; ++bit)
+            check(message, m_maker.publicKey, flipped(signature, bit));
+        for (qsizetype bit = 0; bit < m_maker.publicKey.size() * 8; ++bit)
+            check(message, flipped(m_maker.publicKey, bit), signature);
+        check(message, m_maker.publicKey, unreduced(signature));
+        check(message, QByteArray(32, '\0'), QByteArray(64, '\0'));
+        check(message, {}, signature);
+        check(message, m_maker.publicKey + 'x', signature);
+        check(message, m_maker.publicKey, {});
+        check(message, m_maker.publicKey, signature.chopped(1));
+        QCOMPARE(accepted, 0);
+    }
+
+    void believesFeedsByTheirSignatureAndDate()
+    {
         const QByteArray feed = Maker::feed(Maker::withdrawn("1.1"));
         const QByteArray good = m_maker.sealed(feed);
         const auto dated = [this](const QByteArray &date) {
-            return m_maker.sealed(Maker::feed("", date));
+            return MakersServer::serving(m_maker.sealed(Maker::feed("", date)));
         };
-        addRow("the maker's", good, Kind::None);
-        addRow("a newer one", dated("Tue, 03 Mar 2026 10:00:00 GMT"), Kind::None);
-        addRow("an older one", dated("Sun, 01 Mar 2026 10:00:00 +0000"), Kind::Older);
-        addRow("without a date", dated("some day"), Kind::NoDate);
-        addRow("no feed", m_maker.sealed("hello\n"), Kind::NotAFeed);
-        addRow("unsigned", feed, Kind::Unsigned);
-        addRow("signed by another key", Maker().sealed(feed), Kind::WrongSignature);
-        addRow("changed afterwards", QByteArray(good).replace("1.1", "1.9"), Kind::WrongSignature);
-        addRow("error", MakersServer::status("500 Oh"), Kind::Status);
-        addRow("redirects to a file", MakersServer::redirect("file:///etc/passwd"), Kind::Status);
-        addRow("endless", MakersServer::endless(feed), Kind::TooLarge);
-    }
-    void believesFeedsByTheirSignatureAndDate()
-    {
-        QFETCH(MakersServer::Answer, answer);
-        m_server.set("/feed.xml", answer);
-        const FetchedFeed fetched =
-            fetchFeed({m_server.address("/feed.xml"), m_maker.publicKey}, feedDate, {});
-        QTEST(fetched.problem.kind, "problem");
-        QCOMPARE(fetched.feed.date.isValid(), !fetched.problem);
+        const Answers answers{
+            {MakersServer::serving(good), Kind::None},
+            {dated("Tue, 03 Mar 2026 10:00:00 GMT"), Kind::None},
+            {dated("Sun, 01 Mar 2026 10:00:00 +0000"), Kind::Older},
+            {dated("some day"), Kind::NoDate},
+            {MakersServer::serving(m_maker.sealed("hello\n")), Kind::NotAFeed},
+            {MakersServer::serving(feed), Kind::Unsigned},
+            {MakersServer::serving(Maker().sealed(feed)), Kind::WrongSignature},
+            {MakersServer::serving(QByteArray(good).replace("1.1", "1.9")), Kind::WrongSignature},
+            {MakersServer::status("500 Oh"), Kind::Status},
+            {MakersServer::redirect("file:///etc/passwd"), Kind::Status},
+            {MakersServer::endless(feed), Kind::TooLarge}};
+        for (const auto &[answer, problem] : answers) {
+            m_server.set("/feed.xml", answer);
+            const FetchedFeed fetched =
+                fetchFeed({m_server.address("/feed.xml"), m_maker.publicKey}, feedDate, {});
+            QCOMPARE(fetched.problem.kind, problem);
+            QCOMPARE(fetched.feed.date.isValid(), !fetched.problem);
+        }
     }
 
     void asksNoUnsafeServer()
@@ -102,36 +135,30 @@ private Q_SLOTS:
         QCOMPARE(fetch(item("new"), folder.path()).path,
                  folder.filePath(u"toolvane-1.4 3.tar.gz"_s));
         QCOMPARE(fetch(item("new"), fetched.path).problem.kind, Kind::NotWritten); // no folder
-        QFile written(fetched.path);
-        QVERIFY(written.open(QIODevice::ReadOnly));
-        QVERIFY(written.permissions() & QFile::ReadOther); // who installs it may be another user
-        QCOMPARE(written.readAll(), file);
+        QCOMPARE(Files::read(fetched.path), file);
+        // Who installs it may be another user.
+        QVERIFY(QFile::permissions(fetched.path) & QFile::ReadOther);
     }
 
-    void keepsNothingElse_data()
-    {
-        QTest::addColumn<MakersServer::Answer>("answer");
-        QTest::addColumn<Kind>("problem");
-        const QByteArray file(300'000, 'f');
-        QByteArray swapped = file;
-        swapped[1000] = 'g';
-        addRow("swapped", swapped, Kind::WrongSignature);
-        addRow("shorter", file.chopped(1), Kind::Incomplete);
-        addRow("longer", file + 'f', Kind::TooLarge);
-        addRow("endless", MakersServer::endless(file), Kind::TooLarge);
-        addRow("dropping", MakersServer::dropping(file.chopped(1000)), Kind::Unreachable);
-        addRow("error page", MakersServer::status("404 Not Found"), Kind::Status);
-        addRow("redirects to a file", MakersServer::redirect("file:///etc/passwd"), Kind::Status);
-    }
     void keepsNothingElse()
     {
-        QFETCH(MakersServer::Answer, answer);
+        const QByteArray file(300'000, 'f');
+        const Answers answers{{MakersServer::serving(file.chopped(1) + 'g'), Kind::WrongSignature},
+                              {MakersServer::serving(file.chopped(1)), Kind::Incomplete},
+                              {MakersServer::serving(file + 'f'), Kind::TooLarge},
+                              {MakersServer::endless(file), Kind::TooLarge},
+                              {MakersServer::dropping(file.chopped(1000)), Kind::Unreachable},
+                              {MakersServer::status("404 Not Found"), Kind::Status},
+                              {MakersServer::redirect("file:///etc/passwd"), Kind::Status}};
         const QTemporaryDir folder;
-        m_server.set(filePath, answer);
-        const FetchedFile fetched = fetch(item(QByteArray(300'000, 'f')), folder.path());
-        QTEST(fetched.problem.kind, "problem");
-        QVERIFY(fetched.path.isEmpty());
-        QVERIFY(isEmpty(folder));
+        for (const auto &[answer, problem] : answers) {
+            m_server.set(filePath, answer);
+            const FetchedFile fetched = fetch(item(file), folder.path());
+            QCOMPARE(fetched.problem.kind, problem);
+            QVERIFY(fetched.path.isEmpty());
+            QVERIFY(QDir(folder.path())
+                        .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
+        }
     }
 
     void takesDecentNamesOnly()
@@ -143,6 +170,56 @@ private Q_SLOTS:
              {"/", "/..", "/.bashrc", "/-rf", "/a%00b", "/%E2%80%AEgpj.exe", "/a b", "/a%0ab"})
             QCOMPARE(name(path), u"Toolvane-1.4"_s);
         QCOMPARE(name('/' + QByteArray(300, 'n')), u"Toolvane-1.4"_s);
+    }
+
+    void believesWhatTheScriptsPublish()
+    {
+        const QTemporaryDir own;
+        const QString key = own.filePath(u"key.pem"_s);
+        QProcess maker;
+        maker.start(publish, {u"key"_s, key});
+        QVERIFY(maker.waitForFinished());
+        const QByteArray publicKey =
+            QByteArray::fromBase64(maker.readAllStandardOutput().trimmed());
+        const QByteArray privateKey = Files::read(key);
+        QCOMPARE(QFile::permissions(key) & (QFile::ReadGroup | QFile::ReadOther),
+                 QFile::Permissions());
+        QVERIFY(QProcess::execute(publish, {u"key"_s, key}) != 0); // replaces none
+        QCOMPARE(Files::read(key), privateKey);
+
+        const QByteArray file(100'000, 't');
+        Files::write(own.filePath(u"toolvane-0.2.0.txt"_s), file);
+        const QString site = own.filePath(u"site"_s);
+        const auto build = [&](const QByteArray &address) {
+            return QProcess::execute(publish,
+                                     {u"build"_s, u"--key"_s, key, u"--address"_s,
+                                      QString::fromLatin1(address), u"--files"_s, own.path(),
+                                      site});
+        };
+        QCOMPARE(build("https://updates.example"), 0);
+        QProcess server;
+        server.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        server.start(publish, {u"serve"_s, u"--port"_s, u"0"_s, site});
+        QByteArray line;
+        QTRY_VERIFY((line += server.readAllStandardOutput()).contains('\n'));
+        const QByteArray address = line.split(' ').first();
+        QVERIFY2(address.startsWith("http://127.0.0.1:"), line.constData());
+        QCOMPARE(build(address), 0);
+        const UpdateSource source{address + "feed.xml", publicKey};
+        const FetchedFeed fetched = fetchFeed(source, {}, {});
+        QCOMPARE(fetched.problem.kind, Kind::None);
+        const auto offer = chooseOffer(
+            fetched.feed, {.installed = {0, 1}, .system = {6, 1}, .systemName = u"linux"_s});
+        QVERIFY(offer && offer->notes.startsWith(u'•'));
+        QCOMPARE(offer->address, address + "files/toolvane-0.2.0.txt");
+        const FetchedFile got =
+            fetchFile(*offer, publicKey, own.filePath(u"Downloads"_s), m_received, {});
+        QCOMPARE(got.problem.kind, Kind::None);
+        QCOMPARE(Files::read(got.path), file);
+        QCOMPARE(build(address), 0); // each feed is dated later than the last
+        QVERIFY(fetchFeed(source, {}, {}).feed.date > fetched.feed.date);
+        server.terminate();
+        QVERIFY(server.waitForFinished());
     }
 
 private:
@@ -158,6 +235,7 @@ private:
         return fetchFile(item, m_maker.publicKey, folder, m_received, {});
     }
 
+    const QString publish = QStringLiteral(TOOLVANE_SOURCE_DIR "/packaging/publish/publish");
     Maker m_maker;
     MakersServer m_server;
     std::atomic<qint64> m_received = 0;

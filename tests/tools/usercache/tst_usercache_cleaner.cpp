@@ -3,7 +3,6 @@
 
 #include "CacheCleaner.h"
 #include "CacheRun.h"
-#include "DiskUsage.h"
 #include "JobList.h"
 #include "SecurityScopedAccess.h"
 #include "TestHome.h"
@@ -61,14 +60,6 @@ private Q_SLOTS:
         QCOMPARE(CacheCleaner::measuredFolder(u"/"_s, 1), QString());
         cleaner({}, "00010").checkDisk();
         QCOMPARE(m_updates, QStringList({u"1: 0 | 1"_s, u"idle | 1"_s}));
-    }
-
-    void usedPercentage()
-    {
-        constexpr std::int64_t most = std::numeric_limits<std::int64_t>::max();
-        QCOMPARE(DiskUsage({.total = 0, .free = 0}).usedPercentage(), 0);
-        QCOMPARE(DiskUsage({.total = most, .free = most / 4}).usedPercentage(), 75);
-        QCOMPARE(DiskUsage({.total = 1000, .free = 1}).usedPercentage(), 99); // no fraction
     }
 
     void stoppedRunDeletesNothingMore()
