@@ -27,7 +27,8 @@ void RecordWindow::open(Page page, QWidget &owner)
         window = new RecordWindow(owner);
     window->ui->pages->setCurrentIndex(int(page));
     MiscTool::showWindow(window);
-    static_cast<AbstractViewController *>(window->ui->pages->currentWidget())->focusTable();
+    if (auto *shown = qobject_cast<AbstractViewController *>(window->ui->pages->currentWidget()))
+        shown->focusTable();
 }
 
 void RecordWindow::closeOf(const QWidget &owner)
