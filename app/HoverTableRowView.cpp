@@ -113,8 +113,8 @@ void HoverTableRowView::leaveEvent(QEvent *)
 void HoverTableRowView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    drawBackgroundInRect(
-        painter); // to the last pixel, of which a fractional scale may leave a part
+    // To the last pixel, of which a fractional scale may leave a part: not with soft edges.
+    drawBackgroundInRect(painter);
     painter.setRenderHint(QPainter::Antialiasing);
     if (m_selected)
         drawSelectionInRect(painter);

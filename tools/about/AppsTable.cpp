@@ -1,7 +1,6 @@
 #include "AppsTable.h"
 
 #include "IconCache.h"
-#include "PlainToolTip.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,6 +9,12 @@ namespace
 
 const std::array<QString, 4> identifiers{u"Icon"_s, u"Name"_s, u"Desc"_s, u"Type"_s};
 constexpr qsizetype longestText = 500;
+
+// Only markup is broken into lines, and a description may be long.
+QString wrappedToolTip(const QString &text)
+{
+    return text.isEmpty() ? QString() : u"<p>%1</p>"_s.arg(text.toHtmlEscaped());
+}
 
 } // namespace
 
@@ -75,7 +80,7 @@ QVariant AppsTable::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole)
         return objectValueForTableColumn(identifier, index.row());
     if (role == Qt::ToolTipRole)
-        return plainToolTip(text(identifier, index.row()));
+        return wrappedToolTip(text(identifier, index.row()));
     return {};
 }
 

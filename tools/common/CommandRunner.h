@@ -32,9 +32,9 @@ public:
     CommandRunner &operator=(const CommandRunner &) = delete;
 
     /// Starts a run and lists it as a job. The future always ends with one result, always through
-    /// the event loop: never inside this call. Do not cancel the future: the list of
-    /// jobs stops the run (TERM to the whole process group, after three seconds KILL). Several runs
-    /// at once do not disturb each other.
+    /// the event loop: never inside this call. Do not cancel the future: the list of jobs stops the
+    /// run (TERM to the whole process group, after three seconds KILL). Several runs at once do not
+    /// disturb each other.
     QFuture<CommandResult> run(const Command &command, const JobDescription &description);
 
 private:

@@ -1,5 +1,6 @@
-#include "FileCopy.h"
 #include "FilePlacement.h"
+
+#include "FileCopy.h"
 #include "UnpublishedFile.h"
 
 #include <QDebug>

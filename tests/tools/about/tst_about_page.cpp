@@ -143,6 +143,9 @@ private Q_SLOTS:
         QCOMPARE(text(0, AppsTable::NameColumn), u"<b>A</b> line"_s);
         const QString tip = cell(0, AppsTable::NameColumn).data(Qt::ToolTipRole).toString();
         QVERIFY(tip.contains(u"&lt;b&gt;A"_s));
+        const QVariant longTip = cell(0, AppsTable::DescColumn).data(Qt::ToolTipRole);
+        QVERIFY(Qt::mightBeRichText(longTip.toString())); // else it would be one endless line
+        QCOMPARE(cell(0, AppsTable::TypeColumn).data(Qt::ToolTipRole).toString(), QString());
         QVERIFY(text(0, AppsTable::DescColumn).size() <= 500);
         QCOMPARE(text(0, AppsTable::TypeColumn), QString());
         QCOMPARE(text(1, AppsTable::NameColumn), QString());
