@@ -1,6 +1,7 @@
 #include "UNZIPViewController.h"
 
 #include "Chooser.h"
+#include "FileNames.h"
 #include "FormCheck.h"
 #include "MiscTool.h"
 #include "PageAction.h"
@@ -83,7 +84,7 @@ bool UNZIPViewController::verify()
     const std::optional<QString> folder = destination();
     if (!folder)
         return false;
-    if (FormCheck::itemExists(*folder))
+    if (itemExists(*folder))
         return FormCheck::refuse("OutputFolderExists");
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "Chooser.h"
 #include "FilePlacement.h"
+#include "FileNames.h"
 #include "FormCheck.h"
 #include "MiscTool.h"
 #include "PageAction.h"
@@ -91,7 +92,7 @@ bool ZIPViewController::verify()
         return FormCheck::refuse("SrcFolderNull");
     if (ui->outputField->text().isEmpty())
         return FormCheck::refuse("ZipFileNameNull");
-    if (FormCheck::itemExists(ui->outputField->text()))
+    if (itemExists(ui->outputField->text()))
         return FormCheck::refuse("ZipFileExist");
     return true;
 }

@@ -1,8 +1,7 @@
 #include "PathField.h"
 
+#include "FileNames.h"
 #include "PlainToolTip.h"
-#include "ProposedFile.h"
-#include "Suffix.h"
 
 #include <QDir>
 #include <QDragEnterEvent>

@@ -1,8 +1,7 @@
 #include "Chooser.h"
 
-#include "ProposedFile.h"
+#include "FileNames.h"
 #include "RecentFolder.h"
-#include "Suffix.h"
 
 #include <QDir>
 #include <QFileDialog>

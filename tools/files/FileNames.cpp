@@ -1,10 +1,10 @@
-#include "ProposedFile.h"
-
-#include "FormCheck.h"
+#include "FileNames.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -15,6 +15,19 @@ static QString nameOf(const QString &path)
     return item.isDir() ? item.fileName() : item.completeBaseName();
 }
 
+bool endsInSuffix(const QString &path, const QStringList &suffixes)
+{
+    return std::ranges::any_of(suffixes, [&path](const QString &suffix) {
+        return path.endsWith(u'.' + suffix, Qt::CaseInsensitive);
+    });
+}
+
+bool itemExists(const QString &path)
+{
+    const QFileInfo item(path);
+    return item.exists() || item.isSymbolicLink();
+}
+
 QString proposedFile(const QString &folder, const QString &source, const QString &suffix)
 {
     QString name = nameOf(source.isEmpty() ? folder : source);
@@ -22,7 +35,7 @@ QString proposedFile(const QString &folder, const QString &source, const QString
         name = QCoreApplication::applicationName();
     const QDir place(folder);
     QString file = place.filePath(name + u'.' + suffix);
-    for (int number = 2; FormCheck::itemExists(file); ++number)
+    for (int number = 2; itemExists(file); ++number)
         file = place.filePath(u"%1 %2.%3"_s.arg(name, QString::number(number), suffix));
     return file;
 }
