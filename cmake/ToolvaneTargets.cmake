@@ -43,6 +43,37 @@ function(toolvane_standin name)
     install(TARGETS standin_${name} DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/toolvane")
 endfunction()
 
+# Whether what links the target compiles against Qt Widgets.
+function(toolvane_exposes_widgets target result)
+    set(exposes OFF)
+    if(target STREQUAL "Qt6::Widgets")
+        set(exposes ON)
+    elseif(TARGET ${target})
+        get_target_property(links ${target} INTERFACE_LINK_LIBRARIES)
+        foreach(link IN LISTS links) # private ones are $<LINK_ONLY:…>, which is no target
+            toolvane_exposes_widgets(${link} link_exposes)
+            if(link_exposes)
+                set(exposes ON)
+                break()
+            endif()
+        endforeach()
+    endif()
+    set(${result} ${exposes} PARENT_SCOPE)
+endfunction()
+
+# What the sanitizers' builds of a test share, see tests/CMakeLists.txt.
+function(toolvane_share_test_headers name)
+    set(headers toolvane_test_headers)
+    foreach(link IN LISTS ARGN)
+        toolvane_exposes_widgets(${link} exposes)
+        if(exposes)
+            set(headers toolvane_widget_test_headers)
+        endif()
+    endforeach()
+    target_link_libraries(${name} PRIVATE toolvane_test_settings)
+    target_precompile_headers(${name} REUSE_FROM ${headers})
+endfunction()
+
 # toolvane_test(NAME SOURCES file… [LINK lib…] [LABELS label…])
 # One Qt Test program under CTest. It runs through tests/support/isolated, which gives it a user
 # database, a home folder and settings of its own: no test can reach the real ones.
@@ -55,6 +86,9 @@ function(toolvane_test name)
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests/support")
     target_compile_definitions(${name} PRIVATE
         TOOLVANE_BUILD_DIR="${CMAKE_BINARY_DIR}" TOOLVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+    if(TOOLVANE_SANITIZE)
+        toolvane_share_test_headers(${name} ${arg_LINK})
+    endif()
     add_test(NAME ${name}
         COMMAND "${PROJECT_SOURCE_DIR}/tests/support/isolated" $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
