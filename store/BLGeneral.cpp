@@ -1,6 +1,5 @@
 #include "BLGeneral.h"
 
-#include "DBSession.h"
 #include "MiscTool.h"
 #include "SchemaReflect.h"
 
@@ -21,9 +20,25 @@ bool runs(const QString &sql)
     return DB::exec(sql) == 0;
 }
 
+/// Has the database open for the scope, and closes it afterwards only if it was closed before.
+class DBScope
+{
+public:
+    DBScope() : m_hasOpened(!DBSession::isDBOpen()) { DBSession::openDB(); }
+    ~DBScope()
+    {
+        if (m_hasOpened)
+            DBSession::closeDB();
+    }
+    Q_DISABLE_COPY_MOVE(DBScope)
+
+private:
+    bool m_hasOpened;
+};
+
 QString tableOf(RecordView record)
 {
-    const QString name = record.className().section("::"_L1, -1);
+    const QString name = QString::fromLatin1(record.recordClass().className()).section(u':', -1);
     const qsizetype end = name.indexOf("Schema"_L1);
     Q_ASSERT_X(end > 0, "BLGeneral", "a record class is named after its table: <Table>Schema");
     return name.first(std::max<qsizetype>(end, 0));

@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QString>
 
-/// A row of the table "UserGroup"; the properties are its columns, in their order. `Name` and
-/// `Memo` are kept percent-escaped.
+/// A row of the table "UserGroup"; the properties are its columns, in order. `Name` and
+/// `Memo` are stored percent-escaped.
 class UserGroupSchema
 {
     Q_GADGET
@@ -18,7 +18,7 @@ public:
     int ID = 0;
     int ShopID = 0;
     QString Name;
-    QString Permission; ///< The group's rights: codes of two characters, put together.
+    QString Permission; ///< The group's rights, see SessionRights.
     QString Memo;
 };
 Q_DECLARE_TYPEINFO(UserGroupSchema, Q_RELOCATABLE_TYPE);

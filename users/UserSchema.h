@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QString>
 
-/// A row of the table "User"; the properties are its columns, in their order. The texts are kept
-/// percent-escaped, the password too, which is in the clear otherwise.
+/// A row of the table "User"; the properties are its columns, in order. The texts are stored
+/// percent-escaped. So is the password, which is not encrypted in any other way.
 class UserSchema
 {
     Q_GADGET
@@ -23,8 +23,15 @@ public:
     QString Password;
     QString Memo;
 
-    /// Makes this the user with all rights, keeping `ID` and `ShopID`, and gives it back.
-    UserSchema &setRoot();
-    bool isRoot() const;
+    /// Makes this the user with all rights; `ID` and `ShopID` stay. Returns the record itself.
+    UserSchema &setRoot()
+    {
+        UserGroupID = 0;
+        User = QStringLiteral("root");
+        Password = QStringLiteral("kelp");
+        Memo = QStringLiteral("Super User");
+        return *this;
+    }
+    bool isRoot() const { return UserGroupID == 0 && User == QLatin1String("root"); }
 };
 Q_DECLARE_TYPEINFO(UserSchema, Q_RELOCATABLE_TYPE);

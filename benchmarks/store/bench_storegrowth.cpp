@@ -3,7 +3,7 @@
 // when a limit is passed.
 
 #include "BLGeneral.h"
-#include "DBSession.h"
+#include "DB.h"
 #include "PlainUser.h"
 #include "Ratio.h"
 #include "SampleUsers.h"

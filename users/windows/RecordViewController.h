@@ -1,11 +1,11 @@
 #pragma once
 
 #include "AbstractViewController.h"
+#include "MiscTool.h"
 
 #include <algorithm>
 
-/// What a record page does with records of its class: loading, saving and deleting, in the shape
-/// that all pages share.
+/// Loads, saves and deletes records of the page's class, in the way that all pages do.
 template <RecordClass Record>
 class RecordViewController : public AbstractViewController
 {
@@ -18,10 +18,10 @@ public:
     {
         if (!mayView())
             return;
-        const int row = selectedRow();
+        const int row = table->selectedRecord();
         const std::optional<int> selected = row < 0 ? std::nullopt : std::optional(data[row].ID);
         loadRecords();
-        reloadTable();
+        table->reloadRecords();
         if (selected)
             selectID(*selected);
     }
@@ -29,7 +29,7 @@ public:
 protected:
     using AbstractViewController::AbstractViewController;
 
-    /// A new record from the sheet's fields, `ID` and `ShopID` 0.
+    /// A new record from the sheet's fields, with `ID` and `ShopID` 0.
     virtual Record getSchema() = 0;
 
     virtual void loadRecords()
@@ -46,12 +46,13 @@ protected:
         return record;
     }
 
-    /// Whether any record of the table satisfies the condition.
-    bool isTaken(const QString &whereClause)
+    /// Whether the column of any record in the table holds the text, which is escaped first.
+    bool isTaken(QLatin1String column, const QString &text)
     {
         if (!blGeneral)
             return false;
-        const auto found = blGeneral->select(whereClause, Record{});
+        const QString clause = column + QLatin1String("='") + MiscTool::encode2UTF8(text) + u'\'';
+        const auto found = blGeneral->select(clause, Record{});
         return found && !found->isEmpty();
     }
 
@@ -61,7 +62,7 @@ protected:
             return false;
         if (operation == Operation::AddRecord)
             return blGeneral->insert(getSchema());
-        const int row = selectedRow();
+        const int row = table->selectedRecord();
         if (operation != Operation::EditRecord || row < 0)
             return false;
         return blGeneral->update(editedRecord(data[row].ID));
@@ -73,7 +74,7 @@ protected:
             || !blGeneral->delete_(QStringLiteral("ID=") + QString::number(data[row].ID)))
             return;
         data.removeAt(row);
-        reloadTable();
+        table->reloadRecords();
     }
 
     int newestID() const override
@@ -86,6 +87,6 @@ protected:
     {
         const auto found = std::ranges::find(data, ID, &Record::ID);
         if (found != data.end())
-            selectRow(int(found - data.begin()));
+            table->selectRecord(int(found - data.begin()));
     }
 };
