@@ -33,8 +33,10 @@ public:
     /// web service, which has tables of its own, it does nothing and returns true.
     bool initTable();
 
+    /// Locally the record's key is ignored: the table gives it a new one.
     bool insert(RecordView record);
-    bool update(RecordView record); ///< The row is found by the record's `ID`.
+    bool
+    update(RecordView record); ///< The row is found by the record's key. None found is success.
     bool delete_(QAnyStringView whereClause);
 
     /// The records that satisfy the clause; none on an error of the local database.

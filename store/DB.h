@@ -55,7 +55,7 @@ public:
     static QString getDBError(char *message);
 
     static QStringList getTables(); ///< Without SQLite's own "sqlite_sequence".
-    static QStringList getColumns(const QString &table);
+    static QStringList getColumns(const QString &table); ///< Empty if there is no such table.
     /// The column definitions within "CREATE TABLE <table>(…)". They are found by length alone: the
     /// text must have the layout that SchemaReflect writes.
     static QStringList getColumnsWithType(const QString &createText, const QString &table);

@@ -29,7 +29,8 @@ QList<RecordColumn> recordColumns(const QMetaObject &recordClass);
 // Code that works on records is not a template: the three classes below hold a record's class and
 // its address. They refer to the caller's record or list, which must outlive them.
 
-/// A record that is read.
+/// A record that is read. Any record class converts to it, so operations that read a record take a
+/// RecordView by value. Positions count from 0, the key.
 class RecordView
 {
 public:
@@ -107,7 +108,7 @@ public:
 
 private:
     template <RecordClass T>
-    static void *appendTo(void *records)
+    static void *appendTo(void *records) // the one step that must know the type of the list
     {
         return &static_cast<QList<T> *>(records)->emplaceBack();
     }

@@ -4,7 +4,8 @@
 
 #include <QList>
 
-/// The check behind the login window. Interface thread only.
+/// The check behind the login window. It opens the database and closes it afterwards. Interface
+/// thread only.
 namespace Login
 {
 

@@ -15,10 +15,11 @@ class UserGroupSchema
     Q_PROPERTY(QString Memo MEMBER Memo)
 
 public:
-    int ID = 0;
-    int ShopID = 0;
+    int ID = 0; ///< The key; 0 until the table has given one.
+    int ShopID = 0; ///< Always stored as 0; nothing reads it.
     QString Name;
-    QString Permission; ///< The group's rights, see SessionRights.
+    /// The group's rights: codes of two characters, joined without a separator, see SessionRights.
+    QString Permission;
     QString Memo;
 };
 Q_DECLARE_TYPEINFO(UserGroupSchema, Q_RELOCATABLE_TYPE);

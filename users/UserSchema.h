@@ -16,9 +16,11 @@ class UserSchema
     Q_PROPERTY(QString Memo MEMBER Memo)
 
 public:
-    int ID = 0;
-    int ShopID = 0;
-    int UserGroupID = 0; ///< 0 is the group without restrictions.
+    int ID = 0; ///< The key; 0 until the table has given one.
+    int ShopID = 0; ///< Always stored as 0; nothing reads it.
+    /// The `ID` of the user's group, which may have been deleted. 0 is the group without
+    /// restrictions, which has no row of its own.
+    int UserGroupID = 0;
     QString User; ///< The login name.
     QString Password;
     QString Memo;
@@ -32,6 +34,7 @@ public:
         Memo = QStringLiteral("Super User");
         return *this;
     }
+    /// Whether this is the user that setRoot() makes; others may have all rights too.
     bool isRoot() const { return UserGroupID == 0 && User == QLatin1String("root"); }
 };
 Q_DECLARE_TYPEINFO(UserSchema, Q_RELOCATABLE_TYPE);

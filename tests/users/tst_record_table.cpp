@@ -55,7 +55,7 @@ private Q_SLOTS:
         press(page, "addButton");
         type(page, "userField", u"a new one"_s);
         press(page, "saveButton");
-        QCOMPARE(table(page).currentIndex().row(), 0); // where it is seen
+        QCOMPARE(table(page).currentIndex().row(), 0); // in sight
         QCOMPARE(table(page).currentIndex().data().toString(), u"a new one"_s);
         QWidget &viewport = *table(page).viewport(); // beside the rows
         QTest::mouseDClick(&viewport, Qt::LeftButton, {}, viewport.rect().bottomRight());

@@ -33,6 +33,8 @@ class AbstractViewController : public QWidget, public RecordTableSource
     Q_OBJECT
 
 public:
+    /// What the sheet is open for. ViewRecord fills the fields like EditRecord, but saving fails;
+    /// no button leads to it.
     enum class Operation { None, AddRecord, EditRecord, ViewRecord };
     Q_ENUM(Operation)
 
@@ -45,17 +47,21 @@ public:
     ~AbstractViewController() override;
 
     Operation operation = Operation::None; ///< Keeps its last value after the sheet has closed.
-    std::unique_ptr<BLGeneral> blGeneral; ///< None on a page that the user may not see.
+    /// The gateway of the table. Null on a page that the user may not see; it then saves nothing.
+    std::unique_ptr<BLGeneral> blGeneral;
 
     virtual void reloadData() = 0; ///< Checks the right to see the page, then loads the records.
     void focusTable();
     void addAction();
     void editAction(); ///< Does nothing if no row is selected.
     void deleteAction(); ///< Asks first. Does nothing if no row is selected.
+    /// Checks the fields, then saves and closes the sheet. After an error the sheet stays open with
+    /// what was typed.
     void saveAction();
     void cancelAction();
 
 protected:
+    /// The page is ready for use only after awakeFromNib().
     AbstractViewController(const Module &module, QWidget *parent);
 
     void showEvent(QShowEvent *event) override;
@@ -64,8 +70,11 @@ protected:
     void setTitle(const QString &title, const QString &hint);
     void setColumns(const QList<RecordTable::Column> &columns);
 
+    /// Sets the page up: calls the three hooks below, and reloadData() before the last of them.
     void awakeFromNib();
+    /// Sets the texts and columns that are not in the interface description.
     virtual void initLocalizables() { }
+    /// Loads what the sheet offers for choice. It may be called again before the sheet opens.
     virtual void localInit() { }
     /// Disables what the user may not do; nothing is enabled again while the page lives.
     virtual void setPermissions();
@@ -73,12 +82,13 @@ protected:
     virtual void setAllStatus(Operation status) = 0;
     /// Whether the sheet's fields may be saved. If not, a message box names the first error.
     virtual bool verify() = 0;
+    /// Whether the selected record may be deleted. If not, a message box gives the reason.
     virtual bool deleteVerify() { return true; }
     /// Inserts or updates the record, depending on the operation; false on failure.
     virtual bool writeRecord() = 0;
-    virtual void deleteRecord(int row) = 0;
+    virtual void deleteRecord(int row) = 0; ///< A failure is not reported; the row stays.
     virtual int newestID() const = 0; ///< The highest ID of the records; 0 if there are none.
-    virtual void selectID(int ID) = 0;
+    virtual void selectID(int ID) = 0; ///< Does nothing if no record has this ID.
 
     /// Whether the user may see the page. If not, it is hidden, and a message box says so once the
     /// user opens it.

@@ -5,7 +5,8 @@
 
 #include <algorithm>
 
-/// Loads, saves and deletes records of the page's class, in the way that all pages do.
+/// Loads, saves and deletes records of the page's class, in the way that all pages do. Rows are
+/// positions in `data`, whatever order the table shows.
 template <RecordClass Record>
 class RecordViewController : public AbstractViewController
 {
@@ -14,6 +15,7 @@ public:
 
     int numberOfRowsInTableView() const override { return int(data.size()); }
 
+    /// The record that was selected is selected again if it still exists.
     void reloadData() override
     {
         if (!mayView())
@@ -32,13 +34,14 @@ protected:
     /// A new record from the sheet's fields, with `ID` and `ShopID` 0.
     virtual Record getSchema() = 0;
 
+    /// Fills `data`. A select that fails gives an empty list.
     virtual void loadRecords()
     {
         blGeneral = std::make_unique<BLGeneral>(QString(m_module.table));
         data = blGeneral->select("1=1", Record{}).value_or(QList<Record>());
     }
 
-    /// The record that replaces the one with this key.
+    /// The record that replaces the one with this key: the sheet's fields, under the same key.
     virtual Record editedRecord(int ID)
     {
         Record record = getSchema();
@@ -56,6 +59,7 @@ protected:
         return found && !found->isEmpty();
     }
 
+    /// Fails without a gateway, without a selected row, and for Operation::ViewRecord.
     bool writeRecord() override
     {
         if (!blGeneral)
