@@ -15,11 +15,6 @@ bool isWebService()
     return DB::getDBType() == "webservice"_L1;
 }
 
-bool runs(const QString &sql)
-{
-    return DB::exec(sql) == 0;
-}
-
 /// Has the database open for the scope, and closes it afterwards only if it was closed before.
 class DBScope
 {
@@ -35,6 +30,12 @@ public:
 private:
     bool m_hasOpened;
 };
+
+bool runs(const QString &sql)
+{
+    const DBScope open;
+    return DB::exec(sql) == 0;
+}
 
 QString tableOf(RecordView record)
 {
@@ -72,36 +73,28 @@ bool BLGeneral::initTable()
 
 bool BLGeneral::insert(RecordView record)
 {
-    if (isWebService())
-        return execHTTP(record) == 0;
-    const DBScope open;
-    return runs(SchemaReflect::getFullInsertStatement(tableName, record));
+    return isWebService() ? execHTTP(record) == 0
+                          : runs(SchemaReflect::getFullInsertStatement(tableName, record));
 }
 
 bool BLGeneral::update(RecordView record)
 {
-    if (isWebService())
-        return execHTTP(record) == 0;
-    const DBScope open;
-    return runs(SchemaReflect::getFullUpdateStatement(tableName, record));
+    return isWebService() ? execHTTP(record) == 0
+                          : runs(SchemaReflect::getFullUpdateStatement(tableName, record));
 }
 
 bool BLGeneral::delete_(QAnyStringView whereClause)
 {
-    if (isWebService())
-        return deleteHTTP(whereClause) == 0;
-    const DBScope open;
-    return runs(SchemaReflect::getDeleteStatementIncludeWhere(tableName, whereClause.toString()));
+    return isWebService()
+        ? deleteHTTP(whereClause) == 0
+        : runs(SchemaReflect::getDeleteStatementIncludeWhere(tableName, whereClause.toString()));
 }
 
 bool BLGeneral::selectInto(QAnyStringView whereClause, RecordList records,
                            const std::optional<RecordPage> &page)
 {
     if (isWebService()) {
-        if (page)
-            selectHTTP(whereClause, records, page->from, page->stepLength);
-        else
-            selectHTTP(whereClause, records);
+        selectHTTPInto(whereClause, records, page);
         return true;
     }
     const DBScope open;

@@ -64,24 +64,24 @@ public:
     /// Sends an update if the record has a key, else an insert.
     int execHTTP(RecordView record) const;
     int deleteHTTP(QAnyStringView whereClause) const;
-    void selectHTTP(QAnyStringView whereClause, RecordList records) const;
-    void selectHTTP(QAnyStringView whereClause, RecordList records, int from, int stepLength) const;
     template <RecordClass T>
     QList<T> selectHTTP(QAnyStringView whereClause, const T &) const
     {
         QList<T> records;
-        selectHTTP(whereClause, RecordList(records));
+        selectHTTPInto(whereClause, RecordList(records), {});
         return records;
     }
     template <RecordClass T>
     QList<T> selectHTTP(QAnyStringView whereClause, const T &, int from, int stepLength) const
     {
         QList<T> records;
-        selectHTTP(whereClause, RecordList(records), from, stepLength);
+        selectHTTPInto(whereClause, RecordList(records), RecordPage{from, stepLength});
         return records;
     }
 
 private:
     bool selectInto(QAnyStringView whereClause, RecordList records,
                     const std::optional<RecordPage> &page);
+    void selectHTTPInto(QAnyStringView whereClause, RecordList records,
+                        const std::optional<RecordPage> &page) const;
 };

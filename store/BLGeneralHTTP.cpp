@@ -54,17 +54,12 @@ int BLGeneral::deleteHTTP(QAnyStringView whereClause) const
     return leadingInteger(post(getWebServiceURL() + MiscTool::encode2UTF8(query), {}, {}));
 }
 
-void BLGeneral::selectHTTP(QAnyStringView whereClause, RecordList records) const
+void BLGeneral::selectHTTPInto(QAnyStringView whereClause, RecordList records,
+                               const std::optional<RecordPage> &page) const
 {
-    const QString address =
-        getWebServiceURL() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
+    QString address = getWebServiceURL() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
+    if (page)
+        address += "&FROM="_L1 + QString::number(page->from) + "&STEP="_L1
+            + QString::number(page->stepLength);
     SchemaReflect::appendSelectReply(post(MiscTool::encode2UTF8(address), {}, {}), records);
-}
-
-void BLGeneral::selectHTTP(QAnyStringView whereClause, RecordList records, int from,
-                           int stepLength) const
-{
-    const QString clause = whereClause.toString() + "&FROM="_L1 + QString::number(from)
-        + "&STEP="_L1 + QString::number(stepLength);
-    selectHTTP(clause, records);
 }

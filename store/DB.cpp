@@ -25,7 +25,7 @@ struct State {
     bool isUsable = false; ///< Whether the handle may be passed to SQLite.
     std::vector<sqlite3 *> earlierHandles; ///< Opened, then replaced by another open().
     QString type; ///< Null while unset.
-    QString webServiceURL; ///< Null while unset.
+    std::optional<QString> webServiceURL;
     HttpLimits webServiceLimits;
     bool isSessionOpen = false;
 };
@@ -104,13 +104,12 @@ void DB::close()
     if (isLocal())
         state().isUsable = sqlite3_close(usableDatabase()) != SQLITE_OK;
     else if (state().type == "webservice"_L1)
-        state().webServiceURL = QString();
+        state().webServiceURL.reset();
 }
 
 std::optional<QString> DB::getWebServiceURL()
 {
-    const QString &address = state().webServiceURL;
-    return address.isNull() ? std::nullopt : std::optional(address);
+    return state().webServiceURL;
 }
 
 sqlite3 *DB::getDatabase()
@@ -164,12 +163,7 @@ QString DB::getDBError(char *message)
     return text;
 }
 
-void DB::setWebServiceLimits(const HttpLimits &limits)
-{
-    state().webServiceLimits = limits;
-}
-
-const HttpLimits &DB::webServiceLimits()
+HttpLimits &DB::webServiceLimits()
 {
     return state().webServiceLimits;
 }

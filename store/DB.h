@@ -93,8 +93,7 @@ public:
     static bool selectInto(const QString &sql, RecordList records,
                            const std::optional<RecordPage> &page);
 
-    static void setWebServiceLimits(const HttpLimits &limits);
-    static const HttpLimits &webServiceLimits();
+    static HttpLimits &webServiceLimits(); ///< A change applies to the requests that follow.
 
     static void reset(); ///< Closes every connection and restores the initial state; for tests.
 

@@ -40,10 +40,15 @@ private:
     bool m_isPrepared;
 };
 
-/// These lines have no arrow, unlike those of MiscTool::printMsg; log readers know both forms.
-void logFailedSelect(QLatin1String method)
+/// Calls `use` for each row. The log line has no arrow, unlike those of MiscTool::printMsg; log
+/// readers know both forms.
+template <class Use>
+void forEachRow(Statement &statement, QLatin1String method, Use use)
 {
-    qInfo().noquote() << "[DB]("_L1 + method + "):Select Failed."_L1;
+    if (!statement.isPrepared())
+        qInfo().noquote() << "[DB]("_L1 + method + "):Select Failed."_L1;
+    while (statement.isPrepared() && statement.step())
+        use(statement);
 }
 
 } // namespace
@@ -67,34 +72,25 @@ bool DB::selectInto(const QString &sql, RecordList records, const std::optional<
 
 QStringList DB::getTables()
 {
-    Statement statement(usableDatabase(), u"SELECT name FROM sqlite_master WHERE type = 'table'"_s);
-    if (!statement.isPrepared()) {
-        logFailedSelect("getTables"_L1);
-        return {};
-    }
     QStringList tables;
-    while (statement.step()) {
-        const QString name = MiscTool::getNSString(statement.text(0));
+    Statement statement(usableDatabase(), u"SELECT name FROM sqlite_master WHERE type = 'table'"_s);
+    forEachRow(statement, "getTables"_L1, [&tables](const Statement &row) {
+        const QString name = MiscTool::getNSString(row.text(0));
         if (name != "sqlite_sequence"_L1)
             tables.append(name);
-    }
+    });
     return tables;
 }
 
 QStringList DB::getColumns(const QString &table)
 {
+    QStringList columns;
     Statement statement(usableDatabase(),
                         "SELECT sql FROM sqlite_master WHERE tbl_name = '"_L1 + table
                             + "' AND type = 'table'"_L1);
-    if (!statement.isPrepared()) {
-        logFailedSelect("getColumns"_L1);
-        return {};
-    }
-    QStringList columns;
-    while (statement.step()) {
-        const QString createText = MiscTool::getNSString(statement.text(0));
-        columns = convert2Columns(getColumnsWithType(createText, table));
-    }
+    forEachRow(statement, "getColumns"_L1, [&](const Statement &row) {
+        columns = convert2Columns(getColumnsWithType(MiscTool::getNSString(row.text(0)), table));
+    });
     return columns;
 }
 
@@ -116,18 +112,15 @@ QStringList DB::convert2Columns(const QStringList &definitions)
 
 QList<QMap<QString, QString>> DB::getRecordsBySQL(const QString &sql, const QString &table)
 {
-    Statement statement(usableDatabase(), sql);
-    if (!statement.isPrepared()) {
-        logFailedSelect("getColumns"_L1); // not a slip: one word for both operations
-        return {};
-    }
     QList<QMap<QString, QString>> records;
-    while (statement.step()) {
+    Statement statement(usableDatabase(), sql);
+    // The log line names getColumns here too, which is not a slip.
+    forEachRow(statement, "getColumns"_L1, [&](const Statement &row) {
         const QStringList columns = getColumns(table);
         QMap<QString, QString> &record = records.emplaceBack();
         for (int i = 0; i < columns.size(); ++i)
-            record.insert(columns[i], QString::fromUtf8(statement.text(i)));
-    }
+            record.insert(columns[i], QString::fromUtf8(row.text(i)));
+    });
     return records;
 }
 

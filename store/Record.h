@@ -35,11 +35,7 @@ class RecordView
 {
 public:
     template <RecordClass T>
-    RecordView(const T &record) : RecordView(&T::staticMetaObject, &record)
-    {
-    }
-    RecordView(const QMetaObject *recordClass, const void *record)
-        : m_class(recordClass), m_record(record)
+    RecordView(const T &record) : m_class(&T::staticMetaObject), m_record(&record)
     {
     }
 

@@ -44,28 +44,21 @@ double toDouble(const element &value)
 
 QVariant toVariant(const element &value)
 {
-    switch (value.type()) {
-    case simdjson::dom::element_type::STRING:
-        return QString::fromUtf8(bytes(value.get_string().value_unsafe()));
-    case simdjson::dom::element_type::INT64:
-        return qint64(value.get_int64().value_unsafe());
-    case simdjson::dom::element_type::UINT64:
-        return quint64(value.get_uint64().value_unsafe());
-    case simdjson::dom::element_type::DOUBLE:
-        return value.get_double().value_unsafe();
-    case simdjson::dom::element_type::BOOL:
-        return value.get_bool().value_unsafe();
-    default:
-        return {};
-    }
+    std::string_view text;
+    if (value.get(text) == simdjson::SUCCESS)
+        return QString::fromUtf8(bytes(text));
+    if (std::int64_t integer = 0; value.get(integer) == simdjson::SUCCESS)
+        return qint64(integer);
+    if (double number = 0; value.get(number) == simdjson::SUCCESS)
+        return number;
+    if (bool flag = false; value.get(flag) == simdjson::SUCCESS)
+        return flag;
+    return {};
 }
 
 QString toText(const element &value)
 {
-    std::string_view text;
-    if (value.get(text) == simdjson::SUCCESS)
-        return QString::fromUtf8(bytes(text));
-    return value.is_number() ? toVariant(value).toString() : QString();
+    return value.is_bool() ? QString() : toVariant(value).toString();
 }
 
 void setProperty(RecordWriter record, int index, PropertyType type, const element &value)

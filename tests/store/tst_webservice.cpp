@@ -22,7 +22,7 @@ namespace
 void use(const HttpPeer &peer)
 {
     DB::open(QString::fromLatin1(peer.address("/api/")));
-    DB::setWebServiceLimits({.time = 1s, .bytes = 100'000});
+    DB::webServiceLimits() = {.time = 1s, .bytes = 100'000};
 }
 
 /// "<method> <path>" of each request.
