@@ -8,7 +8,6 @@
 
 #include <QMessageBox>
 #include <QPushButton>
-#include <QShortcut>
 
 #include <utility>
 
@@ -26,16 +25,10 @@ AbstractViewController::AbstractViewController(const Module &module, QWidget *pa
     connect(page->addButton, &QPushButton::clicked, this, &Page::addAction);
     connect(page->editButton, &QPushButton::clicked, this, &Page::editAction);
     connect(page->delButton, &QPushButton::clicked, this, &Page::deleteAction);
+    connect(table, &RecordTable::returnPressed, page->editButton, &QPushButton::click);
+    connect(table, &RecordTable::deletePressed, page->delButton, &QPushButton::click);
     connect(panelParts->saveButton, &QPushButton::clicked, this, &Page::saveAction);
     connect(panelParts->cancelButton, &QPushButton::clicked, this, &Page::cancelAction);
-    const auto pressInTable = [this](Qt::Key key, QPushButton *button) {
-        auto *shortcut = new QShortcut(key, table, nullptr, nullptr, Qt::WidgetShortcut);
-        shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
-    };
-    pressInTable(Qt::Key_Return, page->editButton);
-    pressInTable(Qt::Key_Enter, page->editButton);
-    pressInTable(Qt::Key_Delete, page->delButton);
 }
 
 AbstractViewController::~AbstractViewController() = default;

@@ -2,6 +2,7 @@
 
 #include <QCollator>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QSettings>
 #include <QSortFilterProxyModel>
@@ -184,6 +185,17 @@ void RecordTable::fitColumns()
 QString RecordTable::widthKey(int column) const
 {
     return m_settingsName + u"/ColumnWidth"_s + QString::number(column);
+}
+
+void RecordTable::keyPressEvent(QKeyEvent *event)
+{
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier) && !event->isAutoRepeat();
+    if (isPlain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        Q_EMIT returnPressed();
+    else if (isPlain && event->key() == Qt::Key_Delete)
+        Q_EMIT deletePressed();
+    else
+        QTableView::keyPressEvent(event);
 }
 
 void RecordTable::paintEvent(QPaintEvent *event)

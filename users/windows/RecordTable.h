@@ -44,7 +44,12 @@ public:
     int selectedRecord() const; ///< -1 if none is selected.
     void selectRecord(int record); ///< Scrolls to it. Nothing if there is no such record.
 
+Q_SIGNALS:
+    void returnPressed();
+    void deletePressed();
+
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
