@@ -1,6 +1,6 @@
 #include "Application.h"
 
-#include "ConfiguredWebService.h"
+#include "DB.h"
 #include "HoverTableAppDelegate.h"
 #include "Language.h"
 #include "LoginDelegate.h"
@@ -60,7 +60,7 @@ Application::~Application() = default;
 
 void Application::start(const QString &page)
 {
-    openConfiguredWebService();
+    DB::openConfiguredWebService();
     openPage(page);
     m_delegate.applicationDidFinishLaunching();
     // A window's icon is drawn in every size that a window manager may ask for, which is work that

@@ -1,6 +1,5 @@
 #include "BLGeneral.h"
 
-#include "DBSession.h"
 #include "MiscTool.h"
 #include "SchemaReflect.h"
 
@@ -16,14 +15,31 @@ bool isWebService()
     return DB::getDBType() == "webservice"_L1;
 }
 
+/// Has the database open for the scope, and closes it afterwards only if it was closed before.
+class DBScope
+{
+public:
+    DBScope() : m_hasOpened(!DBSession::isDBOpen()) { DBSession::openDB(); }
+    ~DBScope()
+    {
+        if (m_hasOpened)
+            DBSession::closeDB();
+    }
+    Q_DISABLE_COPY_MOVE(DBScope)
+
+private:
+    bool m_hasOpened;
+};
+
 bool runs(const QString &sql)
 {
+    const DBScope open;
     return DB::exec(sql) == 0;
 }
 
 QString tableOf(RecordView record)
 {
-    const QString name = record.className().section("::"_L1, -1);
+    const QString name = QString::fromLatin1(record.recordClass().className()).section(u':', -1);
     const qsizetype end = name.indexOf("Schema"_L1);
     Q_ASSERT_X(end > 0, "BLGeneral", "a record class is named after its table: <Table>Schema");
     return name.first(std::max<qsizetype>(end, 0));
@@ -57,36 +73,28 @@ bool BLGeneral::initTable()
 
 bool BLGeneral::insert(RecordView record)
 {
-    if (isWebService())
-        return execHTTP(record) == 0;
-    const DBScope open;
-    return runs(SchemaReflect::getFullInsertStatement(tableName, record));
+    return isWebService() ? execHTTP(record) == 0
+                          : runs(SchemaReflect::getFullInsertStatement(tableName, record));
 }
 
 bool BLGeneral::update(RecordView record)
 {
-    if (isWebService())
-        return execHTTP(record) == 0;
-    const DBScope open;
-    return runs(SchemaReflect::getFullUpdateStatement(tableName, record));
+    return isWebService() ? execHTTP(record) == 0
+                          : runs(SchemaReflect::getFullUpdateStatement(tableName, record));
 }
 
 bool BLGeneral::delete_(QAnyStringView whereClause)
 {
-    if (isWebService())
-        return deleteHTTP(whereClause) == 0;
-    const DBScope open;
-    return runs(SchemaReflect::getDeleteStatementIncludeWhere(tableName, whereClause.toString()));
+    return isWebService()
+        ? deleteHTTP(whereClause) == 0
+        : runs(SchemaReflect::getDeleteStatementIncludeWhere(tableName, whereClause.toString()));
 }
 
 bool BLGeneral::selectInto(QAnyStringView whereClause, RecordList records,
                            const std::optional<RecordPage> &page)
 {
     if (isWebService()) {
-        if (page)
-            selectHTTP(whereClause, records, page->from, page->stepLength);
-        else
-            selectHTTP(whereClause, records);
+        selectHTTPInto(whereClause, records, page);
         return true;
     }
     const DBScope open;

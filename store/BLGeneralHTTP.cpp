@@ -1,20 +1,19 @@
-// The web-service form of BLGeneral. Every request is a POST; what is percent-escaped differs from
-// request to request, and the services rely on it.
+// The web-service form of BLGeneral. Every request is a POST. Which part of it is percent-escaped
+// differs from request to request, and the services rely on that.
 
 #include "BLGeneral.h"
 #include "Http.h"
 #include "LeadingNumber.h"
 #include "MiscTool.h"
 #include "SchemaReflect.h"
-#include "SelectReply.h"
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-/// Empty unless the reply came whole. Its status is not looked at, the services say theirs in the
-/// body.
+/// The body of the reply; empty unless it came whole. The HTTP status is ignored: the services
+/// write their own into the body.
 QByteArray post(const QString &address, const QList<QByteArray> &headers, QByteArrayView body)
 {
     const HttpRequest request{address.toUtf8(), headers, DB::webServiceLimits()};
@@ -41,8 +40,8 @@ int BLGeneral::execHTTP(RecordView record) const
     const QString operation = hasKey ? u"UPDATE"_s : u"INSERT"_s;
     const QString address = getWebServiceURL() + "?OPERATION="_L1 + operation;
     const QString json = SchemaReflect::toJSON(record);
-    // As many bytes as the text has UTF-16 units, also where its UTF-8 form is longer. The
-    // Content-Length that goes with it is written by httpPost.
+    // As many bytes as the text has UTF-16 units, even if its UTF-8 form is longer. httpPost writes
+    // the Content-Length for it.
     const QByteArray body = json.toUtf8().left(json.size());
     return leadingInteger(post(MiscTool::encode2UTF8(address),
                                {"Accept: application/json", "Content-Type: application/json"},
@@ -55,17 +54,12 @@ int BLGeneral::deleteHTTP(QAnyStringView whereClause) const
     return leadingInteger(post(getWebServiceURL() + MiscTool::encode2UTF8(query), {}, {}));
 }
 
-void BLGeneral::selectHTTP(QAnyStringView whereClause, RecordList records) const
+void BLGeneral::selectHTTPInto(QAnyStringView whereClause, RecordList records,
+                               const std::optional<RecordPage> &page) const
 {
-    const QString address =
-        getWebServiceURL() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
-    appendSelectReply(post(MiscTool::encode2UTF8(address), {}, {}), records);
-}
-
-void BLGeneral::selectHTTP(QAnyStringView whereClause, RecordList records, int from,
-                           int stepLength) const
-{
-    const QString clause = whereClause.toString() + "&FROM="_L1 + QString::number(from)
-        + "&STEP="_L1 + QString::number(stepLength);
-    selectHTTP(clause, records);
+    QString address = getWebServiceURL() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
+    if (page)
+        address += "&FROM="_L1 + QString::number(page->from) + "&STEP="_L1
+            + QString::number(page->stepLength);
+    SchemaReflect::appendSelectReply(post(MiscTool::encode2UTF8(address), {}, {}), records);
 }

@@ -1,15 +1,15 @@
 #include "DB.h"
 
-#include "DBState.h"
+#include "Http.h"
 #include "MiscTool.h"
-#include "SchemaReflect.h"
-#include "Statement.h"
 
 #include <QFile>
+#include <QSettings>
 
 #include <sqlite3.h>
 
 #include <chrono>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -19,27 +19,47 @@ namespace
 /// How long a statement waits for another process that holds the file.
 constexpr std::chrono::milliseconds busyTimeout{5000};
 
-/// A new file is made before SQLite sees it, since SQLite would let everybody read it; the journals
-/// take the file's mode. A file that is there is not touched: opening and closing it would drop the
-/// locks that an earlier connection of this process holds on it.
+/// Everything that the record store remembers between two calls.
+struct State {
+    sqlite3 *handle = nullptr; ///< Stays as it was after a close; see isUsable.
+    bool isUsable = false; ///< Whether the handle may be passed to SQLite.
+    std::vector<sqlite3 *> earlierHandles; ///< Opened, then replaced by another open().
+    QString type; ///< Null while unset.
+    std::optional<QString> webServiceURL;
+    HttpLimits webServiceLimits;
+    bool isSessionOpen = false;
+};
+
+State &state()
+{
+    static State state;
+    return state;
+}
+
+/// A new file is created before SQLite opens it, because SQLite would let everybody read it; the
+/// journals take the file's mode. An existing file is left alone: opening and closing it would drop
+/// the locks that an earlier connection of this process holds on it.
 void createForOwner(const QString &path)
 {
     QFile(path).open(QIODevice::WriteOnly | QIODevice::NewOnly,
                      QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }
 
-bool isLocal()
+/// Values are put into the text unescaped, so one that holds a quote and a semicolon could add a
+/// statement of its own: a call runs one statement. SQLite says where the first one ends.
+bool isOneStatement(sqlite3 *database, const QByteArray &sql)
 {
-    return DBState::current().type == "sqlite3"_L1;
+    if (!sql.contains(';'))
+        return true;
+    sqlite3_stmt *statement = nullptr;
+    const char *rest = nullptr;
+    const int code = sqlite3_prepare_v2(database, sql.constData(), -1, &statement, &rest);
+    sqlite3_finalize(statement);
+    return code != SQLITE_OK // running it gives the better message
+        || QByteArrayView(rest).trimmed().isEmpty();
 }
 
 } // namespace
-
-DBState &DBState::current()
-{
-    static DBState state;
-    return state;
-}
 
 QString DB::dbFilePath()
 {
@@ -48,65 +68,70 @@ QString DB::dbFilePath()
 
 int DB::open()
 {
-    DBState &state = DBState::current();
-    state.type = u"sqlite3"_s;
-    if (state.isUsable)
-        state.earlierHandles.push_back(state.handle);
+    state().type = u"sqlite3"_s;
+    if (state().isUsable)
+        state().earlierHandles.push_back(state().handle);
     const QString path = dbFilePath();
     createForOwner(path);
-    const int code = sqlite3_open16(path.utf16(), &state.handle);
-    state.isUsable = state.handle != nullptr;
-    if (state.isUsable)
-        sqlite3_busy_timeout(state.handle, int(busyTimeout.count()));
+    const int code = sqlite3_open16(path.utf16(), &state().handle);
+    state().isUsable = state().handle != nullptr;
+    if (state().isUsable)
+        sqlite3_busy_timeout(state().handle, int(busyTimeout.count()));
     return code;
 }
 
 int DB::open(const QString &webServiceURL)
 {
-    DBState::current().webServiceURL = webServiceURL;
+    state().webServiceURL = webServiceURL;
     return 0;
+}
+
+void DB::openConfiguredWebService()
+{
+    const QSettings settings;
+    const QString address =
+        settings.value(u"Addresses/WebService"_s, QStringLiteral(TOOLVANE_WEB_SERVICE)).toString();
+    if (address.isEmpty())
+        return;
+    open(address);
+    const int seconds = settings.value(u"WebService/TimeoutSeconds"_s).toInt();
+    if (seconds >= 1 && seconds <= 3600)
+        state().webServiceLimits.time = std::chrono::seconds(seconds);
 }
 
 void DB::close()
 {
-    DBState &state = DBState::current();
     if (isLocal())
-        state.isUsable = sqlite3_close(state.usableHandle()) != SQLITE_OK;
-    else if (state.type == "webservice"_L1)
-        state.webServiceURL = QString();
+        state().isUsable = sqlite3_close(usableDatabase()) != SQLITE_OK;
+    else if (state().type == "webservice"_L1)
+        state().webServiceURL.reset();
 }
 
 std::optional<QString> DB::getWebServiceURL()
 {
-    const QString &address = DBState::current().webServiceURL;
-    return address.isNull() ? std::nullopt : std::optional(address);
+    return state().webServiceURL;
 }
 
 sqlite3 *DB::getDatabase()
 {
-    return DBState::current().handle;
+    return state().handle;
 }
 
 QString DB::getDBType()
 {
-    DBState &state = DBState::current();
-    if (state.type.isNull())
-        state.type = u"webservice"_s;
-    return state.type;
+    if (state().type.isNull())
+        state().type = u"webservice"_s;
+    return state().type;
 }
 
-// Values come unescaped into the text, so one that holds a quote and a semicolon could smuggle in a
-// statement of its own: a call runs one statement. The library says where the first one ends.
-static bool isOneStatement(sqlite3 *database, const QByteArray &sql)
+bool DB::isLocal()
 {
-    if (!sql.contains(';'))
-        return true;
-    sqlite3_stmt *statement = nullptr;
-    const char *rest = nullptr;
-    const int code = sqlite3_prepare_v2(database, sql.constData(), -1, &statement, &rest);
-    sqlite3_finalize(statement);
-    return code != SQLITE_OK // which running it will tell better
-        || QByteArrayView(rest).trimmed().isEmpty();
+    return state().type == "sqlite3"_L1;
+}
+
+sqlite3 *DB::usableDatabase()
+{
+    return state().isUsable ? state().handle : nullptr;
 }
 
 int DB::exec(const QString &sql)
@@ -114,7 +139,7 @@ int DB::exec(const QString &sql)
     int code = -1;
     char *message = nullptr;
     if (isLocal()) {
-        sqlite3 *const database = DBState::current().usableHandle();
+        sqlite3 *const database = usableDatabase();
         const QByteArray text = sql.toUtf8();
         if (isOneStatement(database, text)) {
             code = sqlite3_exec(database, text.constData(), nullptr, nullptr, &message);
@@ -138,38 +163,36 @@ QString DB::getDBError(char *message)
     return text;
 }
 
-bool DB::selectInto(const QString &sql, RecordList records, const std::optional<RecordPage> &page)
+HttpLimits &DB::webServiceLimits()
 {
-    if (!isLocal())
-        return false;
-    const Statement statement(sql);
-    if (!statement.isPrepared()) {
-        MiscTool::printMsg(u"DB"_s, u"select"_s, u"failed"_s);
-        return false;
-    }
-    if (page)
-        SchemaReflect::getSchemaValueFromeSQLiteRS(records, statement.get(), page->from,
-                                                   page->stepLength);
-    else
-        SchemaReflect::getSchemaValueFromeSQLiteRS(records, statement.get());
-    return true;
-}
-
-void DB::setWebServiceLimits(const HttpLimits &limits)
-{
-    DBState::current().webServiceLimits = limits;
-}
-
-const HttpLimits &DB::webServiceLimits()
-{
-    return DBState::current().webServiceLimits;
+    return state().webServiceLimits;
 }
 
 void DB::reset()
 {
-    DBState &state = DBState::current();
-    for (sqlite3 *handle : state.earlierHandles)
+    for (sqlite3 *handle : state().earlierHandles)
         sqlite3_close(handle);
-    sqlite3_close(state.usableHandle());
-    state = DBState();
+    sqlite3_close(usableDatabase());
+    state() = State();
+}
+
+void DBSession::openDB()
+{
+    if (isDBOpen())
+        return;
+    DB::open();
+    state().isSessionOpen = true;
+}
+
+void DBSession::closeDB()
+{
+    if (!isDBOpen())
+        return;
+    DB::close();
+    state().isSessionOpen = false;
+}
+
+bool DBSession::isDBOpen()
+{
+    return state().isSessionOpen;
 }

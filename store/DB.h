@@ -11,17 +11,17 @@
 struct HttpLimits;
 struct sqlite3;
 
-/// Where a page of records begins and how long it is. The page holds up to stepLength + 2 records.
+/// Where a page of records begins and how long it is: it holds up to stepLength + 2 records.
 struct RecordPage {
     int from;
     int stepLength;
 };
 
-/// The process's one database connection, and the switch that says where records live: in the
-/// SQLite file ("sqlite3", from the first open() on) or behind a web service ("webservice", once
-/// the type is asked for before any open()).
+/// The process's one database connection, and the switch that says where records are kept: in the
+/// SQLite file ("sqlite3", from the first open() on) or behind a web service ("webservice", if the
+/// type is read before any open()).
 ///
-/// Faults are returned and written to the system log. Every operation may be called at any time;
+/// Errors are returned and written to the system log. Every operation may be called at any time;
 /// without a usable connection it fails like a statement with an error. Interface thread only.
 class DB
 {
@@ -30,55 +30,57 @@ public:
 
     static QString dbFilePath(); ///< "DB.sqlite3" in the documents folder.
 
-    /// Sets the type to "sqlite3", then opens the file, which is made for its owner alone where it
-    /// is missing. Gives SQLite's result code; nothing is logged. An earlier connection stays open.
+    /// Sets the type to "sqlite3", then opens the file; a new one is readable by its owner alone.
+    /// Returns SQLite's result code and logs nothing. An earlier connection stays open.
     static int open();
-    /// Stores the address of the web service, which a table's name is put behind directly. Always
-    /// 0; the type stays as it is.
+    /// Sets the address of the web service; a table's name is appended to it without a separator.
+    /// Always returns 0; the type stays as it is.
     static int open(const QString &webServiceURL);
-    /// Closes the connection, or forgets the web service's address, by the type.
+    /// Sets the address that the settings hold under "Addresses/WebService", else the one that was
+    /// compiled in, and the settings' time limit for requests, "WebService/TimeoutSeconds" from 1
+    /// to 3600. Does nothing if there is no address.
+    static void openConfiguredWebService();
+    /// Closes the connection or clears the web service's address, depending on the type.
     static void close();
     static std::optional<QString> getWebServiceURL();
-    /// The connection last opened, also after close(), when it may no longer be used.
+    /// The connection opened last. After close() it is still returned but must not be used.
     static sqlite3 *getDatabase();
-    /// The type; where it is unset it becomes "webservice" by being asked for.
+    /// The type. Reading it while it is unset sets it to "webservice".
     static QString getDBType();
 
-    /// Runs SQL text; 0 on success, else SQLite's code, or -1 where the type is not "sqlite3".
+    /// Runs one SQL statement. Returns 0 on success, else SQLite's code, or -1 if the type is not
+    /// "sqlite3".
     static int exec(const QString &sql);
-    /// The message of a failed call as text; it is released.
+    /// The text of a failed call's message. Takes ownership of the message and frees it.
     static QString getDBError(char *message);
 
     static QStringList getTables(); ///< Without SQLite's own "sqlite_sequence".
-    static QStringList getColumns(const QString &table);
-    /// The column definitions within "CREATE TABLE <table>(…)". Only the lengths are looked at: the
-    /// text must be laid out as SchemaReflect writes it.
+    static QStringList getColumns(const QString &table); ///< Empty if there is no such table.
+    /// The column definitions within "CREATE TABLE <table>(…)". They are found by length alone: the
+    /// text must have the layout that SchemaReflect writes.
     static QStringList getColumnsWithType(const QString &createText, const QString &table);
     static QStringList convert2Columns(const QStringList &definitions); ///< Their first words.
-    /// Rows as texts by column name; the names are those of the table, by position. NULL gives a
-    /// null text.
+    /// Rows as texts by column name. Names are taken from the table by position, whatever the
+    /// statement selects. NULL gives a null text.
     static QList<QMap<QString, QString>> getRecordsBySQL(const QString &sql, const QString &table);
     static QList<QMap<QString, QString>> getRecords(const QString &table);
 
-    /// The records that a SELECT yields; none where it cannot be prepared. The prototype only names
+    /// The records that a SELECT yields; none if it cannot be prepared. The prototype only names
     /// the class: `DB::select(sql, UserSchema{})`.
     template <RecordClass T>
     static std::optional<QList<T>> select(const QString &sql, const T &)
     {
         return collect<T>([&](RecordList records) { return selectInto(sql, records, {}); });
     }
-    /// The same for one page, see SchemaReflect::getSchemaValueFromeSQLiteRS.
+    /// One page of them, see SchemaReflect::getSchemaValueFromeSQLiteRS.
     template <RecordClass T>
     static std::optional<QList<T>> select(const QString &sql, const T &, int from, int stepLength)
     {
         const RecordPage page{from, stepLength};
         return collect<T>([&](RecordList records) { return selectInto(sql, records, page); });
     }
-    /// Both of them; false is "none".
-    static bool selectInto(const QString &sql, RecordList records,
-                           const std::optional<RecordPage> &page);
 
-    /// Runs a select that answers whether there is a list, and makes the list.
+    /// Makes a list and passes it to `select`; none if that returns false.
     template <RecordClass T, class Select>
     static std::optional<QList<T>> collect(Select select)
     {
@@ -87,9 +89,32 @@ public:
             records.reset();
         return records;
     }
+    /// Both forms of select, without the template. All records if there is no page; false on error.
+    static bool selectInto(const QString &sql, RecordList records,
+                           const std::optional<RecordPage> &page);
 
-    static void setWebServiceLimits(const HttpLimits &limits);
-    static const HttpLimits &webServiceLimits();
+    static HttpLimits &webServiceLimits(); ///< A change applies to the requests that follow.
 
-    static void reset(); ///< Back to the state at start, every connection closed; for tests.
+    static void reset(); ///< Closes every connection and restores the initial state; for tests.
+
+private:
+    static bool isLocal(); ///< Unlike getDBType() it leaves an unset type unset.
+    /// The connection if it is open, else null, which SQLite rejects as misuse.
+    static sqlite3 *usableDatabase();
+};
+
+/// Opens and closes the database for a stretch of work. One flag is kept and no count: the first
+/// closeDB() closes, however often openDB() was called.
+///
+/// Callers write `Global::openDB()`: the session of the logged-in user derives from this class,
+/// which is here because the gateway needs it too. Interface thread only.
+class DBSession
+{
+public:
+    static void openDB(); ///< Sets the flag even if the database cannot be opened.
+    static void closeDB();
+    static bool isDBOpen();
+
+protected:
+    DBSession() = default;
 };

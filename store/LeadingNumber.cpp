@@ -23,8 +23,8 @@ bool takeSign(std::string_view &text)
     return sign == '-';
 }
 
-/// What stands for a number that from_chars finds too large or too small for a double. Its exponent
-/// tells, and where there is none its first digit.
+/// The double nearest to a number that from_chars finds too large or too small for one. Which of
+/// the two it is shows in its exponent, or in its first digit if it has none.
 double nearestTo(std::string_view number)
 {
     const std::size_t exponent = number.find_first_of("eE");
@@ -50,7 +50,7 @@ double leadingDouble(QByteArrayView text)
 {
     std::string_view digits(text.data(), std::size_t(text.size()));
     const bool isNegative = takeSign(digits);
-    // Keeps out a second sign, "inf" and "nan", which from_chars would read.
+    // Excludes a second sign, "inf" and "nan", which from_chars would read.
     if (!startsWithDigit(digits) && !(digits.starts_with('.') && startsWithDigit(digits.substr(1))))
         return 0;
     double value = 0;

@@ -6,8 +6,8 @@
 #include <concepts>
 
 /// A record class is a plain value type with Q_GADGET whose own properties, in the order in which
-/// they are declared, are the columns of one table: property 0 is the integer key `ID`. Nothing
-/// else is asked of it; `Q_PROPERTY(int ID MEMBER ID)` with a public member is the shortest form.
+/// they are declared, are the columns of one table: property 0 is the integer key `ID`. There are
+/// no other conditions; `Q_PROPERTY(int ID MEMBER ID)` with a public member is the shortest form.
 /// Properties of a base class do not count.
 template <class T>
 concept RecordClass = std::default_initializable<T> && std::same_as<
@@ -17,42 +17,32 @@ concept RecordClass = std::default_initializable<T> && std::same_as<
 /// any other type are not mapped to columns.
 enum class PropertyType { Integer, Double, Text, Other };
 
-/// What reading and writing need to know of a property.
+/// What reading and writing need to know about a property.
 struct RecordColumn {
     QLatin1String name;
     PropertyType type;
 };
 
-/// The own properties of a record class, in their order.
+/// The properties of a record class in their order, without those of a base class.
 QList<RecordColumn> recordColumns(const QMetaObject &recordClass);
 
-// What works on records is no template: the three classes below carry a record's class along with
+// Code that works on records is not a template: the three classes below hold a record's class and
 // its address. They refer to the caller's record or list, which must outlive them.
 
-/// A record that is read.
+/// A record that is read. Any record class converts to it, so operations that read a record take a
+/// RecordView by value. Positions count from 0, the key.
 class RecordView
 {
 public:
     template <RecordClass T>
-    RecordView(const T &record) : RecordView(&T::staticMetaObject, &record)
-    {
-    }
-    RecordView(const QMetaObject *recordClass, const void *record)
-        : m_class(recordClass), m_record(record)
+    RecordView(const T &record) : m_class(&T::staticMetaObject), m_record(&record)
     {
     }
 
     int count() const { return m_class->propertyCount() - m_class->propertyOffset(); }
-    /// An invalid property for a position past the end.
-    QMetaProperty property(int index) const
-    {
-        return m_class->property(m_class->propertyOffset() + index);
-    }
     const QMetaObject &recordClass() const { return *m_class; }
-    QVariant value(int index) const;
-    QVariant value(const QString &name) const; ///< Invalid where there is no such property.
-    QString className() const { return QString::fromLatin1(m_class->className()); }
-    // These want the property's own type.
+    QVariant value(int index) const; ///< Invalid for a position past the end.
+    // The property must have the type that is read.
     int integer(int index) const { return get<int>(index); }
     double number(int index) const { return get<double>(index); }
     QString text(int index) const { return get<QString>(index); }
@@ -71,7 +61,7 @@ private:
     const void *m_record;
 };
 
-/// A record that is filled. The setters want the property's own type.
+/// A record that is filled. The property must have the setter's type, except for setOther().
 class RecordWriter
 {
 public:
@@ -88,7 +78,7 @@ public:
     void setInteger(int index, int value) { set(index, &value); }
     void setDouble(int index, double value) { set(index, &value); }
     void setText(int index, QString value);
-    /// Any property, through conversion of the value; one that cannot be converted changes nothing.
+    /// Any property: the value is converted to its type. If it cannot be, nothing changes.
     void setOther(int index, const QVariant &value);
 
 private:
@@ -98,7 +88,7 @@ private:
     void *m_record;
 };
 
-/// A list that takes records; it stands for the caller's prototype as well.
+/// A list that records are appended to. Its class also serves as the caller's prototype.
 class RecordList
 {
 public:
@@ -108,12 +98,13 @@ public:
     {
     }
 
+    /// The writer is valid until the next append().
     RecordWriter append() { return {m_class, m_append(m_records)}; }
     const QMetaObject &recordClass() const { return *m_class; }
 
 private:
     template <RecordClass T>
-    static void *appendTo(void *records)
+    static void *appendTo(void *records) // the one step that must know the type of the list
     {
         return &static_cast<QList<T> *>(records)->emplaceBack();
     }

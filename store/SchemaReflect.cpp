@@ -1,4 +1,4 @@
-// The part of SchemaReflect that writes: records to SQL and JSON text.
+// The part of SchemaReflect that writes records as SQL and JSON text.
 
 #include "SchemaReflect.h"
 
@@ -71,7 +71,7 @@ void appendMember(QString &text, const Field &field)
     text += u'"';
 }
 
-/// What `append` makes of the properties from `first` on, with commas between.
+/// What `append` writes for the properties from `first` on, separated by commas.
 QString joined(RecordView record, int first, void (*append)(QString &text, const Field &field))
 {
     QString text;
@@ -84,7 +84,7 @@ QString joined(RecordView record, int first, void (*append)(QString &text, const
     return text;
 }
 
-/// The array `key` of the table's description.
+/// The array under `key` in the table's description.
 QStringList described(const QString &table, const QString &key)
 {
     const QString path = ":/schema/"_L1 + table + ".plist"_L1;
@@ -122,7 +122,7 @@ QString SchemaReflect::getUpdateStr(RecordView record)
     if (record.count() < 2)
         return {};
     return joined(record, 1, appendAssignment) + " WHERE ID="_L1
-        + QString::number(record.value(u"ID"_s).toInt());
+        + QString::number(record.value(0).toInt());
 }
 
 QString SchemaReflect::getFullInsertStatement(const QString &table, RecordView record)

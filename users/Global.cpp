@@ -42,3 +42,14 @@ void Global::reset()
 {
     session().reset();
 }
+
+SessionRights::SessionRights()
+    : m_groupID(session() ? session()->UserGroupID : 0),
+      m_permission(Global::getPermission(m_groupID))
+{
+}
+
+bool SessionRights::holds(QLatin1String code) const
+{
+    return m_groupID == 0 || m_permission.contains(code);
+}

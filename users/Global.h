@@ -1,27 +1,47 @@
 #pragma once
 
-#include "DBSession.h"
+#include "DB.h"
 #include "UserSchema.h"
 
 #include <QString>
 
 #include <optional>
 
-/// The session of this process: the database (see DBSession) and who is logged in. Interface thread
-/// only.
+/// The session of this process: the database (see DBSession) and the user who is logged in.
+/// Interface thread only.
 class Global : public DBSession
 {
 public:
     Global() = delete;
 
-    /// Replaces the session's user, who stays until the process ends: there is no log-out.
+    /// Replaces the session's user. There is no log-out.
     static void setLoggedUser(const UserSchema &user);
     /// None until the first login.
     static const std::optional<UserSchema> &loggedUser();
 
-    /// The rights of a group (see SessionRights), "" where there is no such group. Closes the
-    /// database behind, even where it was open before: opening is not counted.
+    /// The rights of a group (see SessionRights), "" if there is no such group. Closes the database
+    /// afterwards, even if it was open before, because opening is not counted.
     static QString getPermission(int groupID);
 
     static void reset(); ///< Nobody is logged in, as at start; for tests.
+};
+
+/// What the session's user was allowed to do when this was made.
+///
+/// A right has a code of two characters: a letter for the module (A user groups, B users,
+/// C categories, D providers, E products, F inventory) and a digit (1 view, 2 add, 3 edit,
+/// 4 delete). A group's rights are their codes, joined without a separator. A user of group 0, and
+/// a session without a login, has every right.
+class SessionRights
+{
+public:
+    SessionRights(); ///< Reads the database, which is closed afterwards.
+
+    /// Whether the group's rights contain the code. A letter alone matches any right of the module;
+    /// this is the test for opening the module's page.
+    bool holds(QLatin1String code) const;
+
+private:
+    int m_groupID;
+    QString m_permission;
 };

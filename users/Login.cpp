@@ -13,7 +13,7 @@ QList<UserSchema> select(BLGeneral &users, const QString &whereClause)
     return users.select(whereClause, UserSchema{}).value_or(QList<UserSchema>());
 }
 
-void makeRootWhereMissing(BLGeneral &users)
+void createMissingRoot(BLGeneral &users)
 {
     if (select(users, u"User='root'"_s).isEmpty())
         users.insert(UserSchema().setRoot());
@@ -26,7 +26,7 @@ QList<UserSchema> Login::matchingUsers(const QString &user, const QString &passw
     const QString whereClause = u"User='"_s + user + u"' AND Password='"_s + password + u"'"_s;
     Global::openDB();
     BLGeneral users(u"User"_s);
-    makeRootWhereMissing(users);
+    createMissingRoot(users);
     const QList<UserSchema> found = select(users, whereClause);
     Global::closeDB();
     return found;

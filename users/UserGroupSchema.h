@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QString>
 
-/// A row of the table "UserGroup"; the properties are its columns, in their order. `Name` and
-/// `Memo` are kept percent-escaped.
+/// A row of the table "UserGroup"; the properties are its columns, in order. `Name` and
+/// `Memo` are stored percent-escaped.
 class UserGroupSchema
 {
     Q_GADGET
@@ -15,10 +15,11 @@ class UserGroupSchema
     Q_PROPERTY(QString Memo MEMBER Memo)
 
 public:
-    int ID = 0;
-    int ShopID = 0;
+    int ID = 0; ///< The key; 0 until the table has given one.
+    int ShopID = 0; ///< Always stored as 0; nothing reads it.
     QString Name;
-    QString Permission; ///< The group's rights: codes of two characters, put together.
+    /// The group's rights: codes of two characters, joined without a separator, see SessionRights.
+    QString Permission;
     QString Memo;
 };
 Q_DECLARE_TYPEINFO(UserGroupSchema, Q_RELOCATABLE_TYPE);

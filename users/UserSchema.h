@@ -3,8 +3,8 @@
 #include <QObject>
 #include <QString>
 
-/// A row of the table "User"; the properties are its columns, in their order. The texts are kept
-/// percent-escaped, the password too, which is in the clear otherwise.
+/// A row of the table "User"; the properties are its columns, in order. The texts are stored
+/// percent-escaped. So is the password, which is not encrypted in any other way.
 class UserSchema
 {
     Q_GADGET
@@ -16,15 +16,25 @@ class UserSchema
     Q_PROPERTY(QString Memo MEMBER Memo)
 
 public:
-    int ID = 0;
-    int ShopID = 0;
-    int UserGroupID = 0; ///< 0 is the group without restrictions.
+    int ID = 0; ///< The key; 0 until the table has given one.
+    int ShopID = 0; ///< Always stored as 0; nothing reads it.
+    /// The `ID` of the user's group, which may have been deleted. 0 is the group without
+    /// restrictions, which has no row of its own.
+    int UserGroupID = 0;
     QString User; ///< The login name.
     QString Password;
     QString Memo;
 
-    /// Makes this the user with all rights, keeping `ID` and `ShopID`, and gives it back.
-    UserSchema &setRoot();
-    bool isRoot() const;
+    /// Makes this the user with all rights; `ID` and `ShopID` stay. Returns the record itself.
+    UserSchema &setRoot()
+    {
+        UserGroupID = 0;
+        User = QStringLiteral("root");
+        Password = QStringLiteral("kelp");
+        Memo = QStringLiteral("Super User");
+        return *this;
+    }
+    /// Whether this is the user that setRoot() makes; others may have all rights too.
+    bool isRoot() const { return UserGroupID == 0 && User == QLatin1String("root"); }
 };
 Q_DECLARE_TYPEINFO(UserSchema, Q_RELOCATABLE_TYPE);

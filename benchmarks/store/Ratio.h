@@ -25,7 +25,7 @@ double seconds(Work work)
     return processorTime() - begin;
 }
 
-/// Prints a row; false where ours takes more than `limit` times the peer's time.
+/// Prints a row; false if ours takes more than `limit` times the peer's time.
 template <class Ours, class Peer>
 bool isWithin(const char *name, double limit, int rounds, Ours ours, Peer peer)
 {

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Ends the benchmark where what it measures does not work.
+/// Ends the benchmark if what it measures does not work.
 inline void expect(bool holds, const char *what)
 {
     if (holds)

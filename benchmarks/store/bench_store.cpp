@@ -1,13 +1,12 @@
-// What the record store costs above SQLite and Qt's JSON parser used by hand. Runs in a home folder
-// of its own, see tests/support/isolated; ends with 1 when a limit is passed.
+// What the record store costs compared with SQLite and Qt's JSON parser used by hand. Runs in a
+// home folder of its own, see tests/support/isolated; ends with 1 when a limit is passed.
 
 #include "BLGeneral.h"
-#include "DBSession.h"
+#include "DB.h"
 #include "PlainUser.h"
 #include "Ratio.h"
 #include "SampleUsers.h"
 #include "SchemaReflect.h"
-#include "SelectReply.h"
 #include "UserSchema.h"
 
 #include <QCoreApplication>
@@ -94,7 +93,7 @@ bool parsesReplies()
         "parse a reply of 100,000 records", 1.5, 15,
         [&] {
             QList<UserSchema> users;
-            appendSelectReply(reply, RecordList(users));
+            SchemaReflect::appendSelectReply(reply, RecordList(users));
             expect(users.size() == count, "parse");
         },
         [&] { expect(!QJsonDocument::fromJson(reply).isNull(), "plain parse"); });

@@ -3,7 +3,7 @@
 // when a limit is passed.
 
 #include "BLGeneral.h"
-#include "DBSession.h"
+#include "DB.h"
 #include "PlainUser.h"
 #include "Ratio.h"
 #include "SampleUsers.h"
@@ -28,11 +28,11 @@ bool takesTheSameTimeForEach(BLGeneral &gateway)
                 [&] { expect(gateway.select("1=1", UserSchema{})->size() == count, "select"); }));
         perRow.push_back(median(times) / count * 1e9);
     }
-    const auto [least, most] = std::minmax_element(perRow.begin(), perRow.end());
+    const auto [min, max] = std::minmax_element(perRow.begin(), perRow.end());
     return Row{.work = "a record of a select, 1,000 to 1,000,000",
-               .figure = *most / *least,
+               .figure = *max / *min,
                .limit = 1.6,
-               .detail = against(*most, *least, "ns")}
+               .detail = against(*max, *min, "ns")}
         .print();
 }
 

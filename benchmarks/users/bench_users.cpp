@@ -1,7 +1,7 @@
 // How long the record pages hold up the interface thread with 10,000 users in 500 groups. A person
 // feels a tenth of a second, so that is the limit of each step. What counts is the thread's own
-// time on a processor, the median of the rounds; the clock's time, with the disk's, stands beside
-// it.
+// time on a processor, the median of the rounds. The clock's time, which includes the disk's, is
+// printed next to it.
 // usage: tests/support/isolated bench_users
 
 #include "DB.h"

@@ -1,7 +1,7 @@
 // Replies of a web service become records of every kind of property, whatever they hold.
 
 #include "SampleRecords.h"
-#include "SelectReply.h"
+#include "SchemaReflect.h"
 
 #include <cstdint>
 
@@ -12,7 +12,7 @@ template <RecordClass T>
 void read(QByteArrayView reply)
 {
     QList<T> records;
-    appendSelectReply(reply, RecordList(records));
+    SchemaReflect::appendSelectReply(reply, RecordList(records));
 }
 
 } // namespace

@@ -1,9 +1,9 @@
-// Inserts and selects without a pause, for the trials that run several of these against one file
-// and kill them: hammer_child NAME SECONDS held|each. Writes the name of each row to standard
-// output once its insert has said yes, and "LOST" where a select no longer finds them.
+// Inserts and selects without a pause, for the tests that run several of these against one file and
+// kill them: hammer_child NAME SECONDS held|each. Writes the name of each row to standard output
+// once its insert has succeeded, and "LOST" if a select no longer finds them.
 
 #include "BLGeneral.h"
-#include "DBSession.h"
+#include "DB.h"
 #include "SampleRecords.h"
 
 #include <QCoreApplication>
@@ -20,7 +20,7 @@ void say(const QString &line)
 {
     const QByteArray bytes = line.toUtf8() + '\n';
     if (::write(STDOUT_FILENO, bytes.data(), std::size_t(bytes.size())) != bytes.size())
-        ::_exit(1); // nobody listens any more
+        ::_exit(1); // the reader is gone
 }
 
 } // namespace
@@ -47,7 +47,7 @@ int main(int argc, char **argv)
             ++count;
             say(row);
         }
-        ::usleep(1000); // SQLite does not queue those who wait: a gap lets them in
+        ::usleep(1000); // SQLite has no queue for waiting processes: a gap lets them in
         if (i % 16 != 0)
             continue;
         const auto rows =

@@ -1,9 +1,8 @@
-// Proves that a database file which cannot be used makes every operation fail as an operation with
-// an error, and stays as it was.
+// Proves that with a database file that cannot be used every operation fails with an error, and
+// that the file stays as it was.
 
 #include "BLGeneral.h"
 #include "DB.h"
-#include "DBSession.h"
 #include "LogLines.h"
 #include "SampleRecords.h"
 #include "WithoutPrivilege.h"
@@ -33,7 +32,7 @@ void write(const QByteArray &bytes)
     QCOMPARE(file.write(bytes), bytes.size());
 }
 
-/// Each write says no and logs one line; the select says none, with a line.
+/// Each write returns false and logs one line; each select returns none and logs one line.
 void allOperationsFail(BLGeneral &gateway)
 {
     LogLines::take();

@@ -2,7 +2,6 @@
 // killed while they write.
 
 #include "DB.h"
-#include "DBSession.h"
 #include "SampleRecords.h"
 
 #include <QFile>
@@ -20,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int patience = 60'000;
+constexpr int childTimeout = 60'000; // milliseconds
 
 std::unique_ptr<QProcess> hammer(const QString &name, int seconds, const QString &form)
 {
@@ -31,7 +30,7 @@ std::unique_ptr<QProcess> hammer(const QString &name, int seconds, const QString
     return child;
 }
 
-/// The rows that the child says are stored. A line that the kill cut short counts as unsaid.
+/// The rows that the child has reported as stored, without a line that the kill cut short.
 QStringList stored(QProcess &child)
 {
     const QString output = QString::fromUtf8(child.readAllStandardOutput());
@@ -62,7 +61,7 @@ private Q_SLOTS:
         children.push_back(hammer(u"b"_s, 4, u"each"_s));
         QStringList expected;
         for (const auto &child : children) {
-            QVERIFY(child->waitForFinished(patience));
+            QVERIFY(child->waitForFinished(childTimeout));
             QCOMPARE(child->exitStatus(), QProcess::NormalExit);
             QCOMPARE(child->exitCode(), 0);
             const QStringList rows = stored(*child);
@@ -83,11 +82,11 @@ private Q_SLOTS:
             const auto child =
                 hammer("k"_L1 + QString::number(i), 60, i % 2 ? u"held"_s : u"each"_s);
             for (int reports = 0; reports <= i % 4; ++reports)
-                QVERIFY(child->waitForReadyRead(patience));
-            // Not a wait for anything: spreads the kills over the steps of a write.
+                QVERIFY(child->waitForReadyRead(childTimeout));
+            // This waits for nothing: it spreads the kills over the steps of a write.
             QThread::usleep(ulong(i * 137 % 8000));
             ::kill(pid_t(child->processId()), SIGKILL);
-            QVERIFY(child->waitForFinished(patience));
+            QVERIFY(child->waitForFinished(childTimeout));
             QCOMPARE(child->exitStatus(), QProcess::CrashExit);
             expected += stored(*child);
         }
@@ -97,9 +96,9 @@ private Q_SLOTS:
     }
 
 private:
-    /// Every expected row once, and at most `unsaid` others: a kill may fall between the end of a
-    /// write and its report.
-    static void expectRows(const QStringList &expected, int unsaid)
+    /// Every expected row once, and at most `maxUnreported` others: a kill may come between the end
+    /// of a write and its report.
+    static void expectRows(const QStringList &expected, int maxUnreported)
     {
         const auto check =
             DB::select(u"SELECT 0,integrity_check FROM pragma_integrity_check"_s, PriceSchema{});
@@ -111,7 +110,7 @@ private:
             names.insert(row.Name);
         QCOMPARE(names.size(), rows->size());
         QVERIFY(names.contains(QSet<QString>(expected.begin(), expected.end())));
-        QVERIFY(names.size() - expected.size() <= unsaid);
+        QVERIFY(names.size() - expected.size() <= maxUnreported);
         qInfo("%lld rows, %lld of them reported", qint64(names.size()), qint64(expected.size()));
     }
 };

@@ -4,7 +4,6 @@
 #include "DB.h"
 #include "SampleRecords.h"
 #include "SchemaReflect.h"
-#include "SelectReply.h"
 #include "UserGroupSchema.h"
 #include "UserSchema.h"
 
@@ -44,7 +43,7 @@ template <RecordClass T>
 QList<T> parsed(const QByteArray &reply, const T &)
 {
     QList<T> records;
-    appendSelectReply(reply, RecordList(records));
+    SchemaReflect::appendSelectReply(reply, RecordList(records));
     return records;
 }
 
@@ -136,7 +135,7 @@ private Q_SLOTS:
         QCOMPARE(prices.at(4).Amount, std::numeric_limits<double>::max());
     }
 
-    void otherRepliesHoldNoRecords()
+    void otherRepliesGiveNoRecords()
     {
         for (const char *reply :
              {"", "not json", "[]", R"({"RESULT":{}})", R"({"RESULT":[{"ID":1}]}x)"})

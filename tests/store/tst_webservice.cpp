@@ -2,7 +2,7 @@
 // callers expect.
 
 #include "BLGeneral.h"
-#include "ConfiguredWebService.h"
+#include "DB.h"
 #include "Http.h"
 #include "HttpPeer.h"
 #include "LogLines.h"
@@ -22,7 +22,7 @@ namespace
 void use(const HttpPeer &peer)
 {
     DB::open(QString::fromLatin1(peer.address("/api/")));
-    DB::setWebServiceLimits({.time = 1s, .bytes = 100'000});
+    DB::webServiceLimits() = {.time = 1s, .bytes = 100'000};
 }
 
 /// "<method> <path>" of each request.
@@ -48,7 +48,7 @@ private Q_SLOTS:
     }
     void cleanup() { QVERIFY2(LogLines::take().isEmpty(), "the web-service form logs nothing"); }
 
-    void noAnswerReadsAsSuccessInTime()
+    void aMissingReplyReadsAsSuccessInTime()
     {
         const HttpPeer peer(
             [](HttpPeer::Connection &connection) { connection.hasGoneWithin(10s); });
@@ -127,7 +127,7 @@ private Q_SLOTS:
         }
     }
 
-    void noAddressReadsAsSuccess()
+    void aMissingAddressReadsAsSuccess()
     {
         BLGeneral gateway(PriceSchema{});
         QVERIFY(gateway.insert(PriceSchema{}));
@@ -140,12 +140,12 @@ private Q_SLOTS:
         QSettings settings;
         settings.setValue(u"Addresses/WebService"_s, u"https://service.example/api/"_s);
         settings.setValue(u"WebService/TimeoutSeconds"_s, 5);
-        openConfiguredWebService();
+        DB::openConfiguredWebService();
         QCOMPARE(DB::getWebServiceURL(), u"https://service.example/api/"_s);
         QCOMPARE(DB::webServiceLimits().time, 5s);
         settings.setValue(u"WebService/TimeoutSeconds"_s, 0);
         DB::reset();
-        openConfiguredWebService();
+        DB::openConfiguredWebService();
         QCOMPARE(DB::webServiceLimits().time, 60s);
         settings.clear();
     }

@@ -39,7 +39,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(RecordsTrial)
 
-    QWidget owner; ///< Stands for the main window.
+    QWidget owner; ///< Takes the place of the main window.
     MessageBoxes boxes;
 
     /// Opens the window anew, with this page in front.
@@ -49,7 +49,7 @@ public:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         RecordWindow::open(shown, owner);
         auto *window = owner.findChild<RecordWindow *>();
-        QTest::qWait(1); // a refusal comes before the window, which is active again afterwards
+        QTest::qWait(1); // a refusal's box comes first; the window is active again afterwards
         window->activateWindow();
         if (!QTest::qWaitForWindowActive(window))
             qFatal("the record window does not open");
@@ -62,7 +62,7 @@ public:
         return PageControls::control<AbstractViewController>(owner, pages[int(page)]);
     }
 
-    /// What the database's own program answers, columns parted by "|".
+    /// The output of the sqlite3 program, with "|" between columns.
     static QString sqlite(const QString &sql)
     {
         QProcess program;
@@ -72,7 +72,7 @@ public:
         return fault + QString::fromUtf8(program.readAllStandardOutput()).trimmed();
     }
 
-    static int storeGroup(const QString &name, const QString &permission = {}) ///< Gives its key.
+    static int storeGroup(const QString &name, const QString &permission = {}) ///< Returns its key.
     {
         return stored(QStringLiteral("UserGroup"), UserGroupSchema{0, 0, name, permission, {}});
     }
@@ -81,7 +81,7 @@ public:
     {
         stored(QStringLiteral("User"), UserSchema{0, 0, groupID, name, password, {}});
     }
-    /// Has a user of the group logged in.
+    /// Logs in a user of the group.
     static void logIn(int groupID)
     {
         Global::setLoggedUser(UserSchema{0, 0, groupID, QStringLiteral("somebody"), {}, {}});
@@ -128,7 +128,7 @@ inline QStringList names(const QWidget &page)
     return names;
 }
 
-/// By a click; gives its place.
+/// By a click; returns its position.
 inline QPoint selectRow(const QWidget &page, int row)
 {
     const QModelIndex index = table(page).model()->index(row, 0);
@@ -150,7 +150,7 @@ inline void edit(const QWidget &page, int row)
     press(page, "editButton");
 }
 
-/// Replaces what stands in the field, as an input method would.
+/// Replaces the text of the field, as an input method would.
 inline void type(const QWidget &page, const char *field, const QString &text)
 {
     auto &edit = control<QLineEdit>(page, field);

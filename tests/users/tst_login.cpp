@@ -1,5 +1,5 @@
-// Proves that the login window lets in exactly whom the table knows, says nothing to others, and
-// can be used again.
+// Proves that the login window accepts exactly the users in the table, gives no reason for a
+// refusal, and can be used again.
 
 #include "Login.h"
 #include "LoginDelegate.h"
@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_Login : public QObject
+class TestLogin : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private Q_SLOTS:
         QVERIFY(isShakenFor({}, u"kelp"_s));
         QVERIFY(isShakenFor(u"root"_s, {}));
         QVERIFY(!QFile::exists(DB::dbFilePath()));
-        for (const int group : {1, 2}) // nobody can tell which of the two it is
+        for (const int group : {1, 2}) // it is not clear which of the two it is
             RecordsTrial::storeUser(u"twin"_s, group);
         QVERIFY(isShakenFor(u"twin"_s, u"pw"_s));
         QVERIFY(isShakenFor(u"root"_s, u"Kelp"_s));
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QVERIFY(!login.isVisible());
     }
 
-    void comparesWhatWasTypedAndMakesRootWhereItIsMissing()
+    void comparesWhatWasTypedAndCreatesAMissingRoot()
     {
         const RecordsTrial trial;
         const auto found = [](const char *user, const char *password) {
@@ -75,5 +75,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_Login)
+QTEST_MAIN(TestLogin)
 #include "tst_login.moc"

@@ -29,12 +29,12 @@ public:
             qFatal("the program does not start");
     }
 
-    /// Chooses an item of the Records menu as the keyboard does: Alt+R, then the item's letter.
-    void choose(Qt::Key letter)
+    /// Chooses an item of the Records menu as the keyboard does: Alt+R, then the item's mnemonic.
+    void choose(Qt::Key mnemonic)
     {
         auto &menu = control<QMenu>(application.window(), "recordsMenu");
         menu.popup(application.window().mapToGlobal(QPoint(50, 50)));
-        QTest::keyClick(&menu, letter);
+        QTest::keyClick(&menu, mnemonic);
     }
 
     void logIn(const QString &user, const QString &password)
@@ -50,9 +50,9 @@ public:
         QCOMPARE(window().windowTitle(), user);
     }
 
-    QWidget &open(Qt::Key letter, const char *page)
+    QWidget &open(Qt::Key mnemonic, const char *page)
     {
-        choose(letter);
+        choose(mnemonic);
         if (!QTest::qWaitForWindowActive(records()))
             qFatal("the record window does not open");
         return control<QWidget>(*records(), page);
@@ -67,14 +67,14 @@ public:
 
 } // namespace
 
-class tst_RecordsStory : public QObject
+class TestRecordsStory : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void initTestCase()
     {
-        QLocale::setDefault(QLocale::c()); // the letters above are those of English menus
+        QLocale::setDefault(QLocale::c()); // the mnemonics above are those of English menus
         Application::prepare();
     }
 
@@ -129,5 +129,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_RecordsStory)
+QTEST_MAIN(TestRecordsStory)
 #include "tst_records_story.moc"

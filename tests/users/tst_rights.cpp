@@ -1,5 +1,5 @@
-// Proves that each page opens, and each of its buttons works, exactly for those whose group holds
-// the right, and that the others are told why.
+// Proves that each page opens, and each of its buttons works, exactly for the users whose group has
+// the right, and that the others get the reason.
 
 #include "RecordsTrial.h"
 
@@ -27,7 +27,7 @@ QString possible(const QWidget &page)
 
 } // namespace
 
-class tst_Rights : public QObject
+class TestRights : public QObject
 {
     Q_OBJECT
 
@@ -69,7 +69,7 @@ private Q_SLOTS:
         }
     }
 
-    void whatIsNotAllowedSaysWhyAndChangesNothing()
+    void aDisabledButtonGivesTheReasonAndChangesNothing()
     {
         RecordsTrial trial;
         RecordsTrial::logIn(RecordsTrial::storeGroup(u"Group"_s, u"A2"_s));
@@ -121,5 +121,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_Rights)
+QTEST_MAIN(TestRights)
 #include "tst_rights.moc"

@@ -1,23 +1,23 @@
 // Proves that the user groups page stores exactly what was entered, refuses what it must refuse,
-// and keeps groups that have users.
+// and does not delete groups that have users.
 
 #include "RecordsTrial.h"
 
 using namespace Qt::StringLiterals;
 using namespace Using;
 
-class tst_UserGroups : public QObject
+class TestUserGroups : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void theFirstGroupHoldsNoRightAndALaterOneAll()
+    void theFirstDefaultGroupHasNoRightsAndALaterOneAll()
     {
         RecordsTrial trial;
         const QWidget &page = trial.open(UserGroups);
         QCOMPARE(RecordsTrial::sqlite(u"SELECT * FROM UserGroup"_s),
                  u"1|0|DefaultUserGroup||DefaultUserGroupMemo"_s);
-        deleteRow(page, 0); // the page does not know its key yet: no row is deleted
+        deleteRow(page, 0); // its key on the page is still 0: no row is deleted
         AbstractViewController &again = trial.open(UserGroups);
         QCOMPARE(RecordsTrial::sqlite(u"SELECT count(*) FROM UserGroup"_s), u"1"_s);
         RecordsTrial::sqlite(u"DELETE FROM UserGroup"_s);
@@ -57,7 +57,7 @@ private Q_SLOTS:
             type(page, "memoField", name);
             QTest::keyClick(panel(page).focusWidget(), Qt::Key_Return);
             QVERIFY(!panel(page).isVisible());
-            const int row = table(page).selectedRow();
+            const int row = table(page).selectedRecord();
             QCOMPARE(cell(page, row), name);
             press(page, "editButton");
             QCOMPARE(text(page, "nameField"), name);
@@ -71,7 +71,7 @@ private Q_SLOTS:
         QCOMPARE(trial.boxes.texts, QStringList());
     }
 
-    void renamingAsksForNoUniqueName()
+    void renamingAllowsANameThatIsTaken()
     {
         RecordsTrial trial;
         RecordsTrial::storeGroup(u"One"_s);
@@ -83,7 +83,7 @@ private Q_SLOTS:
         type(page, "nameField", u"One"_s);
         press(page, "saveButton");
         QCOMPARE(RecordsTrial::sqlite(u"SELECT ID, Name FROM UserGroup"_s), u"1|One\n2|One"_s);
-        QCOMPARE(table(page).selectedRow(), 1); // still the one that was edited
+        QCOMPARE(table(page).selectedRecord(), 1); // still the one that was edited
     }
 
     void boxesOfAnEarlierGroupStayChecked()
@@ -132,5 +132,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_UserGroups)
+QTEST_MAIN(TestUserGroups)
 #include "tst_usergroups.moc"

@@ -1,5 +1,5 @@
-// Proves that the users page stores exactly what was entered, makes its checks in their order, and
-// never moves a user into a group that nobody chose, except the one that bears the user's own key.
+// Proves that the users page stores exactly what was entered, makes its checks in order, and never
+// moves a user into a group that nobody chose, except the one whose key is the user's own.
 
 #include "RecordsTrial.h"
 
@@ -27,7 +27,7 @@ QComboBox &popUp(const QWidget &page)
 
 } // namespace
 
-class tst_Users : public QObject
+class TestUsers : public QObject
 {
     Q_OBJECT
 
@@ -40,21 +40,21 @@ private Q_SLOTS:
         RecordsTrial::storeUser(u"al%20ice"_s, 1);
         const QWidget &page = trial.open(Users);
         press(page, "addButton");
-        const QString longest(100, u'x');
+        const QString maxName(100, u'x');
         struct Case {
             QString name;
-            QString label; // beside the password: it is what is measured
+            QString label; // beside the password; its length is what is checked
             QString repeated;
             QString alert;
             QString focused;
         } const cases[] = {
-            // Each is wrong in what is checked later, too.
+            // Each is also wrong in everything that is checked later.
             {{}, {}, u"other"_s, u"UserNullAlert"_s, u"userField"_s},
-            {longest + u'x', {}, u"other"_s, u"UserOverLenAlert"_s, u"userField"_s},
-            {longest, {}, u"other"_s, u"PasswordNullAlert"_s, u"passwordField"_s},
-            {longest, longest + u'x', u"a"_s, u"PasswordOverLenAlert"_s, u"passwordField"_s},
-            {u"al ice"_s, longest, u"secreT"_s, u"PasswordNotSameAlert"_s, u"rePasswordField"_s},
-            {u"al ice"_s, longest, u"secret"_s, u"UserExistAlert"_s, u"userField"_s},
+            {maxName + u'x', {}, u"other"_s, u"UserOverLenAlert"_s, u"userField"_s},
+            {maxName, {}, u"other"_s, u"PasswordNullAlert"_s, u"passwordField"_s},
+            {maxName, maxName + u'x', u"a"_s, u"PasswordOverLenAlert"_s, u"passwordField"_s},
+            {u"al ice"_s, maxName, u"secreT"_s, u"PasswordNotSameAlert"_s, u"rePasswordField"_s},
+            {u"al ice"_s, maxName, u"secret"_s, u"UserExistAlert"_s, u"userField"_s},
         };
         for (const Case &wrong : cases) {
             fillIn(page, wrong.name, u"secret"_s, wrong.repeated);
@@ -67,7 +67,7 @@ private Q_SLOTS:
         }
         QCOMPARE(RecordsTrial::sqlite(u"SELECT count(*) FROM User"_s), u"1"_s);
         control<QLabel>(page, "passwordLabel").setText(u"Password"_s);
-        fillIn(page, longest, {}, {}); // an empty password passes
+        fillIn(page, maxName, {}, {}); // an empty password passes
         press(page, "saveButton");
         QCOMPARE(trial.boxes.texts, QStringList());
         press(page, "addButton");
@@ -77,7 +77,7 @@ private Q_SLOTS:
         QTest::keyClick(&popUp(page), Qt::Key_Down);
         QCOMPARE(popUp(page).currentText(), u"仓库"_s);
         press(page, "saveButton");
-        const QString stored = u"2|0|1|"_s + longest
+        const QString stored = u"2|0|1|"_s + maxName
             + u"||\n3|0|2|%E6%9D%8E%20%22%E9%9B%B7%22%2050%25|pa%20ss|%3Cb%3Enew%3C/b%3E"_s;
         QCOMPARE(RecordsTrial::sqlite(u"SELECT * FROM User WHERE ID>1"_s), stored);
         QCOMPARE(cell(page, 2), u"李 \"雷\" 50%"_s);
@@ -94,7 +94,7 @@ private Q_SLOTS:
             RecordsTrial::storeGroup(name);
         RecordsTrial::storeUser(u"al%20ice"_s, 77, u"a%20b"_s);
         const QWidget &page = trial.open(Users);
-        QCOMPARE(popUp(page).count(), 2); // each name once, the last that bears it
+        QCOMPARE(popUp(page).count(), 2); // each name once, for the last group with it
         struct Case {
             int userID;
             int group;
@@ -112,7 +112,7 @@ private Q_SLOTS:
             trial.page(Users).reloadData();
             doubleClickRow(page, 0);
             QCOMPARE(popUp(page).currentText(), one.shown);
-            QTest::keyClicks(&control<QLineEdit>(page, "userField"), u"x"_s); // is fixed
+            QTest::keyClicks(&control<QLineEdit>(page, "userField"), u"x"_s); // is read-only
             QCOMPARE(text(page, "userField"), u"al ice"_s);
             QCOMPARE(text(page, "passwordField"), u"a b"_s);
             QCOMPARE(text(page, "rePasswordField"), u"a b"_s);
@@ -129,5 +129,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_Users)
+QTEST_MAIN(TestUsers)
 #include "tst_users.moc"

@@ -1,8 +1,8 @@
 #include "AbstractViewController.h"
 
+#include "Global.h"
 #include "MiscTool.h"
 #include "Mnemonics.h"
-#include "SessionRights.h"
 #include "ui_AbstractViewController.h"
 #include "ui_RecordPanel.h"
 
@@ -14,53 +14,49 @@
 using namespace Qt::StringLiterals;
 
 AbstractViewController::AbstractViewController(const Module &module, QWidget *parent)
-    : QWidget(parent), m_module(module), m_model(new RecordTableModel(*this, this)),
-      page(std::make_unique<Ui::AbstractViewController>()), panel(new QDialog(this)),
-      panelParts(std::make_unique<Ui::RecordPanel>())
+    : QWidget(parent), m_module(module), page(std::make_unique<Ui::AbstractViewController>()),
+      panel(new QDialog(this)), panelParts(std::make_unique<Ui::RecordPanel>())
 {
     page->setupUi(this);
+    table = page->table;
     panelParts->setupUi(panel);
     Mnemonics::keepUnique(panel);
-    page->table->setRecords(*m_model, u"Records/"_s + module.table);
-    connectActions();
+    using Page = AbstractViewController;
+    connect(page->addButton, &QPushButton::clicked, this, &Page::addAction);
+    connect(page->editButton, &QPushButton::clicked, this, &Page::editAction);
+    connect(page->delButton, &QPushButton::clicked, this, &Page::deleteAction);
+    connect(table, &RecordTable::returnPressed, page->editButton, &QPushButton::click);
+    connect(table, &RecordTable::deletePressed, page->delButton, &QPushButton::click);
+    connect(panelParts->saveButton, &QPushButton::clicked, this, &Page::saveAction);
+    connect(panelParts->cancelButton, &QPushButton::clicked, this, &Page::cancelAction);
 }
 
 AbstractViewController::~AbstractViewController() = default;
 
 void AbstractViewController::focusTable()
 {
-    page->table->setFocus();
-}
-
-void AbstractViewController::connectActions()
-{
-    using Page = AbstractViewController;
-    connect(page->addButton, &QPushButton::clicked, this, &Page::addAction);
-    connect(page->editButton, &QPushButton::clicked, this, &Page::editAction);
-    connect(page->delButton, &QPushButton::clicked, this, &Page::deleteAction);
-    connect(page->table, &RecordTable::returnPressed, page->editButton, &QPushButton::click);
-    connect(page->table, &RecordTable::deletePressed, page->delButton, &QPushButton::click);
-    connect(panelParts->saveButton, &QPushButton::clicked, this, &Page::saveAction);
-    connect(panelParts->cancelButton, &QPushButton::clicked, this, &Page::cancelAction);
+    table->setFocus();
 }
 
 void AbstractViewController::awakeFromNib()
 {
     initLocalizables();
-    page->table->setAccessibleName(page->moduleBox->title());
     localInit();
     reloadData();
     setPermissions();
-    connect(page->table, &RecordTable::doubleClicked, this, &AbstractViewController::editAction);
+    connect(table, &RecordTable::doubleClicked, this, &AbstractViewController::editAction);
 }
 
-void AbstractViewController::initLocalizables()
+void AbstractViewController::setTitle(const QString &title, const QString &hint)
 {
-    page->addButton->setToolTip(qtTrId("Add"));
-    page->delButton->setToolTip(qtTrId("Delete"));
-    page->editButton->setToolTip(qtTrId("Edit"));
-    panelParts->cancelButton->setText(qtTrId("Cancel"));
-    panelParts->saveButton->setText(qtTrId("Save"));
+    page->moduleBox->setTitle(title);
+    table->setAccessibleName(title);
+    page->hintLabel->setText(hint);
+}
+
+void AbstractViewController::setColumns(const QList<RecordTable::Column> &columns)
+{
+    table->setRecords(*this, columns, u"Records/"_s + m_module.table);
 }
 
 void AbstractViewController::setPermissions()
@@ -85,18 +81,18 @@ bool AbstractViewController::mayView()
     page->refusedView->setHidden(isAllowed);
     m_isRefusalDue = !isAllowed;
     if (isVisible())
-        tellRefusal();
+        showRefusal();
     return isAllowed;
 }
 
-// Of a page in a tab that nobody has opened there is nothing to tell yet.
+// A refused page in a tab that has not been opened yet shows no message box.
 void AbstractViewController::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    QMetaObject::invokeMethod(this, &AbstractViewController::tellRefusal, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &AbstractViewController::showRefusal, Qt::QueuedConnection);
 }
 
-void AbstractViewController::tellRefusal()
+void AbstractViewController::showRefusal()
 {
     if (std::exchange(m_isRefusalDue, false))
         MiscTool::showAlert(qtTrId("NoPermissionAlert"), qtTrId("NoPermissionInfo"));
@@ -111,15 +107,15 @@ void AbstractViewController::addAction()
 
 void AbstractViewController::editAction()
 {
-    if (selectedRow() < 0)
+    if (table->selectedRecord() < 0)
         return;
     operation = Operation::EditRecord;
     setAllStatus(operation);
     showPanel(*page->editButton);
 }
 
-// A double click shows a record to those as well who may not edit it: they look at it, and cannot
-// save.
+// A double click opens the record even for users who may not edit it: they can look at it but not
+// save it.
 void AbstractViewController::showPanel(const QAbstractButton &starter)
 {
     panelParts->saveButton->setEnabled(starter.isEnabled());
@@ -146,12 +142,12 @@ void AbstractViewController::saveAction()
     panel->accept();
     focusTable();
     if (operation == Operation::AddRecord && newestID() > newestBefore)
-        selectID(newestID()); // otherwise it would be lost from sight in a long list
+        selectID(newestID()); // in a long list it would be out of sight
 }
 
 void AbstractViewController::deleteAction()
 {
-    if (selectedRow() < 0 || !deleteVerify())
+    if (table->selectedRecord() < 0 || !deleteVerify())
         return;
     auto *question = new QMessageBox(QMessageBox::Warning, page->moduleBox->title(),
                                      qtTrId("DelConfirm"), QMessageBox::NoButton, this);
@@ -161,26 +157,11 @@ void AbstractViewController::deleteAction()
     QPushButton *confirm = question->addButton(qtTrId("OK"), QMessageBox::AcceptRole);
     question->setEscapeButton(question->addButton(qtTrId("Cancel"), QMessageBox::RejectRole));
     question->setDefaultButton(confirm);
-    // The sheet keeps the selection as it is until it is answered.
-    connect(confirm, &QPushButton::clicked, this, [this] { deleteRecord(selectedRow()); });
+    // The question blocks the window, so the selection stays until it is answered.
+    connect(confirm, &QPushButton::clicked, this,
+            [this] { deleteRecord(table->selectedRecord()); });
     Mnemonics::keepUnique(question);
     question->open();
-}
-
-int AbstractViewController::selectedRow() const
-{
-    return page->table->selectedRow();
-}
-
-void AbstractViewController::selectRow(int row)
-{
-    page->table->selectRecord(row);
-}
-
-void AbstractViewController::reloadTable()
-{
-    m_model->reloadData();
-    page->table->fitColumns();
 }
 
 QWidget *AbstractViewController::form() const
@@ -193,4 +174,9 @@ bool AbstractViewController::refuse(QWidget &field, const char *messageKey)
     field.setFocus();
     MiscTool::showAlert(qtTrId(messageKey), QString());
     return false;
+}
+
+QString AbstractViewController::shownText(const QString &stored)
+{
+    return MiscTool::decodeFromUTF8(stored).value_or(QString());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BLGeneral.h"
-#include "RecordTableModel.h"
+#include "RecordTable.h"
 
 #include <QWidget>
 
@@ -18,25 +18,27 @@ class QDialog;
 class QPushButton;
 
 /// The page of one table: lists its records and edits them in a sheet on the window that shows the
-/// page. What all pages do alike stands here, what needs the record's class in
-/// RecordViewController.h; a page adds its fields, its checks and the columns of its table:
+/// page. This class does what is the same on all pages, RecordViewController.h what depends on the
+/// record's class. A page adds its fields, its checks and the columns of its table:
 ///
-/// 1. derive from RecordViewController<YourSchema>, naming the table and the codes of its rights;
+/// 1. derive from RecordViewController<YourSchema> and name the table and the codes of its rights;
 /// 2. override initLocalizables(), getSchema(), verify(), setAllStatus() and
 ///    objectValueForTableColumn();
-/// 3. lay the fields out in resources/interface, and put them into form();
+/// 3. lay out the fields in resources/interface, and put them into form();
 /// 4. call awakeFromNib() last in the constructor, and add the page to RecordWindow.
 ///
-/// Refusals and faults that the user can mend are shown in one message box each.
+/// A refusal, or an error that the user can correct, is shown in a message box.
 class AbstractViewController : public QWidget, public RecordTableSource
 {
     Q_OBJECT
 
 public:
+    /// What the sheet is open for. ViewRecord fills the fields like EditRecord, but saving fails;
+    /// no button leads to it.
     enum class Operation { None, AddRecord, EditRecord, ViewRecord };
     Q_ENUM(Operation)
 
-    /// Which table the page edits, and the codes of the rights that it asks for, see SessionRights.
+    /// The table that the page edits, and the codes of the rights for it, see SessionRights.
     struct Module {
         QLatin1String table;
         QLatin1String view, add, edit, remove;
@@ -45,56 +47,70 @@ public:
     ~AbstractViewController() override;
 
     Operation operation = Operation::None; ///< Keeps its last value after the sheet has closed.
-    std::unique_ptr<BLGeneral> blGeneral; ///< None on a page that the user may not see.
+    /// The gateway of the table. Null on a page that the user may not see; it then saves nothing.
+    std::unique_ptr<BLGeneral> blGeneral;
 
-    virtual void reloadData() = 0; ///< Asks for the right to see the page, then loads the records.
+    virtual void reloadData() = 0; ///< Checks the right to see the page, then loads the records.
     void focusTable();
     void addAction();
-    void editAction(); ///< Nothing where no row is selected.
-    void deleteAction(); ///< Asks first. Nothing where no row is selected.
+    void editAction(); ///< Does nothing if no row is selected.
+    void deleteAction(); ///< Asks first. Does nothing if no row is selected.
+    /// Checks the fields, then saves and closes the sheet. After an error the sheet stays open with
+    /// what was typed.
     void saveAction();
     void cancelAction();
 
 protected:
+    /// The page is ready for use only after awakeFromNib().
     AbstractViewController(const Module &module, QWidget *parent);
 
     void showEvent(QShowEvent *event) override;
 
+    /// Use these two in initLocalizables().
+    void setTitle(const QString &title, const QString &hint);
+    void setColumns(const QList<RecordTable::Column> &columns);
+
+    /// Sets the page up: calls the three hooks below, and reloadData() before the last of them.
     void awakeFromNib();
-    virtual void initLocalizables();
+    /// Sets the texts and columns that are not in the interface description.
+    virtual void initLocalizables() { }
+    /// Loads what the sheet offers for choice. It may be called again before the sheet opens.
     virtual void localInit() { }
     /// Disables what the user may not do; nothing is enabled again while the page lives.
     virtual void setPermissions();
     /// Prepares the sheet's fields for the operation.
     virtual void setAllStatus(Operation status) = 0;
-    /// Whether the sheet's fields may be saved; says in a message box what is wrong first.
+    /// Whether the sheet's fields may be saved. If not, a message box names the first error.
     virtual bool verify() = 0;
+    /// Whether the selected record may be deleted. If not, a message box gives the reason.
     virtual bool deleteVerify() { return true; }
-    virtual bool writeRecord() = 0; ///< What the operation says; false where it failed.
-    virtual void deleteRecord(int row) = 0;
-    virtual int newestID() const = 0; ///< The highest of all records; 0 without records.
-    virtual void selectID(int ID) = 0;
+    /// Inserts or updates the record, depending on the operation; false on failure.
+    virtual bool writeRecord() = 0;
+    virtual void deleteRecord(int row) = 0; ///< A failure is not reported; the row stays.
+    virtual int newestID() const = 0; ///< The highest ID of the records; 0 if there are none.
+    virtual void selectID(int ID) = 0; ///< Does nothing if no record has this ID.
 
-    /// Whether the user may see the page, which is hidden otherwise, and says so once it is open.
+    /// Whether the user may see the page. If not, it is hidden, and a message box says so once the
+    /// user opens it.
     bool mayView();
-    int selectedRow() const; ///< The position in the list of records, -1 for none.
-    void selectRow(int row);
-    void reloadTable();
-    QWidget *form() const; ///< The sheet's room for fields.
-    /// Focuses the field and shows the message of the key. Always false, so that verify() can end
-    /// with it.
+    QWidget *form() const; ///< The part of the sheet that holds the fields.
+    /// Focuses the field and shows the message. Always false, so that verify() can return it.
     static bool refuse(QWidget &field, const char *messageKey);
 
+    /// The limit of a record's texts, in UTF-16 units before percent-escaping.
+    static constexpr qsizetype maxTextLength = 100;
+    /// Undoes the percent-escapes of a stored text; empty if they are not valid UTF-8.
+    static QString shownText(const QString &stored);
+
     const Module m_module;
-    RecordTableModel *m_model;
     std::unique_ptr<Ui::AbstractViewController> page;
+    RecordTable *table;
     QDialog *panel; ///< The sheet.
     std::unique_ptr<Ui::RecordPanel> panelParts;
 
 private:
-    void connectActions();
     void showPanel(const QAbstractButton &starter);
-    void tellRefusal();
+    void showRefusal();
 
     bool m_isRefusalDue = false;
 };

@@ -75,5 +75,5 @@ void LoginDelegate::hideEvent(QHideEvent *event)
 {
     QWidget::hideEvent(event);
     if (!event->spontaneous())
-        ui->passwordField->clear(); // it is not left behind for whoever opens the window next
+        ui->passwordField->clear(); // the next person to open the window must not find it
 }

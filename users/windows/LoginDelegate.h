@@ -11,8 +11,8 @@ class LoginWindow;
 
 class UserSchema;
 
-/// The login window: the application's name, a user name and a password. Hidden at start; the tools
-/// need no login. A login that is refused shakes the window and says nothing more.
+/// The login window: the application's name, a user name and a password. It is hidden at start, as
+/// the tools need no login. A refused login shakes the window; no message gives the reason.
 class LoginDelegate : public QWidget
 {
     Q_OBJECT
@@ -21,15 +21,15 @@ public:
     explicit LoginDelegate(QWidget *parent = nullptr);
     ~LoginDelegate() override;
 
-    QWidget *mainWindow = nullptr; ///< Takes the user's name as its title; may be missing.
+    QWidget *mainWindow = nullptr; ///< Its title becomes the user's name; may be null.
 
-    void userAction(); ///< The name is typed: on to the password.
+    void userAction(); ///< Moves the focus to the password.
     void loginAction();
 
     static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
 
 Q_SIGNALS:
-    void loggedIn(); ///< The session's user is another one now.
+    void loggedIn(); ///< The session has a new user.
 
 protected:
     void showEvent(QShowEvent *event) override;

@@ -2,29 +2,47 @@
 
 #include <QTableView>
 
-class RecordTableModel;
+class QAbstractProxyModel;
 
-/// The table of a record page: whole rows, one selected at most, sorted by a click on a column, a
-/// third click gives the order of loading back. The columns first fit their contents; what the user
-/// makes of them is remembered.
+/// The page that supplies the rows of a record table.
+class RecordTableSource
+{
+public:
+    virtual int numberOfRowsInTableView() const = 0;
+    /// The text of one cell. The row is the record's position in the page's list, whatever order
+    /// the table shows.
+    virtual QString objectValueForTableColumn(const QString &column, int row) = 0;
+
+protected:
+    ~RecordTableSource() = default;
+};
+
+/// The table of a record page. At most one row is selected. A click on a header sorts by that
+/// column, a second one reverses the order, a third one restores the order in which the records
+/// were loaded. Rows are given to callers by the record's position in that order.
 class RecordTable : public QTableView
 {
     Q_OBJECT
-    /// What an empty table says.
+    /// Shown in place of rows while there are none.
     Q_PROPERTY(QString emptyText MEMBER m_emptyText)
 
 public:
+    struct Column {
+        QString identifier; ///< What the source is called with.
+        QString title;
+    };
+
     explicit RecordTable(QWidget *parent = nullptr);
 
-    /// The name under which the user's settings keep the columns.
-    void setRecords(RecordTableModel &model, const QString &settingsName);
+    /// Shows the records of the source, which must outlive the table. Column widths that the user
+    /// changes are kept in the settings under this name. Call it once.
+    void setRecords(RecordTableSource &source, const QList<Column> &columns,
+                    const QString &settingsName);
+    /// Reads all rows again and keeps the order. The selection is lost.
+    void reloadRecords();
 
-    int selectedRow() const; ///< The record row, see RecordTableModel; -1 where none is selected.
-    void selectRecord(int recordRow);
-
-    /// Gives the columns the widths that the user chose, or else those of the first rows' texts.
-    /// Does so once, as soon as there are rows.
-    void fitColumns();
+    int selectedRecord() const; ///< -1 if none is selected.
+    void selectRecord(int record); ///< Scrolls to it. Nothing if there is no such record.
 
 Q_SIGNALS:
     void returnPressed();
@@ -35,11 +53,11 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    const RecordTableModel &records() const;
-    void rememberWidth(int column, int oldWidth, int newWidth);
+    void fitColumns();
     QString widthKey(int column) const;
 
     QString m_emptyText;
     QString m_settingsName;
-    bool m_columnsFit = false;
+    QAbstractProxyModel *m_rows = nullptr; ///< Between the table's rows and the records.
+    bool m_areColumnsFitted = false;
 };

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "AbstractViewController.h"
+#include "MiscTool.h"
 
 #include <algorithm>
 
-/// What a record page does with records of its class: loading, saving and deleting, in the shape
-/// that all pages share.
+/// Loads, saves and deletes records of the page's class, in the way that all pages do. Rows are
+/// positions in `data`, whatever order the table shows.
 template <RecordClass Record>
 class RecordViewController : public AbstractViewController
 {
@@ -14,14 +15,15 @@ public:
 
     int numberOfRowsInTableView() const override { return int(data.size()); }
 
+    /// The record that was selected is selected again if it still exists.
     void reloadData() override
     {
         if (!mayView())
             return;
-        const int row = selectedRow();
+        const int row = table->selectedRecord();
         const std::optional<int> selected = row < 0 ? std::nullopt : std::optional(data[row].ID);
         loadRecords();
-        reloadTable();
+        table->reloadRecords();
         if (selected)
             selectID(*selected);
     }
@@ -29,16 +31,17 @@ public:
 protected:
     using AbstractViewController::AbstractViewController;
 
-    /// A new record from the sheet's fields, `ID` and `ShopID` 0.
+    /// A new record from the sheet's fields, with `ID` and `ShopID` 0.
     virtual Record getSchema() = 0;
 
+    /// Fills `data`. A select that fails gives an empty list.
     virtual void loadRecords()
     {
         blGeneral = std::make_unique<BLGeneral>(QString(m_module.table));
         data = blGeneral->select("1=1", Record{}).value_or(QList<Record>());
     }
 
-    /// The record that replaces the one with this key.
+    /// The record that replaces the one with this key: the sheet's fields, under the same key.
     virtual Record editedRecord(int ID)
     {
         Record record = getSchema();
@@ -46,22 +49,24 @@ protected:
         return record;
     }
 
-    /// Whether any record of the table satisfies the condition.
-    bool isTaken(const QString &whereClause)
+    /// Whether the column of any record in the table holds the text, which is escaped first.
+    bool isTaken(QLatin1String column, const QString &text)
     {
         if (!blGeneral)
             return false;
-        const auto found = blGeneral->select(whereClause, Record{});
+        const QString clause = column + QLatin1String("='") + MiscTool::encode2UTF8(text) + u'\'';
+        const auto found = blGeneral->select(clause, Record{});
         return found && !found->isEmpty();
     }
 
+    /// Fails without a gateway, without a selected row, and for Operation::ViewRecord.
     bool writeRecord() override
     {
         if (!blGeneral)
             return false;
         if (operation == Operation::AddRecord)
             return blGeneral->insert(getSchema());
-        const int row = selectedRow();
+        const int row = table->selectedRecord();
         if (operation != Operation::EditRecord || row < 0)
             return false;
         return blGeneral->update(editedRecord(data[row].ID));
@@ -73,7 +78,7 @@ protected:
             || !blGeneral->delete_(QStringLiteral("ID=") + QString::number(data[row].ID)))
             return;
         data.removeAt(row);
-        reloadTable();
+        table->reloadRecords();
     }
 
     int newestID() const override
@@ -86,6 +91,6 @@ protected:
     {
         const auto found = std::ranges::find(data, ID, &Record::ID);
         if (found != data.end())
-            selectRow(int(found - data.begin()));
+            table->selectRecord(int(found - data.begin()));
     }
 };

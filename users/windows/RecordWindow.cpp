@@ -41,14 +41,14 @@ RecordWindow *RecordWindow::openOf(const QWidget &owner)
 {
     const auto windows = owner.findChildren<RecordWindow *>(Qt::FindDirectChildrenOnly);
     for (RecordWindow *window : windows) {
-        if (window->isVisible()) // one that was closed lives on for a moment
+        if (window->isVisible()) // a closed one still exists for a moment
             return window;
     }
     return nullptr;
 }
 
-// The groups come first: their page makes the store local, which the users' page takes as it is
-// when it fills its pop-up.
+// The groups come first: their page opens the local store, and the users' page uses the store as it
+// is when it fills its pop-up.
 RecordWindow::RecordWindow(QWidget &owner)
     : QWidget(&owner, Qt::Window), ui(std::make_unique<Ui::RecordWindow>())
 {

@@ -9,8 +9,8 @@ namespace Ui
 class RecordWindow;
 }
 
-/// The window with the record pages. They are made when it opens, so that they show what the user
-/// may do who is logged in then, and are gone when it closes. Remembers its place and size.
+/// The window with the record pages. They are created when it opens, so that they follow the rights
+/// of the user who is logged in then, and deleted when it closes. It remembers its place and size.
 class RecordWindow : public QWidget
 {
     Q_OBJECT
@@ -18,9 +18,10 @@ class RecordWindow : public QWidget
 public:
     enum class Page { UserGroups, Users, Stock };
 
-    /// Brings the owner's record window to the front, made anew unless it is open, with this page.
+    /// Shows this page in the owner's record window and brings that to the front. A window that is
+    /// not open is created.
     static void open(Page page, QWidget &owner);
-    /// Closes it, if it is open, with whatever is typed there.
+    /// Closes the window if it is open; text typed there is lost.
     static void closeOf(const QWidget &owner);
 
     ~RecordWindow() override;

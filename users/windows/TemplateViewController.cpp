@@ -8,23 +8,21 @@
 
 using namespace Qt::StringLiterals;
 
-// The page opens with the right to see users, not with one of its own module's.
+// The page opens with the right to see users, not with a right of its own module.
 TemplateViewController::TemplateViewController(QWidget *parent)
     : RecordViewController(
         {.table = "Stock"_L1, .view = "B"_L1, .add = "F2"_L1, .edit = "F3"_L1, .remove = "F4"_L1},
         parent)
 {
     setObjectName(u"TemplateViewController"_s);
-    page->table->verticalHeader()->show(); // a number is all that tells the rows apart
+    table->verticalHeader()->show(); // only a number distinguishes the rows
     awakeFromNib();
 }
 
 void TemplateViewController::initLocalizables()
 {
-    RecordViewController::initLocalizables();
-    page->hintLabel->setText(qtTrId("Stock.Hint"));
-    page->moduleBox->setTitle(qtTrId("Stock"));
-    m_model->setColumns({{u"Stock"_s, qtTrId("Stock.Column")}});
+    setTitle(qtTrId("Stock"), qtTrId("Stock.Hint"));
+    setColumns({{u"Stock"_s, qtTrId("Stock.Column")}});
     auto *hint = new HintLabel(qtTrId("Stock.Blank"), form());
     (new QVBoxLayout(form()))->addWidget(hint);
 }
@@ -52,7 +50,7 @@ void TemplateViewController::setAllStatus(Operation status)
     if (status == Operation::AddRecord)
         localInit();
     else if (status != Operation::None)
-        schema = data.value(selectedRow());
+        schema = data.value(table->selectedRecord());
 }
 
 void TemplateViewController::deleteRecord(int row)

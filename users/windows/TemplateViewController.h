@@ -3,9 +3,9 @@
 #include "RecordViewController.h"
 #include "UserSchema.h"
 
-/// The skeleton of a record page, over the table "Stock": the whole cycle of adding, editing and
-/// deleting, with no field and no text in its rows. A page made from it replaces the class of
-/// `schema` and fills the fields in.
+/// A skeleton for further record pages, on the table "Stock": it adds, edits and deletes records
+/// but has no fields and shows no text in its rows. A page made from it replaces the class of
+/// `schema` and adds the fields.
 class TemplateViewController : public RecordViewController<UserSchema>
 {
     Q_OBJECT

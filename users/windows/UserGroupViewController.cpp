@@ -1,7 +1,5 @@
 #include "UserGroupViewController.h"
 
-#include "PermissionBoxes.h"
-#include "ShownText.h"
 #include "UserSchema.h"
 #include "ui_AbstractViewController.h"
 #include "ui_UserGroupForm.h"
@@ -19,7 +17,13 @@ namespace
 constexpr auto nameColumn = "Name"_L1;
 constexpr auto memoColumn = "Memo"_L1;
 
-constexpr int widestTabs = 900;
+constexpr int maxTabsWidth = 900;
+
+/// The code of the right that a check box is for.
+QString codeOf(const QCheckBox *box)
+{
+    return box->property("identifier").toString();
+}
 
 } // namespace
 
@@ -41,12 +45,8 @@ UserGroupViewController::~UserGroupViewController() = default;
 
 void UserGroupViewController::initLocalizables()
 {
-    RecordViewController::initLocalizables();
-    page->hintLabel->setText(qtTrId("UserGroup.Hint"));
-    page->moduleBox->setTitle(qtTrId("UserGroup"));
-    m_model->setColumns({{nameColumn, qtTrId("Name")}, {memoColumn, qtTrId("Memo")}});
-    ui->nameLabel->setText(qtTrId("Name"));
-    ui->memoLabel->setText(qtTrId("Memo"));
+    setTitle(qtTrId("UserGroup"), qtTrId("UserGroup.Hint"));
+    setColumns({{nameColumn, qtTrId("Name")}, {memoColumn, qtTrId("Memo")}});
     constexpr const char *modules[] = {QT_TRID_NOOP("UserGroup"), QT_TRID_NOOP("User"),
                                        QT_TRID_NOOP("Category"),  QT_TRID_NOOP("Provider"),
                                        QT_TRID_NOOP("Product"),   QT_TRID_NOOP("Inventory")};
@@ -54,8 +54,8 @@ void UserGroupViewController::initLocalizables()
                                       QT_TRID_NOOP("Edit"), QT_TRID_NOOP("Delete")};
     for (int tab = 0; tab < ui->tabView->count(); ++tab)
         ui->tabView->setTabText(tab, qtTrId(modules[tab]) + u' ' + qtTrId("Permission"));
-    // All tabs in sight; in a large font or a long language they scroll.
-    ui->tabView->setMinimumWidth(std::min(ui->tabView->tabBar()->sizeHint().width(), widestTabs));
+    // All tabs are in sight, unless a large font or a long language makes them scroll.
+    ui->tabView->setMinimumWidth(std::min(ui->tabView->tabBar()->sizeHint().width(), maxTabsWidth));
     for (int i = 0; QCheckBox * box : boxes())
         box->setText(qtTrId(rights[i++ % 4]));
 }
@@ -68,29 +68,28 @@ void UserGroupViewController::setPermissions()
 
 QList<QCheckBox *> UserGroupViewController::boxes() const
 {
-    return {ui->userGroupViewCB, ui->userGroupAddCB, ui->userGroupEditCB, ui->userGroupDeleteCB,
-            ui->userViewCB,      ui->userAddCB,      ui->userEditCB,      ui->userDeleteCB,
-            ui->categoryViewCB,  ui->categoryAddCB,  ui->categoryEditCB,  ui->categoryDeleteCB,
-            ui->providerViewCB,  ui->providerAddCB,  ui->providerEditCB,  ui->providerDeleteCB,
-            ui->productViewCB,   ui->productAddCB,   ui->productEditCB,   ui->productDeleteCB,
-            ui->inventoryViewCB, ui->inventoryAddCB, ui->inventoryEditCB, ui->inventoryDeleteCB};
+    QList<QCheckBox *> boxes = ui->tabView->findChildren<QCheckBox *>();
+    std::ranges::sort(boxes, {}, codeOf);
+    return boxes;
 }
 
 void UserGroupViewController::loadRecords()
 {
     RecordViewController::loadRecords();
     if (data.isEmpty())
-        makeDefaultGroup();
+        insertDefaultGroup();
 }
 
-void UserGroupViewController::makeDefaultGroup()
+void UserGroupViewController::insertDefaultGroup()
 {
     UserGroupSchema group;
     group.Name = MiscTool::encode2UTF8(qtTrId("DefaultUserGroup"));
     group.Memo = MiscTool::encode2UTF8(qtTrId("DefaultUserGroupMemo"));
-    group.Permission = PermissionBoxes::allCodes(m_permissionCBs);
+    group.Permission = u""_s;
+    for (const QCheckBox *box : std::as_const(m_permissionCBs))
+        group.Permission += codeOf(box);
     if (blGeneral->insert(group))
-        data.append(group); // without the key that the table gave it, until the next loading
+        data.append(group); // its key stays 0 until the next loading
 }
 
 UserGroupSchema UserGroupViewController::getSchema()
@@ -98,7 +97,9 @@ UserGroupSchema UserGroupViewController::getSchema()
     UserGroupSchema group;
     group.Name = MiscTool::encode2UTF8(ui->nameField->text());
     group.Memo = MiscTool::encode2UTF8(ui->memoField->text());
-    group.Permission = PermissionBoxes::checkedCodes(m_permissionCBs);
+    group.Permission = u""_s;
+    for (const QCheckBox *box : std::as_const(m_permissionCBs))
+        group.Permission += box->isChecked() ? codeOf(box) : QString();
     return group;
 }
 
@@ -107,10 +108,9 @@ bool UserGroupViewController::verify()
     const QString name = ui->nameField->text();
     if (name.isEmpty())
         return refuse(*ui->nameField, "UserGroupNullAlert");
-    if (name.size() > ShownText::maximumLength)
+    if (name.size() > maxTextLength)
         return refuse(*ui->nameField, "UserGroupOverLenAlert");
-    if (operation == Operation::AddRecord
-        && isTaken(u"Name='"_s + MiscTool::encode2UTF8(name) + u'\''))
+    if (operation == Operation::AddRecord && isTaken(nameColumn, name))
         return refuse(*ui->nameField, "UserGroupExistAlert");
     return true;
 }
@@ -121,22 +121,27 @@ void UserGroupViewController::setAllStatus(Operation status)
         ui->nameField->clear();
         ui->nameField->setFocus();
         ui->memoField->clear();
-        PermissionBoxes::uncheckAll(m_permissionCBs);
+        for (QCheckBox *box : std::as_const(m_permissionCBs))
+            box->setChecked(false);
     } else if (status != Operation::None) {
-        const UserGroupSchema group = data.value(selectedRow());
-        ui->nameField->setText(ShownText::of(group.Name));
+        const UserGroupSchema group = data.value(table->selectedRecord());
+        ui->nameField->setText(shownText(group.Name));
         ui->nameField->setFocus();
-        ui->memoField->setText(ShownText::of(group.Memo));
-        PermissionBoxes::checkHeld(m_permissionCBs, group.Permission);
+        ui->memoField->setText(shownText(group.Memo));
+        // Boxes without a code in it stay as they are, even if they were checked for another group.
+        for (QCheckBox *box : std::as_const(m_permissionCBs)) {
+            if (group.Permission.contains(codeOf(box)))
+                box->setChecked(true);
+        }
     }
 }
 
 bool UserGroupViewController::deleteVerify()
 {
-    if (selectedRow() < 0)
+    if (table->selectedRecord() < 0)
         return true;
     BLGeneral users(u"User"_s);
-    const QString ofGroup = u"UserGroupID="_s + QString::number(data[selectedRow()].ID);
+    const QString ofGroup = u"UserGroupID="_s + QString::number(data[table->selectedRecord()].ID);
     const auto found = users.select(ofGroup, UserSchema{});
     if (!found || found->isEmpty())
         return true;
@@ -147,8 +152,8 @@ bool UserGroupViewController::deleteVerify()
 QString UserGroupViewController::objectValueForTableColumn(const QString &column, int row)
 {
     if (column == nameColumn)
-        return ShownText::of(data[row].Name);
+        return shownText(data[row].Name);
     if (column == memoColumn)
-        return ShownText::of(data[row].Memo);
+        return shownText(data[row].Memo);
     return {};
 }

@@ -10,8 +10,8 @@ class UserGroupForm;
 
 class QCheckBox;
 
-/// The user groups, and in the sheet what each of them may do. Makes a first group where there is
-/// none, and keeps a group that still has users.
+/// The page of the user groups; the sheet holds their rights too. Creates a first group if there is
+/// none, and refuses to delete a group that still has users.
 class UserGroupViewController : public RecordViewController<UserGroupSchema>
 {
     Q_OBJECT
@@ -32,11 +32,11 @@ protected:
     void loadRecords() override;
 
 private:
-    QList<QCheckBox *> boxes() const;
-    void makeDefaultGroup();
+    QList<QCheckBox *> boxes() const; ///< In the order of their codes.
+    void insertDefaultGroup();
 
     std::unique_ptr<Ui::UserGroupForm> ui;
-    /// The 24 boxes in the order in which their codes are stored. Filled after the first loading,
-    /// so that the default group which that makes holds no right.
+    /// All boxes in the order in which their codes are stored. Filled after the first loading,
+    /// so a default group that is created then has no rights.
     QList<QCheckBox *> m_permissionCBs;
 };

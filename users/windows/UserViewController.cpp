@@ -1,10 +1,13 @@
 #include "UserViewController.h"
 
-#include "GroupPopUp.h"
-#include "ShownText.h"
 #include "UserGroupSchema.h"
 #include "ui_AbstractViewController.h"
 #include "ui_UserForm.h"
+
+#include <QHash>
+
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -32,54 +35,66 @@ UserViewController::~UserViewController() = default;
 
 void UserViewController::initLocalizables()
 {
-    RecordViewController::initLocalizables();
-    page->hintLabel->setText(qtTrId("User.Hint"));
-    page->moduleBox->setTitle(qtTrId("User"));
-    m_model->setColumns({{userColumn, qtTrId("User")}, {memoColumn, qtTrId("Memo")}});
-    ui->userGroupLabel->setText(qtTrId("UserGroup"));
-    ui->userLabel->setText(qtTrId("User"));
-    ui->passwordLabel->setText(qtTrId("Password"));
-    ui->rePasswordLabel->setText(qtTrId("RePassword"));
-    ui->memoLabel->setText(qtTrId("Memo"));
+    setTitle(qtTrId("User"), qtTrId("User.Hint"));
+    setColumns({{userColumn, qtTrId("User")}, {memoColumn, qtTrId("Memo")}});
     localInit();
 }
 
+// A title that the pop-up already has moves to the end; items of groups that no longer exist stay.
+// This works on a list first: finding each title in the pop-up takes a time that grows with the
+// square of the number of groups.
 void UserViewController::localInit()
 {
-    BLGeneral groups(u"UserGroup"_s);
-    const auto all = groups.select("1=1", UserGroupSchema{});
-    ui->userGroupPopUp->addGroups(all.value_or(QList<UserGroupSchema>()));
+    QComboBox &popUp = *ui->userGroupPopUp;
+    QList<std::pair<QString, int>> items;
+    for (int i = 0; i < popUp.count(); ++i)
+        items.append({popUp.itemText(i), popUp.itemData(i).toInt()});
+    const QList<UserGroupSchema> groups = BLGeneral(u"UserGroup"_s)
+                                              .select("1=1", UserGroupSchema{})
+                                              .value_or(QList<UserGroupSchema>());
+    for (const UserGroupSchema &group : groups)
+        items.append({shownText(group.Name), group.ID});
+
+    QHash<QString, qsizetype> lastPosition;
+    for (qsizetype i = 0; i < items.size(); ++i)
+        lastPosition[items[i].first] = i;
+    popUp.clear();
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        const auto &[title, ID] = items[i];
+        if (lastPosition[title] == i)
+            popUp.addItem(title, ID);
+    }
+    popUp.setCurrentIndex(std::min(popUp.count() - 1, 0));
 }
 
 UserSchema UserViewController::getSchema()
 {
     const bool isGroupShown = ui->userGroupPopUp->currentIndex() >= 0;
     UserSchema user;
-    user.UserGroupID = isGroupShown ? ui->userGroupPopUp->selectedTag() : m_unlistedGroup;
+    user.UserGroupID = isGroupShown ? ui->userGroupPopUp->currentData().toInt() : m_unlistedGroup;
     user.User = MiscTool::encode2UTF8(ui->userField->text());
     user.Password = MiscTool::encode2UTF8(ui->passwordField->text());
     user.Memo = MiscTool::encode2UTF8(ui->memoField->text());
     return user;
 }
 
-// It is the label beside the password that is measured, so an empty password passes; such a user
-// cannot log in.
+// The label beside the password is measured, not the password, so an empty password passes. Such a
+// user cannot log in.
 bool UserViewController::verify()
 {
     const QString name = ui->userField->text();
     const QString passwordLabel = ui->passwordLabel->text();
     if (name.isEmpty())
         return refuse(*ui->userField, "UserNullAlert");
-    if (name.size() > ShownText::maximumLength)
+    if (name.size() > maxTextLength)
         return refuse(*ui->userField, "UserOverLenAlert");
     if (passwordLabel.isEmpty())
         return refuse(*ui->passwordField, "PasswordNullAlert");
-    if (passwordLabel.size() > ShownText::maximumLength)
+    if (passwordLabel.size() > maxTextLength)
         return refuse(*ui->passwordField, "PasswordOverLenAlert");
     if (ui->passwordField->text() != ui->rePasswordField->text())
         return refuse(*ui->rePasswordField, "PasswordNotSameAlert");
-    if (operation == Operation::AddRecord
-        && isTaken(u"User='"_s + MiscTool::encode2UTF8(name) + u'\''))
+    if (operation == Operation::AddRecord && isTaken(userColumn, name))
         return refuse(*ui->userField, "UserExistAlert");
     return true;
 }
@@ -89,7 +104,7 @@ void UserViewController::setAllStatus(Operation status)
     if (status == Operation::AddRecord)
         fillForAdding();
     else if (status != Operation::None)
-        fillFrom(data.value(selectedRow()));
+        fillFrom(data.value(table->selectedRecord()));
 }
 
 void UserViewController::fillForAdding()
@@ -109,27 +124,27 @@ void UserViewController::fillFrom(const UserSchema &user)
     selectGroupFor(user);
     ui->userGroupPopUp->setFocus(); // the first control that takes input
     ui->userField->setReadOnly(true);
-    ui->userField->setText(ShownText::of(user.User));
-    ui->passwordField->setText(ShownText::of(user.Password));
-    ui->rePasswordField->setText(ShownText::of(user.Password));
-    ui->memoField->setText(ShownText::of(user.Memo));
+    ui->userField->setText(shownText(user.User));
+    ui->passwordField->setText(shownText(user.Password));
+    ui->rePasswordField->setText(shownText(user.Password));
+    ui->memoField->setText(shownText(user.Memo));
 }
 
-// The item is looked up by the user's own key, not by that of the group. Where no item has it, the
-// user's group must survive the saving: its item is chosen, or none where it has none.
+// The item is looked up by the user's own key, not by that of the group. If no item has it, saving
+// must not change the user's group: its item is selected, or none if it has no item.
 void UserViewController::selectGroupFor(const UserSchema &user)
 {
     m_unlistedGroup = user.UserGroupID;
-    const int byUser = ui->userGroupPopUp->indexOfItemWithTag(user.ID);
+    const int byUser = ui->userGroupPopUp->findData(user.ID);
     ui->userGroupPopUp->setCurrentIndex(
-        byUser >= 0 ? byUser : ui->userGroupPopUp->indexOfItemWithTag(user.UserGroupID));
+        byUser >= 0 ? byUser : ui->userGroupPopUp->findData(user.UserGroupID));
 }
 
 QString UserViewController::objectValueForTableColumn(const QString &column, int row)
 {
     if (column == userColumn)
-        return ShownText::of(data[row].User);
+        return shownText(data[row].User);
     if (column == memoColumn)
-        return ShownText::of(data[row].Memo);
+        return shownText(data[row].Memo);
     return {};
 }

@@ -8,8 +8,8 @@ namespace Ui
 class UserForm;
 }
 
-/// The users, and in the sheet their group, name, password and memo. A user who was opened for
-/// editing keeps the name: from then on the field takes no input, in later additions too.
+/// The page of the users; the sheet holds their group, name, password and memo. Once a user has
+/// been opened for editing, the name field is read-only, even when users are added later.
 class UserViewController : public RecordViewController<UserSchema>
 {
     Q_OBJECT
@@ -22,7 +22,9 @@ public:
 
 protected:
     void initLocalizables() override;
-    void localInit() override; ///< Adds the groups to the pop-up.
+    /// Adds the groups to the pop-up: an item for each, with the group's name and its `ID` as data.
+    /// Of two groups with the same name only the later one has an item.
+    void localInit() override;
     void setAllStatus(Operation status) override;
     UserSchema getSchema() override;
     bool verify() override;
@@ -33,5 +35,5 @@ private:
     void selectGroupFor(const UserSchema &user);
 
     std::unique_ptr<Ui::UserForm> ui;
-    int m_unlistedGroup = 0; ///< The user's group while the pop-up shows none.
+    int m_unlistedGroup = 0; ///< The user's group if the pop-up shows none.
 };
