@@ -7,19 +7,18 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <cstdlib>
-#include <memory>
+#include <filesystem>
 
 namespace standin
 {
 
 std::string resolved(const std::string &path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
-                                                           &std::free);
-    if (!real)
-        failWithError(path, errno);
-    return real.get();
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    if (error)
+        failWithError(path, error.value());
+    return real.string();
 }
 
 void requireRegularFile(const std::string &path)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "BigEndian.h"
 #include "HfsFormat.h"
 
 #include <ctime>

@@ -4,7 +4,7 @@
 
 #include "HfsBTree.h"
 #include "HfsNames.h"
-#include "HfsRecords.h"
+#include "HfsFormat.h"
 #include "HybridImage.h"
 #include "ImageFile.h"
 #include "ImageTrial.h"
@@ -18,7 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-class HfsPartsTest : public QObject
+class TestHfsParts : public QObject
 {
     Q_OBJECT
 
@@ -128,5 +128,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(HfsPartsTest)
-#include "HfsPartsTest.moc"
+QTEST_GUILESS_MAIN(TestHfsParts)
+#include "tst_hfs_parts.moc"

@@ -1,10 +1,11 @@
-#include "HfsRecords.h"
+#include "HfsFormat.h"
 
 #include <algorithm>
 #include <limits>
 
 namespace hfs
 {
+
 namespace
 {
 
@@ -25,15 +26,13 @@ constexpr std::uint16_t linkMode = 0120000;
 constexpr std::uint32_t linkType = 0x736C6E6B; // 'slnk'
 constexpr std::uint32_t linkCreator = 0x72686170; // 'rhap'
 
-constexpr std::size_t forkSize = 80;
-
 std::uint32_t clampedDate(std::int64_t seconds)
 {
     constexpr std::int64_t latest = std::numeric_limits<std::uint32_t>::max();
     return static_cast<std::uint32_t>(std::clamp<std::int64_t>(seconds, 0, latest));
 }
 
-// Whoever opens the image is not the one who made it: all may read what he could.
+// Whoever opens the image is not the one who made it: all may read what that person could.
 std::uint16_t modeOf(const Item &item)
 {
     switch (item.kind) {
@@ -112,7 +111,13 @@ std::uint32_t localDateFrom(std::time_t time)
     return clampedDate(std::int64_t{dateFrom(time)} + local.tm_gmtoff);
 }
 
-// "Fork Data Structure"; an empty fork has no extent.
+Item itemFrom(ItemKind kind, const struct stat &status)
+{
+    return {.kind = kind,
+            .permissions = static_cast<std::uint16_t>(status.st_mode & 0777),
+            .modified = dateFrom(status.st_mtime)};
+}
+
 void appendFork(Bytes &out, const Fork &fork, std::uint32_t clumpSize)
 {
     BigEndianWriter writer(out);
