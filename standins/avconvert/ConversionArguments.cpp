@@ -85,7 +85,7 @@ List audioEncoding(const Preset &preset, const std::string &which)
 
 bool canBeHeld(const MediaStream &stream, const Media &media)
 {
-    // AVI files do not say when such a picture is shown, an MPEG-4 file has to.
+    // AVI files do not give the time of such a picture, which an MPEG-4 file needs.
     const bool timeIsMissing = media.format == "avi" && stream.isReordered
         && (stream.codec == "h264" || stream.codec == "hevc");
     static constexpr std::string_view codecs[] = {
@@ -105,7 +105,7 @@ List videoCopy(const MediaStream &video)
 }
 
 // Copies what an MPEG-4 file can hold. The rest is encoded at the best preset rather than left out:
-// a video that lost its sound is no success.
+// a video that lost its sound is not a success.
 List passThrough(const Media &media)
 {
     const Preset &best = *findPreset("PresetHighestQuality");

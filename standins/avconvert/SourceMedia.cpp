@@ -36,6 +36,19 @@ MediaStream streamFrom(const QJsonObject &object)
     return stream;
 }
 
+// What is missing or of another type in ffprobe's JSON stays as it is in a new Media.
+Media parseMedia(const std::string &json)
+{
+    const QJsonObject root = QJsonDocument::fromJson(QByteArray::fromStdString(json)).object();
+    const QJsonObject format = root["format"_L1].toObject();
+    Media media;
+    media.format = format["format_name"_L1].toString().toStdString();
+    media.seconds = secondsIn(format);
+    for (const QJsonValue stream : root["streams"_L1].toArray())
+        media.streams.push_back(streamFrom(stream.toObject()));
+    return media;
+}
+
 template <typename Predicate>
 std::vector<const MediaStream *> streamsThat(const Media &media, Predicate fits)
 {
@@ -64,18 +77,6 @@ std::vector<std::string> readingOptions()
     return {"-protocol_whitelist", "file", "-format_whitelist", "mov,mpeg,mpegvideo,mpegts,avi"};
 }
 
-Media parseMedia(const QByteArray &json)
-{
-    const QJsonObject root = QJsonDocument::fromJson(json).object();
-    const QJsonObject format = root["format"_L1].toObject();
-    Media media;
-    media.format = format["format_name"_L1].toString().toStdString();
-    media.seconds = secondsIn(format);
-    for (const QJsonValue stream : root["streams"_L1].toArray())
-        media.streams.push_back(streamFrom(stream.toObject()));
-    return media;
-}
-
 Media lookInto(const std::string &path)
 {
     const std::string address = "file:" + path;
@@ -91,10 +92,8 @@ Media lookInto(const std::string &path)
         "-i",
         address};
     probe.arguments.insert(probe.arguments.end(), more);
-    QByteArray json;
-    const Finished finished = runToEnd(probe, [&json](std::string_view bytes) {
-        json.append(bytes.data(), static_cast<qsizetype>(bytes.size()));
-    });
+    std::string json;
+    const Finished finished = runToEnd(probe, [&json](std::string_view bytes) { json += bytes; });
     if (finished.succeeded())
         return parseMedia(json);
     const bool named = finished.lastWords.starts_with(address + ": ");

@@ -1,14 +1,12 @@
 #pragma once
 
-#include <QByteArray>
-
 #include <string>
 #include <vector>
 
 namespace standin
 {
 
-/// What ffprobe says about one stream of a media file.
+/// What ffprobe reports about one stream of a media file.
 struct MediaStream {
     int index = -1; ///< its number in the file
     std::string type; ///< "video", "audio", "subtitle", "data"
@@ -19,6 +17,7 @@ struct MediaStream {
     double seconds = 0; ///< 0: unknown
 };
 
+/// What ffprobe reports about a media file.
 struct Media {
     std::vector<MediaStream> streams;
     std::string format; ///< ffmpeg's name of the container's reader
@@ -40,8 +39,5 @@ std::vector<std::string> readingOptions();
 /// Runs ffprobe on a file with an absolute path. Fails with ffprobe's own words for anything that
 /// is not a video or sound file.
 Media lookInto(const std::string &path);
-
-/// Reads ffprobe's JSON. What is missing or of another type in it stays as it is in a new Media.
-Media parseMedia(const QByteArray &json);
 
 } // namespace standin

@@ -32,7 +32,7 @@ Job jobFrom(const Arguments &arguments)
     return {preset, arguments[3], arguments[5]};
 }
 
-// What most files hold.
+// What most files contain.
 Media usualMedia()
 {
     Media media;
@@ -50,8 +50,8 @@ Media requireMedia(const std::string &path)
     return media;
 }
 
-// The encoder starts before ffprobe has said what the file holds: starting either takes as long as
-// converting some seconds of a small video. If the guess was wrong it starts once more.
+// The encoder starts before ffprobe has reported what the file contains: starting either takes as
+// long as converting some seconds of a small video. If the guess was wrong it starts once more.
 Media encode(const Preset &preset, const std::string &source, const OutputFile &output)
 {
     Command command{.program = "ffmpeg", .package = "ffmpeg", .passed = {output.descriptor()}};

@@ -10,8 +10,8 @@
 namespace standin
 {
 
-/// What to start. There is no shell and no search path: the command lines were tried with the
-/// distribution's own programs, so a program is looked for in /usr/bin and /bin only.
+/// What to start, without a shell. The command lines were tried with the distribution's own
+/// programs, so a program is looked for in /usr/bin and /bin only, never in PATH.
 struct Command {
     std::string program; ///< a name without a folder
     std::string package; ///< what to install if it is missing
@@ -59,6 +59,8 @@ struct Pipe {
 class Child
 {
 public:
+    /// Starts it. Fails if the program is not installed or cannot be forked; a program that cannot
+    /// be executed ends with status 127 and a line on its standard error.
     explicit Child(const Command &command);
     ~Child();
     Child(const Child &) = delete;

@@ -12,8 +12,8 @@ namespace standin
 enum ExitStatus {
     Success = 0,
     Failed = 1,
-    UsageWrong = 64,
-    ProgramMissing = 69,
+    UsageWrong = 64, ///< EX_USAGE
+    ProgramMissing = 69, ///< EX_UNAVAILABLE
 };
 
 /// Ends the program: runProgram() catches it, prints the text as one line after the program's name

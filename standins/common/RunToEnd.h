@@ -23,12 +23,15 @@ struct Finished {
 /// Takes what a child writes, piece by piece.
 using OutputSink = std::function<void(std::string_view)>;
 
+/// Waits as long as the child takes.
 inline constexpr std::chrono::milliseconds noTimeout{-1};
 
 /// A child whose output and errors are read here. Killed if it is destroyed before finish().
 class CapturedChild
 {
 public:
+    /// Starts it. The descriptors for output and errors in the command are replaced. Fails as Child
+    /// does.
     explicit CapturedChild(Command command);
 
     /// Gives the sink what the child writes to its standard output and waits for the end. A child
@@ -44,11 +47,11 @@ private:
     Child m_child;
 };
 
-/// Starts and finishes in one go.
+/// Starts a child and finishes it, as CapturedChild does.
 Finished runToEnd(const Command &command, const OutputSink &sink,
                   std::chrono::milliseconds timeout = noTimeout);
 
-/// For a child whose standard output is of no interest.
+/// The sink for a child whose standard output has no use.
 inline void discard(std::string_view)
 {
 }

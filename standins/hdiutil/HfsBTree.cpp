@@ -36,7 +36,7 @@ void appendDescriptor(Bytes &node, const NodeDescriptor &descriptor)
         .u16(0);
 }
 
-// The offsets stand at the end of a node in reverse order; the last one, of the free space, comes
+// The offsets are at the end of a node in reverse order; the last one, of the free space, comes
 // first ("Node Structure").
 void appendOffsets(Bytes &node, const std::vector<std::uint16_t> &offsets, std::uint16_t nodeSize)
 {

@@ -26,7 +26,8 @@ public:
     /// A key includes its length field. Two records must fit in a node.
     void append(ByteView key, ByteView data);
 
-    /// Completes the tree and gives its size in bytes.
+    /// Completes the tree and gives its size in bytes, a multiple of the node size. To be called
+    /// once.
     std::uint64_t finish();
 
 private:

@@ -19,7 +19,8 @@ public:
     /// Makes the root folder, which has the volume's name.
     Catalog(std::u16string_view volumeName, const Item &root);
 
-    /// Gives the item's catalog node id. Names within a folder are different from each other.
+    /// Gives the item's catalog node id, by which it can become a parent. Names within a folder are
+    /// different from each other.
     std::uint32_t add(std::uint32_t parentId, std::u16string_view name, const Item &item);
 
     /// The id that the next item would get.

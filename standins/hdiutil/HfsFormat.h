@@ -15,6 +15,7 @@
 namespace hfs
 {
 
+/// What is written is put together in these.
 using Bytes = std::vector<std::uint8_t>;
 using ByteView = std::span<const std::uint8_t>;
 
@@ -25,6 +26,7 @@ public:
     /// Borrows the bytes.
     explicit BigEndianWriter(Bytes &out) : m_out(out) { }
 
+    /// Each gives this writer, so that the fields of a structure can be one line.
     BigEndianWriter &u8(std::uint8_t value) { return number(value); }
     BigEndianWriter &u16(std::uint16_t value) { return number(value); }
     BigEndianWriter &u32(std::uint32_t value) { return number(value); }
@@ -53,11 +55,11 @@ constexpr std::uint32_t blockSize = 4096;
 constexpr std::uint16_t catalogNodeSize = 8192;
 constexpr std::uint16_t extentsNodeSize = 4096;
 
-// "Volume Header": where it and its copy are, in bytes.
+// "Volume Header": where it and its copy begin, in bytes.
 constexpr std::uint64_t volumeHeaderOffset = 1024;
 constexpr std::uint64_t volumeHeaderCopyFromEnd = 1024;
 
-// "Catalog File": numbers that are taken.
+// "Catalog File": reserved numbers of items.
 constexpr std::uint32_t rootParentId = 1;
 constexpr std::uint32_t rootFolderId = 2;
 constexpr std::uint32_t firstUserId = 16;
@@ -74,7 +76,7 @@ constexpr std::uint16_t extentsMaxKeyLength = 10;
 constexpr std::uint32_t bigKeys = 2;
 constexpr std::uint32_t variableIndexKeys = 4;
 
-// "Fork Data Structure": bytes in a record.
+// "Fork Data Structure": its size in bytes.
 constexpr std::size_t forkSize = 80;
 
 // "HFSX": case-insensitive volumes of plain HFS Plus leave the field 0.
@@ -90,7 +92,7 @@ enum class NameOrder {
 /// "Fork Data Structure", with the single extent that this writer gives every fork.
 struct Fork {
     std::uint64_t size = 0; ///< bytes
-    std::uint32_t firstBlock = 0;
+    std::uint32_t firstBlock = 0; ///< counted from the start of the volume; meaningless if empty
     std::uint32_t blocks = 0;
 };
 
@@ -101,6 +103,7 @@ std::uint32_t dateFrom(std::time_t time);
 /// The same in the wall-clock time of here and then, as the volume's creation date is kept.
 std::uint32_t localDateFrom(std::time_t time);
 
+/// Whatever else a folder holds is left out.
 enum class ItemKind : std::uint8_t { Folder, File, Link };
 
 /// What the catalog says about a folder, file or symbolic link, besides its name and parent.
@@ -119,10 +122,12 @@ Item itemFrom(ItemKind kind, const struct stat &status);
 /// "Fork Data Structure"; an empty fork has no extent. The clump size is in bytes.
 void appendFork(Bytes &out, const Fork &fork, std::uint32_t clumpSize = 0);
 
-/// "Catalog File Keys", the length field included.
+/// "Catalog File Keys", the length field included. A name has at most 255 units, that of a thread
+/// none.
 Bytes catalogKey(std::uint32_t parentId, std::u16string_view name);
 
-/// "Catalog File Data": folder, file and thread records.
+/// "Catalog File Data": the record of a folder or file, and the thread that leads from its number
+/// to its name.
 Bytes itemRecord(const Item &item, std::uint32_t id, NameOrder order);
 Bytes threadRecord(ItemKind kind, std::uint32_t parentId, std::u16string_view name);
 

@@ -76,7 +76,7 @@ QString decomposed(const QString &text)
 
 struct Converted {
     std::u16string name;
-    bool isExact; // says the same as the bytes do, character for character
+    bool isExact; // the same text as the bytes, character for character
 };
 
 Converted converted(const std::string &bytes)
@@ -140,8 +140,10 @@ std::u16string freeName(const std::string &bytes, const TakenNames &taken)
         return escaped;
     std::string salted = bytes;
     auto hashed = withHash(salted, name);
-    while (taken.contains(hashed))
-        hashed = withHash(salted.insert(0, "+"), name);
+    while (taken.contains(hashed)) {
+        salted = '+' + salted;
+        hashed = withHash(salted, name);
+    }
     return hashed;
 }
 

@@ -74,11 +74,10 @@ Fork Volume::endFork(std::uint64_t size)
 void Volume::finish()
 {
     const auto order = m_catalog.settleOrder();
-    SpecialFiles files;
-    files.catalog = writeCatalog();
-    files.extents = writeExtents();
-    files.allocation = writeAllocation();
-    const auto volumeHeader = header(order, files);
+    const Fork catalog = writeCatalog();
+    const Fork extents = writeExtents();
+    const Fork allocation = writeAllocation();
+    const auto volumeHeader = header(order, catalog, extents, allocation);
     Bytes lastBlock(blockSize - volumeHeaderCopyFromEnd);
     lastBlock.insert(lastBlock.end(), volumeHeader.begin(), volumeHeader.end());
     lastBlock.resize(blockSize);
@@ -123,7 +122,8 @@ Fork Volume::writeAllocation()
     return endFork(ownBlocks * blockSize);
 }
 
-Bytes Volume::header(NameOrder order, const SpecialFiles &files) const
+Bytes Volume::header(NameOrder order, const Fork &catalog, const Fork &extents,
+                     const Fork &allocation) const
 {
     const bool isBinary = order == NameOrder::Binary;
     const auto modified = dateFrom(m_modified);
@@ -137,9 +137,9 @@ Bytes Volume::header(NameOrder order, const SpecialFiles &files) const
     out.u32(clumpSize).u32(clumpSize).u32(m_catalog.nextId()).u32(0); // never mounted for writing
     out.u64(onlyRomanEncoding);
     out.zeros(finderInfoSize - sizeof(std::uint64_t)).u64(identifier(header));
-    appendFork(header, files.allocation, blockSize);
-    appendFork(header, files.extents, extentsNodeSize);
-    appendFork(header, files.catalog, catalogNodeSize);
+    appendFork(header, allocation, blockSize);
+    appendFork(header, extents, extentsNodeSize);
+    appendFork(header, catalog, catalogNodeSize);
     out.zeros(2 * forkSize); // no attributes file, no startup file
     return header;
 }

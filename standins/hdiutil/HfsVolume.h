@@ -35,16 +35,11 @@ public:
     void finish();
 
 private:
-    struct SpecialFiles {
-        Fork catalog;
-        Fork extents;
-        Fork allocation;
-    };
-
     Fork writeCatalog();
     Fork writeExtents();
     Fork writeAllocation();
-    Bytes header(NameOrder order, const SpecialFiles &files) const;
+    Bytes header(NameOrder order, const Fork &catalog, const Fork &extents,
+                 const Fork &allocation) const;
     std::uint32_t nextBlock() const;
 
     ImageFile &m_image;

@@ -15,7 +15,7 @@ std::vector<std::string> excludedPaths(const standin::OutputFile &output)
 {
     std::vector<std::string> paths = output.names();
     for (std::string &path : paths)
-        path.insert(0, standin::resolved(output.folder()) + '/');
+        path = standin::resolved(output.folder()) + '/' + path;
     return paths;
 }
 

@@ -5,8 +5,9 @@
 #include <string>
 #include <vector>
 
-/// Packs a folder into an image that is ISO 9660 with Joliet and Rock Ridge and HFS Plus at once,
-/// by xorriso. Fails with xorriso's own words, and with status 69 if it is not installed.
+/// Packs a folder, named by any path to it, into an image that is ISO 9660 with Joliet and Rock
+/// Ridge and HFS Plus at once, by xorriso. Fails with xorriso's own words, and with status 69 if it
+/// is not installed.
 void writeHybridImage(const std::string &source, const std::string &volumeName,
                       const standin::OutputFile &output);
 

@@ -29,7 +29,7 @@ public:
     void align(std::uint32_t alignment);
 
     /// Appends the content of a regular file of which fstat() gave `status`, keeping its holes, and
-    /// gives the number of bytes that it had: never more than `status` says, less if it was
+    /// gives the number of bytes that it had: never more than the size in `status`, less if it was
     /// shortened meanwhile. Read errors name `sourcePath`.
     std::uint64_t appendFile(int source, const struct stat &status, const std::string &sourcePath);
 

@@ -20,7 +20,7 @@ void allowDeepFolders();
 /// The folder to pack, through links. Fails if it is not a folder or may not be read.
 standin::FileDescriptor openRoot(const std::string &path);
 
-/// All names but "." and "..", sorted by their bytes.
+/// All names but "." and "..", sorted by their bytes, so that one tree always gives one image.
 std::vector<std::string> listNames(const standin::FileDescriptor &folder, const std::string &path);
 
 /// Nothing if the item has vanished. A link is not followed.
@@ -37,7 +37,7 @@ standin::FileDescriptor openFile(const standin::FileDescriptor &parent, const st
 std::optional<std::string> linkTarget(const standin::FileDescriptor &folder,
                                       const std::string &name, const std::string &path);
 
-/// Status of what is open.
+/// Status of what is open. Only this can be trusted: what has a name may be replaced at any time.
 struct stat statusOf(const standin::FileDescriptor &file, const std::string &path);
 
 } // namespace source

@@ -3,13 +3,12 @@
 #include "Failure.h"
 #include "RunToEnd.h"
 
+#include <QByteArrayList>
 #include <QtEndian>
 
 #include <sys/mman.h>
 
-#include <algorithm>
 #include <cerrno>
-#include <sstream>
 
 namespace standin
 {
@@ -53,23 +52,16 @@ FileDescriptor textFile(std::string_view text)
 
 // A line: priority, language, age/gender, name with blanks as underscores, file, other languages.
 // The first has the captions.
-std::string voiceCode(std::string_view title)
+std::string voiceCode(const std::string &title)
 {
-    std::istringstream lines(listOfVoices());
-    std::string line;
-    std::getline(lines, line);
-    while (std::getline(lines, line)) {
-        std::istringstream columns(line);
-        std::string priority;
-        std::string language;
-        std::string gender;
-        std::string name;
-        columns >> priority >> language >> gender >> name;
-        std::ranges::replace(name, '_', ' ');
-        if (name == title && !language.starts_with('-'))
-            return language;
+    const auto list = QByteArray::fromStdString(listOfVoices());
+    for (const QByteArray &line : list.split('\n').mid(1)) {
+        const QByteArrayList columns = line.simplified().split(' ');
+        if (columns.value(3).replace('_', ' ').toStdString() == title
+            && !columns[1].startsWith('-'))
+            return columns[1].toStdString();
     }
-    throw Failure(UsageWrong, std::string(title) + ": No such voice");
+    throw Failure(UsageWrong, title + ": No such voice");
 }
 
 Command synthesis(const Speech &speech)

@@ -8,7 +8,7 @@
 namespace standin
 {
 
-/// What espeak-ng is to say.
+/// What espeak-ng has to speak.
 struct Speech {
     FileDescriptor text; ///< at its beginning; see textFile()
     std::string voice; ///< language code, as voiceCode() gives it
@@ -22,7 +22,7 @@ FileDescriptor textFile(std::string_view text);
 /// Language code of the voice with exactly this title among those of the installed synthesiser; an
 /// unknown title fails. The title itself never reaches the synthesiser, which would take a path for
 /// a voice file.
-std::string voiceCode(std::string_view title);
+std::string voiceCode(const std::string &title);
 
 /// espeak-ng reading the text from its standard input, never from its arguments, and writing a WAV
 /// stream to its standard output. The speech must live until the start.

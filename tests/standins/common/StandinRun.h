@@ -16,8 +16,8 @@ struct RunResult {
 // Full path of a stand-in program in the build tree.
 QString standinPath(const QString &name);
 
-// The environment of this test without what the tests' frame preloads: the sanitizers' runtime has
-// no business in the distribution's programs that a stand-in starts.
+// The environment of this test without what the tests' frame preloads: the sanitizers' runtime does
+// not belong in the distribution's programs that a stand-in starts.
 QProcessEnvironment plainEnvironment();
 
 RunResult runProgram(const QString &program, const QStringList &arguments,

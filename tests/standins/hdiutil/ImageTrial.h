@@ -20,7 +20,7 @@ public:
     QString image() const { return m_directory.filePath(QStringLiteral("image")); }
     QStringList entries() const { return entriesOf(m_directory.path()); }
 
-    // Makes the folders that it stands in as well. The name is bytes, as the file system has it.
+    // Makes the folders above it as well. The name is bytes, as the file system has it.
     void makeFile(const QByteArray &name, const QByteArray &content) const;
     // Runs a shell script in the folder; fails the test when the script fails.
     void require(const QString &script) const;

@@ -102,7 +102,7 @@ private Q_SLOTS:
     }
 
 private:
-    // The sizes when the image is told of it and when it is read; a large file has a hole.
+    // The sizes when the image gets the status and when it reads the file; a large file has a hole.
     static void takesWhatIsThere(qint64 size, qint64 changedSize)
     {
         QTemporaryFile source;
