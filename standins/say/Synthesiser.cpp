@@ -56,8 +56,8 @@ std::string voiceCode(const std::string &title)
 {
     const auto list = QByteArray::fromStdString(listOfVoices());
     for (const QByteArray &line : list.split('\n').mid(1)) {
-        const QByteArrayList columns = line.simplified().split(' ');
-        if (columns.value(3).replace('_', ' ').toStdString() == title
+        QByteArrayList columns = line.simplified().split(' ');
+        if (columns.size() > 3 && columns[3].replace('_', ' ').toStdString() == title
             && !columns[1].startsWith('-'))
             return columns[1].toStdString();
     }
