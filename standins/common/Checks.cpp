@@ -37,11 +37,8 @@ void requireRegularFile(const std::string &path)
 
 void requireDifferentFiles(const std::string &source, const std::string &target)
 {
-    struct stat one;
-    struct stat other;
-    if (::stat(source.c_str(), &one) != 0 || ::stat(target.c_str(), &other) != 0)
-        return;
-    if (one.st_dev == other.st_dev && one.st_ino == other.st_ino)
+    std::error_code error; // either does not exist
+    if (std::filesystem::equivalent(source, target, error))
         fail(target, "Source and output are the same file");
 }
 

@@ -31,7 +31,7 @@ public:
     void beginFork();
     Fork endFork(std::uint64_t size);
 
-    /// Completes the volume. Fails when its own files do not fit any more.
+    /// Completes the volume. Fails if its own files do not fit any more.
     void finish();
 
 private:

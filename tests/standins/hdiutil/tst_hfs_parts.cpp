@@ -3,8 +3,8 @@
 // while they are copied.
 
 #include "HfsBTree.h"
-#include "HfsNames.h"
 #include "HfsFormat.h"
+#include "HfsNames.h"
 #include "HybridImage.h"
 #include "ImageFile.h"
 #include "ImageTrial.h"
