@@ -29,13 +29,15 @@ function(toolvane_compile_interface target interface)
 endfunction()
 
 # toolvane_standin(NAME SOURCES file… [PRIVATE lib…])
-# A stand-in program: plain C++ without Qt, placed where the command runner looks for it.
+# A stand-in program, placed where the command runner looks for it. Of Qt it may use QtCore; one that
+# uses nothing of it is not linked to it.
 function(toolvane_standin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PRIVATE")
     add_executable(standin_${name} ${arg_SOURCES})
     set_target_properties(standin_${name} PROPERTIES OUTPUT_NAME ${name}
         RUNTIME_OUTPUT_DIRECTORY "${TOOLVANE_LIBEXEC_OUTPUT_DIRECTORY}")
-    target_link_libraries(standin_${name} PRIVATE toolvane_settings ${arg_PRIVATE})
+    target_link_libraries(standin_${name} PRIVATE toolvane_qt_settings Qt6::Core ${arg_PRIVATE})
+    target_link_options(standin_${name} PRIVATE LINKER:--as-needed)
     if(NOT TARGET standins)
         add_custom_target(standins)
     endif()

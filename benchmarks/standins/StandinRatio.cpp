@@ -15,7 +15,7 @@
 namespace
 {
 
-constexpr double largestMegabytes = 20;
+constexpr double maxMegabytes = 20;
 
 // Grows only, so the last look before the end is the peak.
 double peakOf(pid_t process)
@@ -70,7 +70,7 @@ bool isSmall(const char *name, const Command &command)
     }
     const Row row{.work = std::string(name) + ", memory",
                   .figure = megabytes,
-                  .limit = largestMegabytes,
+                  .limit = maxMegabytes,
                   .unit = "MB"};
     return row.print() && megabytes > 0;
 }

@@ -10,9 +10,12 @@ namespace
 
 using List = std::vector<std::string>;
 
-void append(List &list, const List &more)
+List joined(std::initializer_list<List> parts)
 {
-    list.insert(list.end(), more.begin(), more.end());
+    List list;
+    for (const List &part : parts)
+        list.insert(list.end(), part.begin(), part.end());
+    return list;
 }
 
 std::string rate(int kilobits)
@@ -25,16 +28,13 @@ List mapping(const Media &media)
     List list;
     const auto map = [&list](const MediaStream *stream) {
         if (stream)
-            append(list, {"-map", "0:" + std::to_string(stream->index)});
+            list.insert(list.end(), {"-map", "0:" + std::to_string(stream->index)});
     };
     map(media.firstVideo());
     map(media.firstCover());
-    for (const MediaStream *stream : media.audio())
-        map(stream);
-    for (const MediaStream *stream : media.textSubtitles())
-        map(stream);
-    append(list, {"-dn", "-map_metadata", "0", "-map_chapters", "0"});
-    return list;
+    std::ranges::for_each(media.audio(), map);
+    std::ranges::for_each(media.textSubtitles(), map);
+    return joined({list, {"-dn", "-map_metadata", "0", "-map_chapters", "0"}});
 }
 
 // Square pixels with even sides first, as the box counts in those; then down into the box, which is
@@ -55,24 +55,32 @@ std::string filters(const Preset &preset)
     return chain + "format=yuv420p";
 }
 
-// The tags are those that players on every system look for.
+List codecOptions(const Preset &preset)
+{
+    // The tags are those that players on every system look for.
+    if (preset.codec == VideoCodec::Hevc)
+        return {"-c:v:0", "libx265", "-x265-params", "log-level=error", "-tag:v:0", "hvc1"};
+    const std::string profile(preset.profile);
+    return {"-c:v:0", "libx264", "-profile:v:0", profile, "-tag:v:0", "avc1"};
+}
+
+List limits(const Preset &preset)
+{
+    List list;
+    if (!preset.level.empty())
+        list = {"-level:v:0", std::string(preset.level)};
+    if (preset.videoKilobits == 0)
+        return list;
+    const std::string buffer = rate(2 * preset.videoKilobits);
+    return joined({list, {"-maxrate:v:0", rate(preset.videoKilobits), "-bufsize:v:0", buffer}});
+}
+
 List videoEncoding(const Preset &preset)
 {
-    List list{"-filter:v:0", filters(preset), "-fps_mode:v:0", "vfr"};
-    if (preset.codec == VideoCodec::Hevc)
-        append(list, {"-c:v:0", "libx265", "-x265-params", "log-level=error", "-tag:v:0", "hvc1"});
-    else
-        append(
-            list,
-            {"-c:v:0", "libx264", "-profile:v:0", std::string(preset.profile), "-tag:v:0", "avc1"});
-    append(list, {"-preset", "veryfast", "-crf", std::to_string(preset.crf)});
-    if (!preset.level.empty())
-        append(list, {"-level:v:0", std::string(preset.level)});
-    if (preset.videoKilobits > 0)
-        append(list,
-               {"-maxrate:v:0", rate(preset.videoKilobits), "-bufsize:v:0",
-                rate(2 * preset.videoKilobits)});
-    return list;
+    return joined({{"-filter:v:0", filters(preset), "-fps_mode:v:0", "vfr"},
+                   codecOptions(preset),
+                   {"-preset", "veryfast", "-crf", std::to_string(preset.crf)},
+                   limits(preset)});
 }
 
 List audioEncoding(const Preset &preset, const std::string &which)
@@ -85,7 +93,7 @@ List audioEncoding(const Preset &preset, const std::string &which)
 
 bool canBeHeld(const MediaStream &stream, const Media &media)
 {
-    // AVI files do not say when such a picture is shown, an MPEG-4 file has to.
+    // AVI files do not give the time of such a picture, which an MPEG-4 file needs.
     const bool timeIsMissing = media.format == "avi" && stream.isReordered
         && (stream.codec == "h264" || stream.codec == "hevc");
     static constexpr std::string_view codecs[] = {
@@ -96,39 +104,34 @@ bool canBeHeld(const MediaStream &stream, const Media &media)
 
 List videoCopy(const MediaStream &video)
 {
-    List list{"-c:v:0", "copy"};
     if (video.codec == "hevc")
-        append(list, {"-tag:v:0", "hvc1"});
+        return {"-c:v:0", "copy", "-tag:v:0", "hvc1"};
     if (video.codec == "mpeg4") // AVI files pack two pictures into one
-        append(list, {"-bsf:v:0", "mpeg4_unpack_bframes"});
-    return list;
+        return {"-c:v:0", "copy", "-bsf:v:0", "mpeg4_unpack_bframes"};
+    return {"-c:v:0", "copy"};
 }
 
 // Copies what an MPEG-4 file can hold. The rest is encoded at the best preset rather than left out:
-// a video that lost its sound is no success.
+// a video that lost its sound is not a success.
 List passThrough(const Media &media)
 {
     const Preset &best = *findPreset("PresetHighestQuality");
     List list;
     if (const MediaStream *video = media.firstVideo())
-        append(list, canBeHeld(*video, media) ? videoCopy(*video) : videoEncoding(best));
+        list = canBeHeld(*video, media) ? videoCopy(*video) : videoEncoding(best);
     int number = 0;
     for (const MediaStream *stream : media.audio()) {
         const std::string which = ":a:" + std::to_string(number++);
-        append(list,
-               canBeHeld(*stream, media) ? List{"-c" + which, "copy"} : audioEncoding(best, which));
+        const List copy{"-c" + which, "copy"};
+        list = joined({list, canBeHeld(*stream, media) ? copy : audioEncoding(best, which)});
     }
     return list;
 }
 
 List encoding(const Preset &preset, const Media &media)
 {
-    List list;
-    if (media.firstVideo())
-        append(list, videoEncoding(preset));
-    if (!media.audio().empty())
-        append(list, audioEncoding(preset, ":a"));
-    return list;
+    return joined({media.firstVideo() ? videoEncoding(preset) : List(),
+                   media.audio().empty() ? List() : audioEncoding(preset, ":a")});
 }
 
 List coverCopy(const Media &media)
@@ -144,16 +147,15 @@ List coverCopy(const Media &media)
 List conversionArguments(const Preset &preset, const Media &media, const std::string &source,
                          const std::string &output)
 {
-    List list{"-v", "error", "-nostdin", "-hide_banner", "-nostats", "-y"};
-    append(list, readingOptions());
-    append(list, {"-fflags", "+genpts", "-i", "file:" + source});
-    append(list, mapping(media));
-    append(list, preset.codec == VideoCodec::Copy ? passThrough(media) : encoding(preset, media));
-    append(list, coverCopy(media));
-    append(list,
-           {"-c:s", "mov_text", "-movflags", "+faststart", "-brand", "M4V ", "-f", "mp4",
-            "file:" + output});
-    return list;
+    const bool copies = preset.codec == VideoCodec::Copy;
+    return joined({{"-v", "error", "-nostdin", "-hide_banner", "-nostats", "-y"},
+                   readingOptions(),
+                   {"-fflags", "+genpts", "-i", "file:" + source},
+                   mapping(media),
+                   copies ? passThrough(media) : encoding(preset, media),
+                   coverCopy(media),
+                   {"-c:s", "mov_text", "-movflags", "+faststart", "-brand", "M4V ", "-f", "mp4"},
+                   {"file:" + output}});
 }
 
 } // namespace standin

@@ -3,9 +3,11 @@
 #include "Failure.h"
 #include "RunToEnd.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 #include <algorithm>
-#include <charconv>
-#include <map>
 
 namespace standin
 {
@@ -13,58 +15,54 @@ namespace standin
 namespace
 {
 
-using Fields = std::map<std::string, std::string, std::less<>>;
+using namespace Qt::StringLiterals;
 
-template <typename Number>
-Number numberIn(const Fields &fields, std::string_view name)
+// Some numbers come as text; "N/A" is 0.
+double secondsIn(const QJsonObject &object)
 {
-    Number value{};
-    if (const auto field = fields.find(name); field != fields.end()) {
-        const std::string &text = field->second; // "N/A" leaves 0
-        std::from_chars(text.data(), text.data() + text.size(), value);
-    }
-    return value;
+    return object["duration"_L1].toString().toDouble();
 }
 
-std::string textIn(const Fields &fields, std::string_view name)
-{
-    const auto field = fields.find(name);
-    return field == fields.end() ? std::string() : field->second;
-}
-
-std::vector<std::string_view> split(std::string_view text, char separator)
-{
-    std::vector<std::string_view> parts;
-    while (!text.empty()) {
-        const auto end = std::min(text.find(separator), text.size());
-        parts.push_back(text.substr(0, end));
-        text.remove_prefix(std::min(end + 1, text.size()));
-    }
-    return parts;
-}
-
-Fields fieldsOf(std::string_view line)
-{
-    Fields fields;
-    for (std::string_view part : split(line, '|')) {
-        const auto equals = part.find('=');
-        if (equals != std::string_view::npos)
-            fields.emplace(part.substr(0, equals), part.substr(equals + 1));
-    }
-    return fields;
-}
-
-MediaStream streamFrom(const Fields &fields)
+MediaStream streamFrom(const QJsonObject &object)
 {
     MediaStream stream;
-    stream.index = numberIn<int>(fields, "index");
-    stream.type = textIn(fields, "codec_type");
-    stream.codec = textIn(fields, "codec_name");
-    stream.isCover = numberIn<int>(fields, "disposition:attached_pic") == 1;
-    stream.isComplete = numberIn<int>(fields, "width") > 0 || numberIn<int>(fields, "channels") > 0;
-    stream.isReordered = numberIn<int>(fields, "has_b_frames") > 0;
-    stream.seconds = numberIn<double>(fields, "duration");
+    stream.index = object["index"_L1].toInt(-1);
+    stream.type = object["codec_type"_L1].toString().toStdString();
+    stream.codec = object["codec_name"_L1].toString().toStdString();
+    stream.isCover = object["disposition"_L1]["attached_pic"_L1].toInt() == 1;
+    stream.isComplete = object["width"_L1].toInt() > 0 || object["channels"_L1].toInt() > 0;
+    stream.isReordered = object["has_b_frames"_L1].toInt() > 0;
+    stream.seconds = secondsIn(object);
     return stream;
+}
+
+// What is missing or of another type in ffprobe's JSON stays as it is in a new Media.
+Media parseMedia(const std::string &json)
+{
+    const QJsonObject root = QJsonDocument::fromJson(QByteArray::fromStdString(json)).object();
+    const QJsonObject format = root["format"_L1].toObject();
+    Media media;
+    media.format = format["format_name"_L1].toString().toStdString();
+    media.seconds = secondsIn(format);
+    for (const QJsonValue stream : root["streams"_L1].toArray())
+        media.streams.push_back(streamFrom(stream.toObject()));
+    return media;
+}
+
+template <typename Predicate>
+std::vector<const MediaStream *> streamsThat(const Media &media, Predicate fits)
+{
+    std::vector<const MediaStream *> found;
+    for (const MediaStream &stream : media.streams) {
+        if (fits(stream))
+            found.push_back(&stream);
+    }
+    return found;
+}
+
+const MediaStream *firstOf(const std::vector<const MediaStream *> &streams)
+{
+    return streams.empty() ? nullptr : streams.front();
 }
 
 bool isOneOf(std::string_view name, std::initializer_list<std::string_view> names)
@@ -79,84 +77,57 @@ std::vector<std::string> readingOptions()
     return {"-protocol_whitelist", "file", "-format_whitelist", "mov,mpeg,mpegvideo,mpegts,avi"};
 }
 
-Media parseMedia(std::string_view text)
-{
-    Media media;
-    for (std::string_view line : split(text, '\n')) {
-        const Fields fields = fieldsOf(line);
-        if (line.starts_with("stream|")) {
-            MediaStream stream = streamFrom(fields);
-            // A broadcast file lists its streams once more under each programme.
-            if (std::ranges::find(media.streams, stream.index, &MediaStream::index)
-                == media.streams.end())
-                media.streams.push_back(std::move(stream));
-        } else if (line.starts_with("format|")) {
-            media.format = textIn(fields, "format_name");
-            media.seconds = numberIn<double>(fields, "duration");
-        }
-    }
-    return media;
-}
-
 Media lookInto(const std::string &path)
 {
     const std::string address = "file:" + path;
-    Command probe{.program = "ffprobe", .package = "ffmpeg", .arguments = {"-v", "error"}};
-    const auto reading = readingOptions();
-    probe.arguments.insert(probe.arguments.end(), reading.begin(), reading.end());
-    const std::string entries =
+    Command probe{.program = "ffprobe", .package = "ffmpeg", .arguments = readingOptions()};
+    const std::initializer_list<std::string> more{
+        "-v",
+        "error",
+        "-show_entries",
         "stream=index,codec_type,codec_name,width,channels,has_b_frames,duration"
-        ":stream_disposition=attached_pic:format=format_name,duration";
-    for (const std::string &argument : {std::string("-show_entries"), entries, std::string("-of"),
-                                        std::string("compact"), std::string("-i"), address})
-        probe.arguments.push_back(argument);
-    std::string text;
-    const Finished finished = runToEnd(probe, [&text](std::string_view bytes) { text += bytes; });
-    if (!finished.succeeded()) {
-        const bool named = finished.lastWords.starts_with(address + ": ");
-        const std::string words =
-            named ? finished.lastWords.substr(address.size() + 2) : finished.lastWords;
-        fail(path, "Not a readable video (" + words + ")");
-    }
-    return parseMedia(text);
+        ":stream_disposition=attached_pic:format=format_name,duration",
+        "-of",
+        "json",
+        "-i",
+        address};
+    probe.arguments.insert(probe.arguments.end(), more);
+    std::string json;
+    const Finished finished = runToEnd(probe, [&json](std::string_view bytes) { json += bytes; });
+    if (finished.succeeded())
+        return parseMedia(json);
+    const bool named = finished.lastWords.starts_with(address + ": ");
+    const auto words = finished.lastWords.substr(named ? address.size() + 2 : 0);
+    fail(path, "Not a readable video (" + words + ")");
 }
 
 const MediaStream *Media::firstVideo() const
 {
-    const auto found = std::ranges::find_if(streams, [](const MediaStream &stream) {
+    return firstOf(streamsThat(*this, [](const MediaStream &stream) {
         return stream.type == "video" && !stream.isCover && stream.isComplete;
-    });
-    return found == streams.end() ? nullptr : &*found;
+    }));
 }
 
 const MediaStream *Media::firstCover() const
 {
-    const auto found = std::ranges::find_if(streams, [](const MediaStream &stream) {
+    return firstOf(streamsThat(*this, [](const MediaStream &stream) {
         return stream.isCover && isOneOf(stream.codec, {"mjpeg", "png"});
-    });
-    return found == streams.end() ? nullptr : &*found;
+    }));
 }
 
 std::vector<const MediaStream *> Media::audio() const
 {
-    std::vector<const MediaStream *> found;
-    for (const MediaStream &stream : streams) {
-        if (stream.type == "audio" && stream.isComplete)
-            found.push_back(&stream);
-    }
-    return found;
+    return streamsThat(*this, [](const MediaStream &stream) {
+        return stream.type == "audio" && stream.isComplete;
+    });
 }
 
-// Subtitles that are pictures make ffmpeg fail when text is asked for.
 std::vector<const MediaStream *> Media::textSubtitles() const
 {
-    std::vector<const MediaStream *> found;
-    for (const MediaStream &stream : streams) {
-        if (stream.type == "subtitle"
-            && isOneOf(stream.codec, {"mov_text", "subrip", "ass", "webvtt", "text"}))
-            found.push_back(&stream);
-    }
-    return found;
+    return streamsThat(*this, [](const MediaStream &stream) {
+        return stream.type == "subtitle"
+            && isOneOf(stream.codec, {"mov_text", "subrip", "ass", "webvtt", "text"});
+    });
 }
 
 } // namespace standin

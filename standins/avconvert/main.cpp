@@ -3,7 +3,6 @@
 #include "Checks.h"
 #include "ConversionArguments.h"
 #include "Failure.h"
-#include "MovieFile.h"
 #include "OutputFile.h"
 #include "Program.h"
 #include "RunToEnd.h"
@@ -33,7 +32,7 @@ Job jobFrom(const Arguments &arguments)
     return {preset, arguments[3], arguments[5]};
 }
 
-// What most files hold.
+// What most files contain.
 Media usualMedia()
 {
     Media media;
@@ -51,8 +50,8 @@ Media requireMedia(const std::string &path)
     return media;
 }
 
-// The encoder starts before ffprobe has told what the file holds: starting either takes as long as
-// converting some seconds of a small video. Where the guess was wrong it starts once more.
+// The encoder starts before ffprobe has reported what the file contains: starting either takes as
+// long as converting some seconds of a small video. If the guess was wrong it starts once more.
 Media encode(const Preset &preset, const std::string &source, const OutputFile &output)
 {
     Command command{.program = "ffmpeg", .package = "ffmpeg", .passed = {output.descriptor()}};
@@ -64,7 +63,7 @@ Media encode(const Preset &preset, const std::string &source, const OutputFile &
         command.arguments = std::move(arguments);
         encoder.emplace(command);
     }
-    const Finished finished = encoder->finish([](std::string_view) {});
+    const Finished finished = encoder->finish(discard);
     if (!finished.succeeded())
         output.failWithWords(source, finished.lastWords);
     return media;

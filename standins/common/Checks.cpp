@@ -7,19 +7,18 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <cstdlib>
-#include <memory>
+#include <filesystem>
 
 namespace standin
 {
 
 std::string resolved(const std::string &path)
 {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
-                                                           &std::free);
-    if (!real)
-        failWithError(path, errno);
-    return real.get();
+    std::error_code error;
+    const std::filesystem::path real = std::filesystem::canonical(path, error);
+    if (error)
+        failWithError(path, error.value());
+    return real.string();
 }
 
 void requireRegularFile(const std::string &path)
@@ -38,11 +37,8 @@ void requireRegularFile(const std::string &path)
 
 void requireDifferentFiles(const std::string &source, const std::string &target)
 {
-    struct stat one;
-    struct stat other;
-    if (::stat(source.c_str(), &one) != 0 || ::stat(target.c_str(), &other) != 0)
-        return;
-    if (one.st_dev == other.st_dev && one.st_ino == other.st_ino)
+    std::error_code error; // either does not exist
+    if (std::filesystem::equivalent(source, target, error))
         fail(target, "Source and output are the same file");
 }
 

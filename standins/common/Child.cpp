@@ -2,7 +2,6 @@
 
 #include "EndOnSignal.h"
 #include "Failure.h"
-#include "FileDescriptor.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -21,6 +20,8 @@ namespace standin
 
 namespace
 {
+
+constexpr int pipeCapacity = 1 << 20; // bytes
 
 // dup2() leaves close-on-exec set when both numbers are the same.
 void place(int from, int to)
@@ -107,6 +108,17 @@ std::string findProgram(const std::string &name, const std::string &package)
     throw Failure(ProgramMissing, name + " is not installed (package " + package + ")");
 }
 
+Pipe::Pipe()
+{
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+        failWithError("pipe", errno);
+    readEnd = FileDescriptor(ends[0]);
+    writeEnd = FileDescriptor(ends[1]);
+    // Room for what comes while we work on what came before; less will do if that is refused.
+    ::fcntl(writeEnd.number(), F_SETPIPE_SZ, pipeCapacity);
+}
+
 Child::Child(const Command &command) : m_detached(command.lifetime == Command::Lifetime::Detached)
 {
     std::string path = findProgram(command.program, command.package);
@@ -137,8 +149,8 @@ void Child::kill()
     ::kill(m_pid, SIGKILL);
 }
 
-// The child is looked at first and reaped with the ending signals held back: otherwise they could
-// hit a stranger that got the freed process number.
+// The end is awaited without reaping; then the child is reaped and forgotten with the ending
+// signals blocked. Otherwise their handler could kill a stranger that got the freed process number.
 ChildEnd Child::wait()
 {
     siginfo_t information;

@@ -15,7 +15,7 @@ namespace
 
 constexpr std::array endingSignals{SIGTERM, SIGINT, SIGHUP};
 
-// Read by the handler, written only while the ending signals are held back.
+// Read by the handler, written only while the ending signals are blocked.
 std::array<pid_t, 8> children{};
 const char *temporaryPath = nullptr;
 
@@ -50,14 +50,8 @@ void replaceChild(pid_t from, pid_t to)
     const EndingHeldBack held;
     const auto slot = std::ranges::find(children, from);
     if (slot == children.end())
-        std::abort(); // more children than any of these programs starts
+        std::abort(); // more children than any of these programs has
     *slot = to;
-}
-
-void setTemporary(const char *path)
-{
-    const EndingHeldBack held;
-    temporaryPath = path;
 }
 
 } // namespace
@@ -85,12 +79,13 @@ void forgetChild(pid_t child)
 
 void rememberTemporary(const char *path)
 {
-    setTemporary(path);
+    const EndingHeldBack held;
+    temporaryPath = path;
 }
 
 void forgetTemporary()
 {
-    setTemporary(nullptr);
+    rememberTemporary(nullptr);
 }
 
 EndingHeldBack::EndingHeldBack()

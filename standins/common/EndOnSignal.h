@@ -7,20 +7,22 @@
 namespace standin
 {
 
-// What has to go when the program is ended from outside (TERM, INT, HUP). A signal handler does the
-// work, so that no loop has to look for a flag and a long system call does not delay it: every
-// child is killed and reaped, the temporary file is removed, the program exits with 128 + signal.
-// Not thread-safe: these programs have one thread.
+/// Makes TERM, INT and HUP end the program cleanly: a signal handler kills and reaps every
+/// remembered child, removes the remembered temporary file and exits with 128 + signal. It needs no
+/// loop that looks at a flag, and a long system call does not delay it. Not thread-safe: these
+/// programs have one thread.
 void installEndOnSignal();
 
+/// At most eight children at a time.
 void rememberChild(pid_t child);
 void forgetChild(pid_t child);
 
-// One temporary file at a time; the text must live until forgetTemporary().
+/// One temporary file at a time; the text must live until forgetTemporary().
 void rememberTemporary(const char *path);
 void forgetTemporary();
 
-// Holds the ending signals back, so that what was made and what is remembered cannot differ.
+/// Blocks the ending signals while it exists, so that a child or file cannot be made without being
+/// remembered. Can be nested.
 class EndingHeldBack
 {
 public:

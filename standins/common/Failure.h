@@ -1,21 +1,23 @@
 #pragma once
 
+#include <algorithm>
+#include <cstring>
 #include <stdexcept>
 #include <string>
 
 namespace standin
 {
 
-// What the programs end with. The numbers above 1 are those of sysexits.h.
+/// What the programs end with. The numbers above 1 are those of sysexits.h.
 enum ExitStatus {
     Success = 0,
     Failed = 1,
-    UsageWrong = 64,
-    ProgramMissing = 69,
+    UsageWrong = 64, ///< EX_USAGE
+    ProgramMissing = 69, ///< EX_UNAVAILABLE
 };
 
-// Ends the program: caught by runProgram(), which prints the text as one line after the program's
-// name and exits with the status.
+/// Ends the program: runProgram() catches it, prints the text as one line after the program's name
+/// and exits with the status.
 class Failure : public std::runtime_error
 {
 public:
@@ -26,18 +28,29 @@ public:
     ExitStatus status;
 };
 
-// The arguments are not the ones that the program takes: its usage line and status 64.
+/// The arguments are not the ones that the program takes: its usage line and status 64.
 class WrongUsage : public std::exception
 {
 };
 
-// A message is one line, whatever a file is called: control characters become "?".
-std::string printable(std::string text);
+/// A message is one line, whatever a file is called: control characters become "?".
+inline std::string printable(std::string text)
+{
+    const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
+    std::replace_if(text.begin(), text.end(), isControl, '?');
+    return text;
+}
 
-// "path: reason", status 1.
-[[noreturn]] void fail(const std::string &path, const std::string &reason);
+/// Throws a Failure with "path: reason" and status 1.
+[[noreturn]] inline void fail(const std::string &path, const std::string &reason)
+{
+    throw Failure(Failed, (path.empty() ? "(no name)" : path) + ": " + reason);
+}
 
-// The same with the system's words for an errno value.
-[[noreturn]] void failWithError(const std::string &path, int error);
+/// The same with the system's words for an errno value.
+[[noreturn]] inline void failWithError(const std::string &path, int error)
+{
+    fail(path, std::strerror(error));
+}
 
 } // namespace standin

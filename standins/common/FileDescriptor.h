@@ -7,11 +7,12 @@
 namespace standin
 {
 
-// Owns one open file descriptor and closes it.
+/// Owns one open file descriptor and closes it.
 class FileDescriptor
 {
 public:
     FileDescriptor() = default;
+    /// Takes what open() gave, -1 after an error included.
     explicit FileDescriptor(int number) : m_number(number) { }
     FileDescriptor(FileDescriptor &&other) noexcept
         : m_number(std::exchange(other.m_number, -1)) { }
@@ -27,7 +28,8 @@ public:
         if (m_number >= 0)
             ::close(std::exchange(m_number, -1));
     }
-    int number() const { return m_number; } // -1: none
+    /// -1: none.
+    int number() const { return m_number; }
     bool isOpen() const { return m_number >= 0; }
 
 private:

@@ -19,9 +19,9 @@ namespace standin
 namespace
 {
 
-constexpr int mostLinks = 40; // as many as the system follows
+constexpr int maxLinks = 40; // as many as the system follows
 
-// Also one that leads to a name where nothing stands yet.
+// Also a link that leads to a name which does not exist yet.
 std::string followLinks(const std::string &target)
 {
     if (target.empty())
@@ -29,7 +29,7 @@ std::string followLinks(const std::string &target)
     std::filesystem::path path = target;
     std::error_code error;
     for (int links = 0; std::filesystem::is_symlink(path, error); ++links) {
-        if (links == mostLinks)
+        if (links == maxLinks)
             failWithError(target, ELOOP);
         path = path.parent_path() / std::filesystem::read_symlink(path, error);
     }
@@ -37,12 +37,9 @@ std::string followLinks(const std::string &target)
     return error ? path.string() : real.string();
 }
 
-std::string folderOf(const std::string &target)
+std::string folderOf(const std::filesystem::path &target)
 {
-    const auto slash = target.rfind('/');
-    if (slash == std::string::npos)
-        return ".";
-    return slash == 0 ? "/" : target.substr(0, slash);
+    return target.has_parent_path() ? target.parent_path().string() : ".";
 }
 
 void requireReplaceable(const std::string &target)
@@ -89,7 +86,10 @@ OutputFile::OutputFile(const std::string &target, Temporary temporary)
 
 OutputFile::~OutputFile()
 {
-    dropName();
+    if (m_temporaryPath.empty())
+        return;
+    ::unlink(m_temporaryPath.c_str());
+    forgetTemporary();
 }
 
 // Any refusal means "not on this file system"; a real fault comes back when openNamed() tries.
@@ -105,6 +105,11 @@ void OutputFile::openNamed()
     m_file = FileDescriptor(::open(path.c_str(), O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0600));
     if (!m_file.isOpen())
         failWithError(m_folder, errno);
+    takeName(path);
+}
+
+void OutputFile::takeName(const std::string &path)
+{
     m_temporaryPath = path;
     rememberTemporary(m_temporaryPath.c_str());
 }
@@ -112,6 +117,14 @@ void OutputFile::openNamed()
 std::string OutputFile::descriptorPath() const
 {
     return "/proc/self/fd/" + std::to_string(m_file.number());
+}
+
+std::vector<std::string> OutputFile::names() const
+{
+    std::vector<std::string> names{std::filesystem::path(m_target).filename()};
+    if (!m_temporaryPath.empty())
+        names.push_back(std::filesystem::path(m_temporaryPath).filename());
+    return names;
 }
 
 void OutputFile::write(const void *data, std::size_t size)
@@ -144,8 +157,7 @@ void OutputFile::giveName()
     if (::linkat(AT_FDCWD, descriptorPath().c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW)
         != 0)
         failWithError(m_target, errno);
-    m_temporaryPath = path;
-    rememberTemporary(m_temporaryPath.c_str());
+    takeName(path);
 }
 
 void OutputFile::commit()
@@ -166,14 +178,6 @@ bool OutputFile::replacesFile() const
 {
     struct stat status;
     return ::lstat(m_target.c_str(), &status) == 0;
-}
-
-void OutputFile::dropName()
-{
-    if (m_temporaryPath.empty())
-        return;
-    ::unlink(m_temporaryPath.c_str());
-    forgetTemporary();
 }
 
 } // namespace standin

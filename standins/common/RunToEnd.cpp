@@ -1,11 +1,10 @@
 #include "RunToEnd.h"
 
-#include "LastWords.h"
-
 #include <poll.h>
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <cerrno>
 #include <thread>
 
@@ -17,8 +16,10 @@ namespace
 
 using Clock = std::chrono::steady_clock;
 
-constexpr ssize_t fewBytes = 16384;
-constexpr auto untilMoreGathered = std::chrono::milliseconds(1);
+constexpr ssize_t smallRead = 16384;
+constexpr auto gatherInterval = std::chrono::milliseconds(1);
+constexpr std::size_t maxErrors = 16384; // of which at least the last half is kept
+constexpr std::size_t maxLine = 1000;
 
 // Reads once; closes the descriptor at its end.
 void readSome(FileDescriptor &from, const OutputSink &sink)
@@ -27,29 +28,30 @@ void readSome(FileDescriptor &from, const OutputSink &sink)
     const auto count = ::read(from.number(), buffer.data(), buffer.size());
     if (count > 0) {
         sink({buffer.data(), static_cast<std::size_t>(count)});
-        // Who writes in small pieces would wake us for each: let some gather in the pipe.
-        if (count < fewBytes)
-            std::this_thread::sleep_for(untilMoreGathered);
+        // A program that writes in small pieces would wake us for each: let some gather in the
+        // pipe.
+        if (count < smallRead)
+            std::this_thread::sleep_for(gatherInterval);
     } else if (count == 0 || errno != EINTR)
         from.close();
 }
 
-int remaining(Clock::time_point deadline, std::chrono::milliseconds limit)
+int remaining(Clock::time_point deadline, std::chrono::milliseconds timeout)
 {
-    if (limit == noLimit)
+    if (timeout == noTimeout)
         return -1;
     const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
     return std::max(0, static_cast<int>(left.count()));
 }
 
-// False when the time was over first.
+// False if the time was over first.
 bool drain(FileDescriptor &output, const OutputSink &sink, FileDescriptor &errors,
-           const OutputSink &errorSink, std::chrono::milliseconds limit)
+           const OutputSink &errorSink, std::chrono::milliseconds timeout)
 {
-    const auto deadline = Clock::now() + limit;
+    const auto deadline = Clock::now() + timeout;
     while (output.isOpen() || errors.isOpen()) {
         std::array<pollfd, 2> events{{{output.number(), POLLIN, 0}, {errors.number(), POLLIN, 0}}};
-        const int ready = ::poll(events.data(), events.size(), remaining(deadline, limit));
+        const int ready = ::poll(events.data(), events.size(), remaining(deadline, timeout));
         if (ready == 0)
             return false;
         if (ready > 0 && events[0].revents)
@@ -58,6 +60,30 @@ bool drain(FileDescriptor &output, const OutputSink &sink, FileDescriptor &error
             readSome(errors, errorSink);
     }
     return true;
+}
+
+// Keeps the end of what comes, whatever the child writes.
+void appendBounded(std::string &text, std::string_view bytes)
+{
+    text += bytes;
+    if (text.size() > maxErrors)
+        text.erase(0, text.size() - maxErrors / 2);
+}
+
+// The last line that is neither empty nor contains the ignored words.
+std::string lastLine(std::string_view text, const std::string &ignoredWords)
+{
+    while (!text.empty()) {
+        const std::size_t begin = text.find_last_of("\r\n") + 1; // npos + 1 is 0
+        std::string line(text.substr(begin, maxLine));
+        text = text.substr(0, std::max<std::size_t>(begin, 1) - 1);
+        if (line.empty() || (!ignoredWords.empty() && line.find(ignoredWords) != line.npos))
+            continue;
+        std::ranges::replace_if(
+            line, [](unsigned char c) { return std::iscntrl(c); }, ' ');
+        return line;
+    }
+    return {};
 }
 
 Command connected(Command command, const Pipe &output, const Pipe &errors)
@@ -70,26 +96,27 @@ Command connected(Command command, const Pipe &output, const Pipe &errors)
 } // namespace
 
 CapturedChild::CapturedChild(Command command)
-    : m_program(command.program), m_hollowWords(command.hollowWords),
+    : m_program(command.program), m_ignoredWords(command.ignoredWords),
       m_child(connected(std::move(command), m_output, m_errors))
 {
     m_output.writeEnd.close();
     m_errors.writeEnd.close();
 }
 
-Finished CapturedChild::finish(const OutputSink &sink, std::chrono::milliseconds limit)
+Finished CapturedChild::finish(const OutputSink &sink, std::chrono::milliseconds timeout)
 {
-    LastWords words(m_hollowWords);
-    const OutputSink keepWords = [&words](std::string_view bytes) { words.add(bytes); };
-    if (!drain(m_output.readEnd, sink, m_errors.readEnd, keepWords, limit))
+    std::string errors;
+    const auto keep = [&errors](std::string_view bytes) { appendBounded(errors, bytes); };
+    if (!drain(m_output.readEnd, sink, m_errors.readEnd, keep, timeout))
         m_child.kill();
     const ChildEnd end = m_child.wait();
-    return {end, words.text().empty() ? m_program + " ended with " + end.text() : words.text()};
+    const std::string words = lastLine(errors, m_ignoredWords);
+    return {end, words.empty() ? m_program + " ended with " + end.text() : words};
 }
 
-Finished runToEnd(const Command &command, const OutputSink &sink, std::chrono::milliseconds limit)
+Finished runToEnd(const Command &command, const OutputSink &sink, std::chrono::milliseconds timeout)
 {
-    return CapturedChild(command).finish(sink, limit);
+    return CapturedChild(command).finish(sink, timeout);
 }
 
 } // namespace standin

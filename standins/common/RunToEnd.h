@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Child.h"
-#include "Pipe.h"
 
 #include <chrono>
 #include <functional>
@@ -11,39 +10,50 @@
 namespace standin
 {
 
-// What a finished child leaves.
+/// What a finished child leaves.
 struct Finished {
     ChildEnd end;
-    std::string lastWords; // the last line of its standard error, or how it ended
+    /// The last line of its standard error, at most 1,000 bytes without control characters. If it
+    /// wrote none: how it ended.
+    std::string lastWords;
 
     bool succeeded() const { return end.succeeded(); }
 };
 
+/// Takes what a child writes, piece by piece.
 using OutputSink = std::function<void(std::string_view)>;
 
-inline constexpr std::chrono::milliseconds noLimit{-1};
+/// Waits as long as the child takes.
+inline constexpr std::chrono::milliseconds noTimeout{-1};
 
-// A child whose output and errors are read here. Killed when it is destroyed before finish().
+/// A child whose output and errors are read here. Killed if it is destroyed before finish().
 class CapturedChild
 {
 public:
+    /// Starts it. The descriptors for output and errors in the command are replaced. Fails as Child
+    /// does.
     explicit CapturedChild(Command command);
 
-    // Hands what the child writes to its standard output to the sink piece by piece, keeps the last
-    // line of its standard error, and waits for the end. A child that outlives the limit, and any
-    // child when the sink throws, is killed. To be called once.
-    Finished finish(const OutputSink &sink, std::chrono::milliseconds limit = noLimit);
+    /// Gives the sink what the child writes to its standard output and waits for the end. A child
+    /// that takes longer than the timeout, and any child if the sink throws, is killed. To be
+    /// called once.
+    Finished finish(const OutputSink &sink, std::chrono::milliseconds timeout = noTimeout);
 
 private:
     std::string m_program;
-    std::string m_hollowWords;
+    std::string m_ignoredWords;
     Pipe m_output;
     Pipe m_errors;
     Child m_child;
 };
 
-// Starts and finishes in one go.
+/// Starts a child and finishes it, as CapturedChild does.
 Finished runToEnd(const Command &command, const OutputSink &sink,
-                  std::chrono::milliseconds limit = noLimit);
+                  std::chrono::milliseconds timeout = noTimeout);
+
+/// The sink for a child whose standard output has no use.
+inline void discard(std::string_view)
+{
+}
 
 } // namespace standin

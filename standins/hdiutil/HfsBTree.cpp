@@ -27,16 +27,12 @@ struct NodeDescriptor {
 
 void appendDescriptor(Bytes &node, const NodeDescriptor &descriptor)
 {
-    BigEndianWriter(node)
-        .u32(descriptor.next)
-        .u32(descriptor.previous)
-        .u8(descriptor.kind)
-        .u8(descriptor.height)
-        .u16(static_cast<std::uint16_t>(descriptor.records))
-        .u16(0);
+    BigEndianWriter out(node);
+    out.u32(descriptor.next).u32(descriptor.previous).u8(descriptor.kind).u8(descriptor.height);
+    out.u16(static_cast<std::uint16_t>(descriptor.records)).u16(0);
 }
 
-// The offsets stand at the end of a node in reverse order; the last one, of the free space, comes
+// The offsets are at the end of a node in reverse order; the last one, of the free space, comes
 // first ("Node Structure").
 void appendOffsets(Bytes &node, const std::vector<std::uint16_t> &offsets, std::uint16_t nodeSize)
 {

@@ -1,32 +1,33 @@
 #pragma once
 
-#include "BigEndian.h"
+#include "HfsFormat.h"
 #include "ImageFile.h"
 
 namespace hfs
 {
 
-// What distinguishes one B-tree of a volume from another.
+/// What distinguishes one B-tree of a volume from another.
 struct BTreeForm {
-    std::uint16_t nodeSize;
-    std::uint16_t maxKeyLength;
-    std::uint8_t keyCompareType;
-    std::uint32_t attributes;
+    std::uint16_t nodeSize; ///< bytes
+    std::uint16_t maxKeyLength; ///< bytes, without the length field
+    std::uint8_t keyCompareType; ///< see "HFSX"
+    std::uint32_t attributes; ///< see "Header Record"
 };
 
-// Writes a B-tree from records that come in ascending order (TN1150, "B-Trees"). Node 0 is the
-// header, the leaves follow in order, then each level of the index, then the nodes that continue
-// the map of used nodes. Every node is full but the last of its level.
+/// Writes a B-tree from records that come in ascending order (TN1150, "B-Trees"). Node 0 is the
+/// header, the leaves follow in order, then each level of the index, then the nodes that continue
+/// the map of used nodes. Every node is full but the last of its level.
 class BTreeWriter
 {
 public:
-    // The tree starts where the image ends, which must be the start of a block.
+    /// Borrows the image. The tree starts where the image ends, which must be the start of a block.
     BTreeWriter(ImageFile &image, const BTreeForm &form);
 
-    // A key includes its length field. Two records must fit in a node.
+    /// A key includes its length field. Two records must fit in a node.
     void append(ByteView key, ByteView data);
 
-    // Completes the tree and gives its size in bytes.
+    /// Completes the tree and gives its size in bytes, a multiple of the node size. To be called
+    /// once.
     std::uint64_t finish();
 
 private:

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "HfsBTree.h"
-#include "HfsRecords.h"
+#include "HfsFormat.h"
 #include "ImageFile.h"
 
 #include <string>
@@ -10,27 +10,30 @@
 namespace hfs
 {
 
-// The folders, files and links of a volume, collected with each folder before what it holds, then
-// written as the catalog B-tree (TN1150, "Catalog File"). Costs about 60 bytes an item and its
-// name.
+/// The folders, files and links of a volume, collected with each folder before what it holds, then
+/// written as the catalog B-tree (TN1150, "Catalog File"). Costs about 60 bytes an item and its
+/// name.
 class Catalog
 {
 public:
-    // Makes the root folder.
+    /// Makes the root folder, which has the volume's name.
     Catalog(std::u16string_view volumeName, const Item &root);
 
-    // Gives the item's catalog node id. Names within a folder are different from each other.
+    /// Gives the item's catalog node id, by which it can become a parent. Names within a folder are
+    /// different from each other.
     std::uint32_t add(std::uint32_t parentId, std::u16string_view name, const Item &item);
 
+    /// The id that the next item would get.
     std::uint32_t nextId() const;
-    std::uint32_t fileCount() const { return m_fileCount; } // files and links
-    std::uint32_t folderCount() const { return m_folderCount; } // without the root folder
+    std::uint32_t fileCount() const { return m_fileCount; } ///< files and links
+    std::uint32_t folderCount() const { return m_folderCount; } ///< without the root folder
 
-    // Settles the order of names: folded where that says the same with and without the table of
-    // folded characters and no two names of a folder become one.
+    /// Decides the order of names, once all items are there: folded if the table of folded
+    /// characters makes no difference to it and no two names of a folder become one.
     NameOrder settleOrder();
 
-    // Appends the B-tree to the image and gives its size in bytes. Needs the order to be settled.
+    /// Appends the B-tree to the image and gives its size in bytes. To be called after
+    /// settleOrder().
     std::uint64_t write(ImageFile &image) const;
 
 private:

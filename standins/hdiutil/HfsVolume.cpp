@@ -7,6 +7,7 @@
 
 namespace hfs
 {
+
 namespace
 {
 
@@ -20,10 +21,9 @@ constexpr std::uint32_t lastMountedVersion = 0x31302E30; // '10.0'
 constexpr std::uint32_t clumpSize = 16 * blockSize;
 constexpr std::uint64_t onlyRomanEncoding = 1;
 constexpr std::size_t finderInfoSize = 32;
-constexpr std::size_t forkSize = 80;
 
 constexpr std::uint64_t bitsPerBlock = std::uint64_t{blockSize} * 8;
-constexpr std::uint64_t mostBlocks = std::numeric_limits<std::uint32_t>::max();
+constexpr std::uint64_t maxBlocks = std::numeric_limits<std::uint32_t>::max();
 
 std::uint64_t blocksFor(std::uint64_t size)
 {
@@ -39,20 +39,11 @@ std::uint64_t identifier(ByteView bytes)
     return hash;
 }
 
-Item rootItem(std::uint16_t permissions, std::time_t modified)
-{
-    Item item;
-    item.kind = ItemKind::Folder;
-    item.permissions = permissions;
-    item.modified = dateFrom(modified);
-    return item;
-}
-
 } // namespace
 
-Volume::Volume(ImageFile &image, std::u16string_view name, std::uint16_t permissions,
-               std::time_t modified)
-    : m_image(image), m_catalog(name, rootItem(permissions, modified)), m_modified(modified)
+Volume::Volume(ImageFile &image, std::u16string_view name, const struct stat &rootFolder)
+    : m_image(image), m_catalog(name, itemFrom(ItemKind::Folder, rootFolder)),
+      m_modified(rootFolder.st_mtime)
 {
     m_image.append(Bytes(blockSize)); // the volume header's place
 }
@@ -64,8 +55,8 @@ std::uint32_t Volume::nextBlock() const
 
 bool Volume::hasRoomFor(std::uint64_t size) const
 {
-    const auto most = mostBlocks * blockSize - m_image.position();
-    return size <= most;
+    const auto room = maxBlocks * blockSize - m_image.position();
+    return size <= room;
 }
 
 void Volume::beginFork()
@@ -83,11 +74,10 @@ Fork Volume::endFork(std::uint64_t size)
 void Volume::finish()
 {
     const auto order = m_catalog.settleOrder();
-    SpecialFiles files;
-    files.catalog = writeCatalog();
-    files.extents = writeExtents();
-    files.allocation = writeAllocation();
-    const auto volumeHeader = header(order, files);
+    const Fork catalog = writeCatalog();
+    const Fork extents = writeExtents();
+    const Fork allocation = writeAllocation();
+    const auto volumeHeader = header(order, catalog, extents, allocation);
     Bytes lastBlock(blockSize - volumeHeaderCopyFromEnd);
     lastBlock.insert(lastBlock.end(), volumeHeader.begin(), volumeHeader.end());
     lastBlock.resize(blockSize);
@@ -117,7 +107,7 @@ Fork Volume::writeAllocation()
     std::uint64_t ownBlocks = 1;
     while (ownBlocks * bitsPerBlock < before + ownBlocks)
         ++ownBlocks;
-    if (before + ownBlocks > mostBlocks)
+    if (before + ownBlocks > maxBlocks)
         throw standin::Failure(standin::Failed, "The folder is too large for an HFS+ volume");
     m_totalBlocks = static_cast<std::uint32_t>(before + ownBlocks);
     for (std::uint64_t block = 0; block < ownBlocks; ++block) {
@@ -132,7 +122,8 @@ Fork Volume::writeAllocation()
     return endFork(ownBlocks * blockSize);
 }
 
-Bytes Volume::header(NameOrder order, const SpecialFiles &files) const
+Bytes Volume::header(NameOrder order, const Fork &catalog, const Fork &extents,
+                     const Fork &allocation) const
 {
     const bool isBinary = order == NameOrder::Binary;
     const auto modified = dateFrom(m_modified);
@@ -146,9 +137,9 @@ Bytes Volume::header(NameOrder order, const SpecialFiles &files) const
     out.u32(clumpSize).u32(clumpSize).u32(m_catalog.nextId()).u32(0); // never mounted for writing
     out.u64(onlyRomanEncoding);
     out.zeros(finderInfoSize - sizeof(std::uint64_t)).u64(identifier(header));
-    appendFork(header, files.allocation, blockSize);
-    appendFork(header, files.extents, extentsNodeSize);
-    appendFork(header, files.catalog, catalogNodeSize);
+    appendFork(header, allocation, blockSize);
+    appendFork(header, extents, extentsNodeSize);
+    appendFork(header, catalog, catalogNodeSize);
     out.zeros(2 * forkSize); // no attributes file, no startup file
     return header;
 }

@@ -1,44 +1,44 @@
 #include "HybridImage.h"
 
 #include "Checks.h"
-#include "Failure.h"
 #include "RunToEnd.h"
-#include "Utf8.h"
 
-#include <unicode/uchar.h>
-
-#include <filesystem>
+#include <QList>
+#include <QString>
 
 namespace
 {
 
-constexpr std::size_t longestVolumeName = 32;
+constexpr std::size_t maxVolumeNameSize = 32; // bytes
 
 std::vector<std::string> excludedPaths(const standin::OutputFile &output)
 {
-    const std::filesystem::path target = output.target();
-    const auto folder =
-        standin::resolved(target.has_parent_path() ? target.parent_path().string() : ".");
-    std::vector<std::string> paths{folder / target.filename()};
-    if (!output.temporaryPath().empty())
-        paths.push_back(folder / std::filesystem::path(output.temporaryPath()).filename());
+    std::vector<std::string> paths = output.names();
+    for (std::string &path : paths)
+        path = standin::resolved(output.folder()) + '/' + path;
     return paths;
+}
+
+bool isControl(char32_t character)
+{
+    const auto category = QChar::category(character);
+    return category == QChar::Other_Control || category == QChar::Other_Format
+        || category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
 }
 
 } // namespace
 
-std::string hybridVolumeName(std::string_view name)
+std::string hybridVolumeName(const std::string &name)
 {
     std::string result;
-    while (!name.empty()) {
-        const auto character = firstCharacter(name);
-        name.remove_prefix(character.bytes.size());
-        if (character.code && u_iscntrl(static_cast<UChar32>(*character.code)))
+    for (const char32_t character : QString::fromStdString(name).toUcs4()) {
+        if (isControl(character))
             continue;
-        const auto text = character.code ? character.bytes : "_";
-        if (result.size() + text.size() > longestVolumeName)
+        const bool isUtf8 = character != QChar::ReplacementCharacter;
+        const auto bytes = isUtf8 ? QString::fromUcs4(&character, 1).toStdString() : "_";
+        if (result.size() + bytes.size() > maxVolumeNameSize)
             break;
-        result += text;
+        result += bytes;
     }
     return result.empty() ? "Untitled" : result;
 }
@@ -47,7 +47,7 @@ std::vector<std::string> hybridArguments(const std::string &source, const std::s
                                          const std::vector<std::string> &excluded,
                                          int outputDescriptor)
 {
-    // -map takes every path as it stands, unlike the command emulations with their '=' and
+    // -map takes every path as it is, unlike the command emulations with their '=' and
     // patterns. Without -changes_pending an empty folder gives status 0 and no image. A file that
     // vanishes is filled with zeros and reported as SORRY, hence -return_with. Devices with 512
     // byte sectors find the HFS Plus partition only with that block size in the partition map.
@@ -75,14 +75,12 @@ std::vector<std::string> hybridArguments(const std::string &source, const std::s
 void writeHybridImage(const std::string &source, const std::string &volumeName,
                       const standin::OutputFile &output)
 {
-    standin::Command command;
-    command.program = "xorriso";
-    command.package = "xorriso";
+    standin::Command command{.program = "xorriso", .package = "xorriso"};
     command.arguments = hybridArguments(standin::resolved(source), hybridVolumeName(volumeName),
                                         excludedPaths(output), output.descriptor());
     command.passed = {output.descriptor()};
-    command.hollowWords = "Image write cancelled"; // follows the reason
-    const auto finished = standin::runToEnd(command, [](std::string_view) {});
+    command.ignoredWords = "Image write cancelled"; // follows the reason
+    const auto finished = standin::runToEnd(command, standin::discard);
     if (!finished.succeeded())
         output.failWithWords(source, finished.lastWords);
 }

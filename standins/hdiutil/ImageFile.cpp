@@ -24,7 +24,7 @@ struct Range {
 };
 
 // The next range of data at or after `from`, empty at `end` when only a hole follows. A file system
-// that knows no holes has data everywhere.
+// without holes has data everywhere.
 Range nextData(int source, std::uint64_t from, std::uint64_t end)
 {
     const off_t data = ::lseek(source, static_cast<off_t>(from), SEEK_DATA);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "BigEndian.h"
+#include "HfsFormat.h"
 
 #include <sys/stat.h>
 
@@ -11,29 +11,32 @@
 namespace hfs
 {
 
-// The image as it grows: bytes are appended through a buffer, so that thousands of small files cost
-// few system calls, and what is skipped stays a hole of the file. Failures name the path given.
+/// The image as it grows: bytes are appended through a buffer, so that thousands of small files
+/// cost few system calls, and what is skipped stays a hole of the file. Every member fails with the
+/// path given if the image cannot be written.
 class ImageFile
 {
 public:
-    // Borrows a descriptor that is open for writing on an empty file.
+    /// Borrows a descriptor that is open for writing on an empty file.
     ImageFile(int descriptor, std::string path);
 
+    /// Where the next byte goes.
     std::uint64_t position() const { return m_bufferStart + m_used; }
 
     void append(ByteView bytes);
 
-    // Moves on to the next multiple of the alignment; the bytes between read as zero.
+    /// Moves on to the next multiple of the alignment; the bytes between read as zero.
     void align(std::uint32_t alignment);
 
-    // Appends the content of a regular file of which fstat() said `status`, keeping its holes, and
-    // gives the number of bytes that it had: never more than `status` says, less when it was
-    // shortened meanwhile. Read errors name `sourcePath`.
+    /// Appends the content of a regular file of which fstat() gave `status`, keeping its holes, and
+    /// gives the number of bytes that it had: never more than the size in `status`, less if it was
+    /// shortened meanwhile. Read errors name `sourcePath`.
     std::uint64_t appendFile(int source, const struct stat &status, const std::string &sourcePath);
 
-    // Writes at a place that was passed already.
+    /// Writes at a place before position(), which stays as it is.
     void writeAt(std::uint64_t offset, ByteView bytes);
 
+    /// Writes what is in the buffer. To be called after the last append().
     void flush();
 
 private:

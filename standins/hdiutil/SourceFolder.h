@@ -14,29 +14,30 @@
 namespace source
 {
 
-// Raises the limit of open files as far as it goes: a walk keeps one open for each level.
+/// Raises the limit of open files as far as it goes: a walk keeps one open for each level.
 void allowDeepFolders();
 
-// The folder to pack, through links. Fails when it is no folder or may not be read.
+/// The folder to pack, through links. Fails if it is not a folder or may not be read.
 standin::FileDescriptor openRoot(const std::string &path);
 
-// All names but "." and "..", sorted by their bytes.
+/// All names but "." and "..", sorted by their bytes, so that one tree always gives one image.
 std::vector<std::string> listNames(const standin::FileDescriptor &folder, const std::string &path);
 
+/// Nothing if the item has vanished. A link is not followed.
 std::optional<struct stat> statusOf(const standin::FileDescriptor &folder, const std::string &name,
                                     const std::string &path);
 
-// Not open when the item has vanished. Fails when it is not a folder, or a regular file, any more.
+/// Not open if the item has vanished. Fail if it is not a folder, or a regular file, any more.
 standin::FileDescriptor openFolder(const standin::FileDescriptor &parent, const std::string &name,
                                    const std::string &path);
 standin::FileDescriptor openFile(const standin::FileDescriptor &parent, const std::string &name,
                                  const std::string &path);
 
-// Where a symbolic link leads.
+/// Where a symbolic link leads; nothing if it has vanished.
 std::optional<std::string> linkTarget(const standin::FileDescriptor &folder,
                                       const std::string &name, const std::string &path);
 
-// Status of what is open.
+/// Status of what is open. Only this can be trusted: what has a name may be replaced at any time.
 struct stat statusOf(const standin::FileDescriptor &file, const std::string &path);
 
 } // namespace source

@@ -2,9 +2,12 @@
 
 #include "Failure.h"
 
+#include <QByteArray>
+#include <QDataStream>
+#include <QIODevice>
+
 #include <unistd.h>
 
-#include <algorithm>
 #include <bit>
 #include <cerrno>
 #include <utility>
@@ -16,39 +19,30 @@ namespace
 {
 
 constexpr std::int64_t headerSize = 54;
-constexpr std::int64_t largestData = (std::int64_t{1} << 31) - 1024;
+constexpr std::int64_t maxData = (std::int64_t{1} << 31) - 1024;
 constexpr std::size_t bufferSize = 65536;
-
-void appendNumber(std::string &text, std::uint64_t value, int bytes)
-{
-    for (int shift = 8 * (bytes - 1); shift >= 0; shift -= 8)
-        text += static_cast<char>(value >> shift & 0xff);
-}
 
 // An 80-bit extended number (IEEE 754): exponent with the bias 16383, then 64 bits that begin with
 // the leading one.
-void appendExtended(std::string &text, std::uint64_t value)
+void writeExtended(QDataStream &out, quint64 value)
 {
     const int shift = std::countl_zero(value);
-    appendNumber(text, static_cast<std::uint64_t>(16383 + 63 - shift), 2);
-    appendNumber(text, value << shift, 8);
+    out << static_cast<quint16>(16383 + 63 - shift) << (value << shift);
 }
 
-std::string header(std::int64_t dataBytes, int samplesPerSecond)
+QByteArray header(std::int64_t dataBytes, int samplesPerSecond)
 {
-    const auto size = static_cast<std::uint64_t>(dataBytes);
-    std::string text = "FORM";
-    appendNumber(text, size + headerSize - 8, 4);
-    text += "AIFFCOMM";
-    appendNumber(text, 18, 4);
-    appendNumber(text, 1, 2); // channels
-    appendNumber(text, size / 2, 4); // sample frames
-    appendNumber(text, 16, 2); // bits a sample
-    appendExtended(text, static_cast<std::uint64_t>(samplesPerSecond));
-    text += "SSND";
-    appendNumber(text, size + 8, 4);
-    appendNumber(text, 0, 8); // offset and block size: unused
-    return text;
+    const auto size = static_cast<quint32>(dataBytes);
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly); // big-endian
+    out.writeRawData("FORM", 4);
+    out << static_cast<quint32>(size + headerSize - 8);
+    out.writeRawData("AIFFCOMM", 8);
+    out << quint32{18} << quint16{1} << quint32{size / 2} << quint16{16}; // channels, frames, bits
+    writeExtended(out, static_cast<quint64>(samplesPerSecond));
+    out.writeRawData("SSND", 4);
+    out << quint32{size + 8} << quint64{0}; // offset and block size: unused
+    return bytes;
 }
 
 } // namespace
@@ -61,7 +55,7 @@ AiffWriter::AiffWriter(OutputFile &file) : m_file(file)
 void AiffWriter::add(std::string_view samples)
 {
     m_bytes += static_cast<std::int64_t>(samples.size());
-    if (m_bytes > largestData)
+    if (m_bytes > maxData)
         failWithError(m_file.target(), EFBIG);
     m_buffer += samples;
     if (m_buffer.size() >= bufferSize)
@@ -82,8 +76,8 @@ void AiffWriter::finish(int samplesPerSecond)
     if (m_bytes < 2)
         add(std::string(static_cast<std::size_t>(samplesPerSecond / 10 * 2), '\0'));
     flush();
-    const std::string text = header(m_bytes & ~std::int64_t{1}, samplesPerSecond);
-    if (::pwrite(m_file.descriptor(), text.data(), text.size(), 0) != headerSize)
+    const QByteArray bytes = header(m_bytes & ~std::int64_t{1}, samplesPerSecond);
+    if (::pwrite(m_file.descriptor(), bytes.data(), headerSize, 0) != headerSize)
         failWithError(m_file.target(), errno);
 }
 

@@ -3,18 +3,14 @@
 #include "AiffWriter.h"
 #include "Failure.h"
 #include "OutputFile.h"
-#include "Pipe.h"
-#include "Player.h"
 #include "Program.h"
 #include "RunToEnd.h"
 #include "SpeechText.h"
 #include "Synthesiser.h"
-#include "Voices.h"
-#include "WavHeader.h"
 
-#include <fcntl.h>
+#include <unistd.h>
 
-#include <array>
+#include <algorithm>
 #include <cerrno>
 #include <optional>
 
@@ -22,6 +18,8 @@ using namespace standin;
 
 namespace
 {
+
+constexpr std::chrono::seconds soundServerTimeout{3};
 
 struct Job {
     std::string text;
@@ -48,17 +46,6 @@ Job jobFrom(const Arguments &arguments)
     return job;
 }
 
-// Without anything to speak the synthesiser writes nothing at all, not even a header.
-int sampleRateIn(std::string_view header)
-{
-    if (header.empty())
-        return usualSampleRate;
-    const auto rate = wavSampleRate(header);
-    if (!rate)
-        fail("espeak-ng", "Gives no sound that is understood here");
-    return *rate;
-}
-
 void save(const Speech &speech, const std::string &target)
 {
     OutputFile file(target);
@@ -69,8 +56,7 @@ void save(const Speech &speech, const std::string &target)
         header += bytes.substr(0, missing);
         aiff.add(bytes.substr(missing));
     };
-    const Synthesis synthesis(speech);
-    const Finished finished = runToEnd(synthesis.command(), take);
+    const Finished finished = runToEnd(synthesis(speech), take);
     if (!finished.succeeded())
         fail("espeak-ng", finished.lastWords);
     aiff.finish(sampleRateIn(header));
@@ -91,10 +77,36 @@ std::string readExactly(int descriptor, std::size_t size)
     return bytes;
 }
 
+bool soundServerAnswers()
+try {
+    const Command question{
+        .program = "pactl", .package = "pulseaudio-utils", .arguments = {"info"}};
+    return runToEnd(question, discard, soundServerTimeout).succeeded();
+} catch (const Failure &) { // not installed: no server of ours to talk to
+    return false;
+}
+
+// Through the sound server if one answers, else straight to the sound card. Both players end at
+// once with a status if there is no device.
+Command playerCommand(int samples, int samplesPerSecond)
+{
+    const std::string rate = std::to_string(samplesPerSecond);
+    if (soundServerAnswers()) {
+        return {.program = "paplay",
+                .package = "pulseaudio-utils",
+                .arguments = {"--raw", "--rate=" + rate, "--channels=1", "--format=s16le"},
+                .input = samples};
+    }
+    return {.program = "aplay",
+            .package = "alsa-utils",
+            .arguments = {"-q", "-t", "raw", "-f", "S16_LE", "-r", rate, "-c", "1", "-"},
+            .input = samples};
+}
+
 void play(int samples, int samplesPerSecond)
 {
     const Command player = playerCommand(samples, samplesPerSecond);
-    const Finished played = runToEnd(player, [](std::string_view) {});
+    const Finished played = runToEnd(player, discard);
     if (!played.succeeded())
         fail(player.program, played.lastWords);
 }
@@ -104,8 +116,7 @@ void play(int samples, int samplesPerSecond)
 void readAloud(const Speech &speech)
 {
     Pipe samples;
-    const Synthesis synthesis(speech);
-    Command command = synthesis.command();
+    Command command = synthesis(speech);
     command.output = samples.writeEnd.number();
     Child synthesiser(command);
     samples.writeEnd.close();
@@ -122,7 +133,7 @@ void speak(const Job &job)
     if (!rate)
         throw Failure(UsageWrong, job.rate + ": Not a speaking rate");
     const std::string text = speakableText(job.text);
-    const Speech speech{text, requireVoice(job.voice), *rate};
+    const Speech speech{textFile(text), voiceCode(job.voice), *rate};
     if (job.output)
         save(speech, *job.output);
     else if (!text.empty())

@@ -1,5 +1,5 @@
-// Proves that a conversion which cannot be done says so in one line, leaves an older output byte
-// for byte and nothing else, and reads no file but its source.
+// Proves that a conversion which cannot be done gives its reason in one line, leaves an older
+// output byte for byte and nothing else, and reads no file but its source.
 #include "SampleMedia.h"
 
 #include <QTest>

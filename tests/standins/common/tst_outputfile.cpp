@@ -66,7 +66,7 @@ private Q_SLOTS:
         }
     }
 
-    void refusesWhatIsNoFileToReplace()
+    void refusesWhatIsNotARegularFile()
     {
         QCOMPARE(::mkfifo(qPrintable(m_dir->filePath(u"fifo"_s)), 0600), 0);
         writeFile(m_dir->filePath(u"file"_s), "older");

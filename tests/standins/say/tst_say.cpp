@@ -97,7 +97,7 @@ private Q_SLOTS:
     void takesAnyTextFirst()
     {
         // The last is as long as the kernel lets one argument be; the controls are dropped, so that
-        // it is soon said.
+        // it is soon spoken.
         for (const QString &text : {u"--voice=German"_s, u"-h"_s, u"--version"_s,
                                     u"<speak><break time=\"30s\"/></speak>"_s,
                                     u"Gr\u00fc\u00dfe \u65e5\u672c \U0001f600"_s,

@@ -22,7 +22,7 @@ private Q_SLOTS:
             {"y\xed\xa0\x80z", "yz"}, // surrogate
             {"y\xf4\x90\x80\x80z", "yz"}, // beyond Unicode
             {"a\xe2\x82", "a"}, // cut at the end
-            {"\xe2\x82z", "z"}, // cut before a letter
+            {"\xe2\x82z", "z"}, // cut before another character
         };
         for (const auto &[text, expected] : cases)
             QCOMPARE(QByteArray::fromStdString(standin::speakableText(text)),

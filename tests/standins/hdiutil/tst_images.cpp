@@ -30,7 +30,7 @@ QJsonObject itemsOf(const ImageTrial &trial)
 
 } // namespace
 
-class ImagesTest : public QObject
+class TestImages : public QObject
 {
     Q_OBJECT
 
@@ -245,5 +245,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(ImagesTest)
-#include "ImagesTest.moc"
+QTEST_GUILESS_MAIN(TestImages)
+#include "tst_images.moc"

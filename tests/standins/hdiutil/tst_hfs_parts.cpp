@@ -3,8 +3,8 @@
 // while they are copied.
 
 #include "HfsBTree.h"
+#include "HfsFormat.h"
 #include "HfsNames.h"
-#include "HfsRecords.h"
 #include "HybridImage.h"
 #include "ImageFile.h"
 #include "ImageTrial.h"
@@ -18,7 +18,7 @@
 
 using namespace Qt::StringLiterals;
 
-class HfsPartsTest : public QObject
+class TestHfsParts : public QObject
 {
     Q_OBJECT
 
@@ -102,7 +102,7 @@ private Q_SLOTS:
     }
 
 private:
-    // The sizes when the image is told of it and when it is read; a large file has a hole.
+    // The sizes when the image gets the status and when it reads the file; a large file has a hole.
     static void takesWhatIsThere(qint64 size, qint64 changedSize)
     {
         QTemporaryFile source;
@@ -128,5 +128,5 @@ private:
     }
 };
 
-QTEST_GUILESS_MAIN(HfsPartsTest)
-#include "HfsPartsTest.moc"
+QTEST_GUILESS_MAIN(TestHfsParts)
+#include "tst_hfs_parts.moc"

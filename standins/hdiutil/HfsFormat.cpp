@@ -1,10 +1,11 @@
-#include "HfsRecords.h"
+#include "HfsFormat.h"
 
 #include <algorithm>
 #include <limits>
 
 namespace hfs
 {
+
 namespace
 {
 
@@ -25,15 +26,13 @@ constexpr std::uint16_t linkMode = 0120000;
 constexpr std::uint32_t linkType = 0x736C6E6B; // 'slnk'
 constexpr std::uint32_t linkCreator = 0x72686170; // 'rhap'
 
-constexpr std::size_t forkSize = 80;
-
 std::uint32_t clampedDate(std::int64_t seconds)
 {
     constexpr std::int64_t latest = std::numeric_limits<std::uint32_t>::max();
     return static_cast<std::uint32_t>(std::clamp<std::int64_t>(seconds, 0, latest));
 }
 
-// Whoever opens the image is not the one who made it: all may read what he could.
+// Whoever opens the image is not the one who made it: all may read what that person could.
 std::uint16_t modeOf(const Item &item)
 {
     switch (item.kind) {
@@ -47,53 +46,11 @@ std::uint16_t modeOf(const Item &item)
     return linkMode | 0777;
 }
 
-void appendDates(BigEndianWriter &out, std::uint32_t modified)
-{
-    // Created, content modified, attributes modified, accessed: the one time that copies keep.
-    out.u32(modified).u32(modified).u32(modified).u32(modified).u32(0);
-}
-
-void appendPermissions(BigEndianWriter &out, std::uint16_t mode)
-{
-    out.u32(unknownOwner).u32(unknownOwner).u8(0).u8(0).u16(mode).u32(0);
-}
-
 void appendName(BigEndianWriter &out, std::u16string_view name)
 {
     out.u16(static_cast<std::uint16_t>(name.size()));
     for (const char16_t unit : name)
         out.u16(unit);
-}
-
-Bytes folderRecord(const Item &item, std::uint32_t id, NameOrder order)
-{
-    const bool countsFolders = order == NameOrder::Binary;
-    Bytes record;
-    BigEndianWriter out(record);
-    out.u16(FolderRecord).u16(countsFolders ? hasFolderCount : 0).u32(item.items).u32(id);
-    appendDates(out, item.modified);
-    appendPermissions(out, modeOf(item));
-    out.zeros(32); // Finder's information
-    out.u32(0).u32(countsFolders ? item.folders : 0);
-    return record;
-}
-
-Bytes fileRecord(const Item &item, std::uint32_t id)
-{
-    Bytes record;
-    BigEndianWriter out(record);
-    out.u16(FileRecord).u16(threadExists).u32(0).u32(id);
-    appendDates(out, item.modified);
-    appendPermissions(out, modeOf(item));
-    if (item.kind == ItemKind::Link)
-        out.u32(linkType).u32(linkCreator);
-    else
-        out.zeros(8);
-    out.zeros(24); // Finder's information
-    out.u32(0).u32(0);
-    appendFork(record, item.data);
-    out.zeros(forkSize); // no resource fork
-    return record;
 }
 
 } // namespace
@@ -112,7 +69,13 @@ std::uint32_t localDateFrom(std::time_t time)
     return clampedDate(std::int64_t{dateFrom(time)} + local.tm_gmtoff);
 }
 
-// "Fork Data Structure"; an empty fork has no extent.
+Item itemFrom(ItemKind kind, const struct stat &status)
+{
+    return {.kind = kind,
+            .permissions = static_cast<std::uint16_t>(status.st_mode & 0777),
+            .modified = dateFrom(status.st_mtime)};
+}
+
 void appendFork(Bytes &out, const Fork &fork, std::uint32_t clumpSize)
 {
     BigEndianWriter writer(out);
@@ -132,7 +95,24 @@ Bytes catalogKey(std::uint32_t parentId, std::u16string_view name)
 
 Bytes itemRecord(const Item &item, std::uint32_t id, NameOrder order)
 {
-    return item.kind == ItemKind::Folder ? folderRecord(item, id, order) : fileRecord(item, id);
+    const bool isFolder = item.kind == ItemKind::Folder;
+    const bool countsFolders = isFolder && order == NameOrder::Binary;
+    Bytes record;
+    BigEndianWriter out(record);
+    out.u16(isFolder ? FolderRecord : FileRecord);
+    out.u16(isFolder ? (countsFolders ? hasFolderCount : 0) : threadExists);
+    out.u32(item.items).u32(id);
+    // Created, content modified, attributes modified, accessed: the one time that copies keep.
+    out.u32(item.modified).u32(item.modified).u32(item.modified).u32(item.modified).u32(0);
+    out.u32(unknownOwner).u32(unknownOwner).u8(0).u8(0).u16(modeOf(item)).u32(0);
+    const bool isLink = item.kind == ItemKind::Link;
+    out.u32(isLink ? linkType : 0).u32(isLink ? linkCreator : 0).zeros(24); // Finder's information
+    out.u32(0).u32(countsFolders ? item.folders : 0); // text encoding
+    if (!isFolder) {
+        appendFork(record, item.data);
+        out.zeros(forkSize); // no resource fork
+    }
+    return record;
 }
 
 Bytes threadRecord(ItemKind kind, std::uint32_t parentId, std::u16string_view name)
