@@ -3,7 +3,11 @@
 #include "FileDescriptor.h"
 #include "FolderAccess.h"
 
+#include <atomic>
+#include <condition_variable>
 #include <cstddef>
+#include <functional>
+#include <mutex>
 #include <optional>
 #include <vector>
 
@@ -54,4 +58,33 @@ private:
     std::vector<char> m_names;
     std::vector<Level> m_levels;
     std::size_t m_taken = 0;
+};
+
+/// Lets several threads walk one tree: who has much left to do gives a part of it to who has
+/// nothing. Each thread calls take() until it gives nothing, which is when all are done.
+class FolderShare
+{
+public:
+    /// Runs work(first) here and, on up to helpers other threads, work() on what is given away;
+    /// returns when everything is done. Where the system refuses a thread, fewer do the work.
+    static void run(unsigned helpers, FolderDescent &first,
+                    const std::function<void(FolderShare &, FolderDescent &)> &work);
+
+    /// Gives a part of the descent away if another thread waits for work; costs next to nothing if
+    /// none does.
+    void offer(FolderDescent &descent)
+    {
+        if (m_wanted.load(std::memory_order_relaxed) > 0)
+            give(descent);
+    }
+
+private:
+    void give(FolderDescent &descent);
+    std::optional<FolderBatch> take();
+
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::vector<FolderBatch> m_batches;
+    std::atomic<int> m_wanted = 0; ///< Those who wait less the batches that lie ready.
+    int m_busy = 0;
 };

@@ -1,8 +1,7 @@
 #include "FolderSize.h"
 
+#include "FolderAccess.h"
 #include "FolderDescent.h"
-#include "FolderEntries.h"
-#include "FolderShare.h"
 
 #include <fcntl.h>
 
@@ -49,10 +48,7 @@ std::uint64_t sizeOfWaiting(FolderDescent &descent, FolderEntries &entries, Fold
                 continue;
             descent.enter(std::move(folder));
             sum += sizeOfEntries(descent, entries, stop);
-            if (!share.wanted())
-                continue;
-            if (auto batch = descent.split())
-                share.give(std::move(*batch));
+            share.offer(descent);
         }
         if (descent.atTop() || !descent.leave())
             return sum;

@@ -1,7 +1,5 @@
 #include "PropertyListBinary.h"
 
-#include "PropertyListBudget.h"
-
 #include <QDateTime>
 #include <QTimeZone>
 #include <QtEndian>
@@ -140,11 +138,11 @@ private:
     static QVariant readDate(QByteArrayView bytes)
     {
         constexpr qint64 epoch = 978'307'200;
-        constexpr double farthest = 1e12; // some 30,000 years; the calendar reckons no further
+        constexpr double maxSeconds = 1e12; // some 30,000 years: further than the calendar reaches
         if (bytes.isNull())
             return {};
         const auto seconds = std::bit_cast<double>(bigEndian(bytes));
-        if (!(std::abs(seconds) <= farthest))
+        if (!(std::abs(seconds) <= maxSeconds))
             return {};
         return QDateTime::fromMSecsSinceEpoch(epoch * 1000 + qint64(seconds * 1000), Qt::UTC);
     }
@@ -227,10 +225,9 @@ bool isBinary(QByteArrayView bytes)
     return bytes.startsWith(signature);
 }
 
-std::optional<QVariant> readBinary(QByteArrayView bytes, const Limits &limits)
+QVariant readBinary(QByteArrayView bytes, const Limits &limits)
 {
-    const QVariant value = BinaryReader(bytes, limits).readDocument();
-    return value.isValid() ? std::optional(value) : std::nullopt;
+    return BinaryReader(bytes, limits).readDocument();
 }
 
 } // namespace PropertyList
