@@ -17,7 +17,7 @@ namespace
 {
 
 // A drawing for the sizes at which the full one would blur, see DrawnImage::file().
-constexpr int largestSmallSize = 32;
+constexpr int maxSmallSize = 32;
 constexpr float disabledPictureOpacity = 0.4F;
 
 enum class Kind { None, Symbol, Picture };
@@ -130,7 +130,7 @@ private:
     QString file(const QSize &size) const
     {
         const QString small = fileOf(m_kind, m_name + u"-small"_s);
-        const bool isSmall = std::max(size.width(), size.height()) <= largestSmallSize;
+        const bool isSmall = std::max(size.width(), size.height()) <= maxSmallSize;
         return isSmall && QFile::exists(small) ? small : fileOf(m_kind, m_name);
     }
 
