@@ -34,7 +34,7 @@ qint64 byDu(const QString &unit, const QByteArray &path)
 
 } // namespace
 
-class tst_FolderRemoval : public QObject
+class TestFolderRemoval : public QObject
 {
     Q_OBJECT
 
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QCOMPARE(removeBelow(m_home, "Library/Caches").refused, 0u);
     }
 
-    // A removal that is through before the order to stop arrives gets a larger folder.
+    // If a removal is complete before the stop request arrives, the next one gets a larger folder.
     void stopsWhereItStands()
     {
         FolderRemovalResult result;
@@ -188,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FolderRemoval)
+QTEST_GUILESS_MAIN(TestFolderRemoval)
 #include "tst_folderremoval.moc"

@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qint64 mostTime = 4'000; // Milliseconds, for a machine that has much else to do.
+constexpr qint64 maxTime = 4'000; // Milliseconds, for a busy machine.
 constexpr int wantedSwaps = 3'000;
 constexpr int wantedRounds = 30;
 
@@ -60,7 +60,7 @@ bool mountMemory(const QByteArray &path)
 
 } // namespace
 
-class tst_FolderRemoval_Attacks : public QObject
+class TestFolderRemovalAttacks : public QObject
 {
     Q_OBJECT
 
@@ -106,7 +106,7 @@ private Q_SLOTS:
         int rounds = 0;
         QElapsedTimer timer;
         for (timer.start();
-             timer.elapsed() < mostTime && (swaps < wantedSwaps || rounds < wantedRounds);
+             timer.elapsed() < maxTime && (swaps < wantedSwaps || rounds < wantedRounds);
              ++rounds) {
             const QByteArray home = m_home + QByteArray::number(rounds);
             makeNested(home + "/Library/Caches", 12, 4);
@@ -118,7 +118,7 @@ private Q_SLOTS:
                 here.append({home + one, home + other});
             const int swapsBefore = swaps;
             const std::jthread swapping = swapper(here, &swaps);
-            while (swaps == swapsBefore && timer.elapsed() < mostTime)
+            while (swaps == swapsBefore && timer.elapsed() < maxTime)
                 std::this_thread::yield();
             removed += removeBelow(home, "Library/Caches").removed;
         }
@@ -175,5 +175,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FolderRemoval_Attacks)
+QTEST_GUILESS_MAIN(TestFolderRemovalAttacks)
 #include "tst_folderremoval_attacks.moc"

@@ -32,7 +32,7 @@ void expectStale()
 
 } // namespace
 
-class tst_MiscTool_Files : public QObject
+class TestMiscToolFiles : public QObject
 {
     Q_OBJECT
 
@@ -119,5 +119,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_MiscTool_Files)
+QTEST_GUILESS_MAIN(TestMiscToolFiles)
 #include "tst_misctool_files.moc"

@@ -12,48 +12,34 @@
 #include <canberra.h>
 
 #include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-/// The desktop's alert sound, by the freedesktop sound theme through libcanberra. The library is
-/// loaded at the first sound: starting the program costs nothing for it, and a machine without the
-/// library, a sound server or a device is merely silent.
-class AlertSound
+// The desktop's alert sound, by the freedesktop sound theme through libcanberra. The library is
+// loaded at the first sound, so starting the program costs nothing for it. A machine without the
+// library, a sound server or a device is merely silent.
+void playAlert()
 {
-public:
-    AlertSound() : m_library(u"canberra"_s, 0)
-    {
-        ca_context *context = nullptr;
-        if (resolveSymbol(m_library, "ca_context_create", m_create)
-            && resolveSymbol(m_library, "ca_context_play", m_play)
-            && resolveSymbol(m_library, "ca_context_destroy", m_destroy)
-            && m_create(&context) == CA_SUCCESS)
-            m_context = context;
-    }
-    ~AlertSound()
-    {
-        if (m_context)
-            m_destroy(m_context);
-    }
-    AlertSound(const AlertSound &) = delete;
-    AlertSound &operator=(const AlertSound &) = delete;
-
-    void play() const
-    {
-        if (m_context)
-            m_play(m_context, 0, CA_PROP_EVENT_ID, "bell", CA_PROP_MEDIA_ROLE, "event", nullptr);
-    }
-
-private:
-    QLibrary m_library;
-    decltype(ca_context_create) *m_create = nullptr;
-    decltype(ca_context_play) *m_play = nullptr;
-    decltype(ca_context_destroy) *m_destroy = nullptr;
-    ca_context *m_context = nullptr;
-};
+    QLibrary library(u"canberra"_s, 0);
+    decltype(&ca_context_create) create = nullptr;
+    decltype(&ca_context_play) play = nullptr;
+    decltype(&ca_context_destroy) destroy = nullptr;
+    if (!resolveSymbol(library, "ca_context_create", create)
+        || !resolveSymbol(library, "ca_context_play", play)
+        || !resolveSymbol(library, "ca_context_destroy", destroy))
+        return;
+    static const auto context = [&] {
+        ca_context *made = nullptr;
+        const bool isMade = create(&made) == CA_SUCCESS;
+        return std::unique_ptr<ca_context, decltype(destroy)>(isMade ? made : nullptr, destroy);
+    }();
+    if (context)
+        play(context.get(), 0, CA_PROP_EVENT_ID, "bell", CA_PROP_MEDIA_ROLE, "event", nullptr);
+}
 
 // Swings a window left and right and leaves it where it was. A shake that still runs starts again
 // from its own beginning, so that the window never drifts. If the desktop places windows itself
@@ -170,8 +156,7 @@ void MiscTool::shakeWindow(QWidget *window)
 
 void MiscTool::playSystemSound()
 {
-    static const AlertSound sound;
-    sound.play();
+    playAlert();
 }
 
 void MiscTool::flashScreen()

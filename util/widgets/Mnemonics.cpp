@@ -70,18 +70,13 @@ qsizetype bestPlace(const QString &plain, const Predicate &willDo)
 }
 
 // "選択(&S)…": how languages are marked whose characters are not typed one by one.
-QString withBrackets(const QString &plain, const QSet<QChar> &taken, QChar preferred)
+QString withBrackets(const QString &plain, const QSet<QChar> &taken)
 {
     static const QRegularExpression ending(u"[\\s.…:：。]*$"_s);
     const auto place = ending.match(plain).capturedStart();
-    const auto inserted = [&](QChar c) {
-        return plain.left(place) + u"(&%1)"_s.arg(c) + plain.mid(place);
-    };
-    if (!preferred.isNull() && !taken.contains(preferred))
-        return inserted(preferred);
     for (char c = 'A'; c <= 'Z'; ++c) {
         if (!taken.contains(QLatin1Char(c)))
-            return inserted(QLatin1Char(c));
+            return plain.left(place) + u"(&%1)"_s.arg(QLatin1Char(c)) + plain.mid(place);
     }
     return plain;
 }
@@ -196,7 +191,7 @@ QString Mnemonics::marked(const QString &text, const QSet<QChar> &taken, QChar p
         place = bestPlace(plain, [preferred](QChar c) { return c == preferred; });
     if (place < 0)
         place = bestPlace(plain, isFree);
-    return place < 0 ? withBrackets(plain, taken, preferred) : QString(plain).insert(place, mark);
+    return place < 0 ? withBrackets(plain, taken) : QString(plain).insert(place, mark);
 }
 
 void Mnemonics::keepUnique(QWidget *page)

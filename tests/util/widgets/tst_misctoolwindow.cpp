@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_MiscToolWindow : public QObject
+class TestMiscToolWindow : public QObject
 {
     Q_OBJECT
 
@@ -87,5 +87,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_MiscToolWindow)
+QTEST_MAIN(TestMiscToolWindow)
 #include "tst_misctoolwindow.moc"
