@@ -63,7 +63,7 @@ FileDescriptor FolderAccess::openFolderOfSameMount(int parent, const char *name)
                          RESOLVE_NO_XDEV | RESOLVE_NO_SYMLINKS | RESOLVE_BENEATH);
 }
 
-FileDescriptor FolderAccess::openWayDown(int parent, const char *way)
+FileDescriptor FolderAccess::openFolderBelow(int parent, const char *way)
 {
     return openResolving(parent, way, O_PATH | asFolder, RESOLVE_NO_SYMLINKS | RESOLVE_BENEATH);
 }

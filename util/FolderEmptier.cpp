@@ -117,11 +117,11 @@ void Emptier::enterOrRemove(FolderDescent &descent, const char *name)
     switch (errno) {
     case ENOENT:
         break;
-    case ENOTDIR: // Swapped for something else since it was listed.
+    case ENOTDIR: // Exchanged for something else since it was listed.
     case ELOOP:
         removeItem(descent.folder(), name, 0);
         break;
-    case EACCES: // Cannot be looked into, but may well be empty.
+    case EACCES: // Cannot be read, but may be empty.
         if (!removeItem(descent.folder(), name, AT_REMOVEDIR) && isNotEmpty(errno))
             m_result.refuse(EACCES);
         break;

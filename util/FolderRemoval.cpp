@@ -28,7 +28,7 @@ FolderRemovalResult refusal(int error, const QByteArray &base, const QByteArray 
     return {.removed = 0, .refused = 1, .firstError = error};
 }
 
-bool isPlainWay(const QByteArray &path)
+bool isPlainPath(const QByteArray &path)
 {
     const QList<QByteArray> names = path.split('/');
     return !path.contains('\0') && std::ranges::none_of(names, [](const QByteArray &name) {
@@ -121,14 +121,14 @@ FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
 {
     if (stop.stop_requested())
         return refusal(ECANCELED, base, path);
-    if (!isPlainWay(path))
+    if (!isPlainPath(path))
         return refusal(EINVAL, base, path);
     FileDescriptor parent = openBase(base);
     if (!parent)
         return refusal(errno, base, path);
     const qsizetype slash = path.lastIndexOf('/');
     if (slash > 0) {
-        parent = FolderAccess::openWayDown(parent.get(), path.first(slash).constData());
+        parent = FolderAccess::openFolderBelow(parent.get(), path.first(slash).constData());
         if (!parent && errno == ENOENT)
             return {};
         if (!parent)

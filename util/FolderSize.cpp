@@ -14,7 +14,7 @@ namespace
 
 constexpr std::size_t entriesBlock = 64 * 1024;
 
-// Adds up the innermost folder's entries and lets its sub-folders wait.
+// Adds up the innermost folder's entries and adds its sub-folders to those that wait.
 std::uint64_t sizeOfEntries(FolderDescent &descent, FolderEntries &entries,
                             const std::stop_token &stop)
 {

@@ -139,7 +139,7 @@ private:
         set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
         set(CURLOPT_USERAGENT, "Toolvane");
         set(CURLOPT_NOSIGNAL, 1L); // signals would end up on any thread
-        set(CURLOPT_QUICK_EXIT, 1L); // waits for no look-up of a name that hangs
+        set(CURLOPT_QUICK_EXIT, 1L); // does not wait for the look-up of a name that hangs
         set(CURLOPT_WRITEFUNCTION, &Transfer::takeBody);
         set(CURLOPT_WRITEDATA, this);
         set(CURLOPT_HEADERFUNCTION, &Transfer::takeHeader);
@@ -149,8 +149,8 @@ private:
         set(CURLOPT_XFERINFODATA, this);
     }
 
-    /// The headers that libcurl adds by itself are taken out, by a line with nothing behind the
-    /// colon, unless the caller gives them.
+    /// The headers that libcurl adds by itself are removed, by a line with nothing after the colon,
+    /// unless the caller gives them.
     void setHeaders()
     {
         QList<QByteArray> lines = m_request.headers;
@@ -188,7 +188,7 @@ private:
         }
     }
 
-    // libcurl takes any other number than the one it gave as a request to end the transfer.
+    // libcurl ends the transfer if a callback returns any other number than the given size.
     static constexpr std::size_t refused = 0;
 
     static std::size_t takeBody(const char *data, std::size_t, std::size_t size, void *transfer)

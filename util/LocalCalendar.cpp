@@ -10,8 +10,8 @@
 namespace
 {
 
-// ICU's own default locale ignores LC_TIME, is fixed at its first use, and changes nothing that
-// this program shows; what the user set for dates is asked anew each time.
+// ICU's own default locale ignores LC_TIME and is fixed at its first use; the user's setting for
+// dates is read anew each time.
 icu::Locale dateLocale()
 {
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {

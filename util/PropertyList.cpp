@@ -15,7 +15,7 @@ namespace
 {
 
 /// Reads the XML form by recursive descent. A document that declares entities of its own is
-/// refused: property lists have no use for them and attackers do. An empty QVariant stands for
+/// refused: property lists have no use for them and attackers do. An empty QVariant means
 /// "refused" throughout; no value of a property list is one.
 class XmlReader
 {
@@ -31,7 +31,7 @@ public:
         if (!nextElement() || m_xml.name() != "plist"_L1 || !nextElement())
             return {};
         const QVariant value = readValue();
-        // Nothing may follow the value inside the list, and only comments the list.
+        // Nothing may follow the value inside the list, and only comments may follow the list.
         if (!value.isValid() || nextElement())
             return {};
         while (!m_xml.atEnd())
@@ -41,7 +41,7 @@ public:
 
 private:
     /// Goes to the next start tag within the element that is open; false at its end tag, and after
-    /// raising an error where something else stands.
+    /// raising an error if there is anything else.
     bool nextElement()
     {
         while (!m_xml.atEnd()) {

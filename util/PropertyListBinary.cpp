@@ -25,7 +25,7 @@ quint64 bigEndian(QByteArrayView bytes)
     return number;
 }
 
-/// An empty QVariant stands for "refused" throughout; no value of a property list is one.
+/// An empty QVariant means "refused" throughout; no value of a property list is one.
 class BinaryReader
 {
 public:
@@ -50,7 +50,7 @@ public:
     }
 
 private:
-    /// Bytes before the trailer, or a null view where they would pass it.
+    /// Bytes before the trailer, or a null view if they would pass it.
     QByteArrayView slice(quint64 offset, quint64 size) const
     {
         if (offset > m_end || size > m_end - offset)
@@ -115,7 +115,7 @@ private:
         }
     }
 
-    /// Up to 4 bytes are without a sign, 8 bytes with one; 16 bytes hold what is past its end.
+    /// Up to 4 bytes are unsigned, 8 bytes are signed; 16 bytes hold larger numbers.
     static QVariant readInteger(QByteArrayView bytes)
     {
         if (bytes.isNull() || bytes.size() > 16)
@@ -189,7 +189,7 @@ private:
         return list;
     }
 
-    /// The references of all keys stand before those of the values.
+    /// The references of all keys come before those of the values.
     QVariant readDictionary(QByteArrayView references)
     {
         if (references.isNull() || !m_budget.enter())

@@ -5,7 +5,7 @@
 namespace PropertyList
 {
 
-/// What a reader may still spend; shared by the two forms.
+/// What a reader may still use of its limits; shared by the two forms.
 class Budget
 {
 public:

@@ -1,5 +1,5 @@
-// Proves that nobody who changes a folder while it is removed, or mounts something in it, can make
-// the removal touch anything outside.
+// Proves that the removal touches nothing outside, even if another program changes the folder while
+// it is removed or mounts something in it.
 
 #include "FolderDescent.h"
 #include "FolderRemoval.h"
@@ -40,7 +40,7 @@ std::jthread swapper(const Pairs &pairs, std::atomic<int> *swaps)
                 *swaps += renameat2(AT_FDCWD, one.constData(), AT_FDCWD, other.constData(),
                                     RENAME_EXCHANGE)
                     == 0;
-            // Without a pause the removal would hardly get at the folders in between.
+            // Without a pause the removal would hardly find the folders in their places.
             std::this_thread::sleep_for(std::chrono::microseconds(1));
         }
     });
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void cleanup() { QCOMPARE(difference(m_before, snapshot(m_outside)), {}); }
 
-    // Names in a home folder that are exchanged. There "bait0" leads outside, where "Caches" is,
+    // Names in a home folder that are exchanged. "bait0" leads outside, where there is a "Caches",
     // too.
     void foldersTurnIntoLinks_data()
     {
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QTest::newRow("the way") << Pairs{{"/Library", "/bait0"}};
     }
 
-    // Removes the folder from one new home after the other until enough was tried.
+    // Removes the folder from one new home after the other until there were enough tries.
     void foldersTurnIntoLinks()
     {
         QFETCH(Pairs, pairs);

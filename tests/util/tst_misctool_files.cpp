@@ -1,5 +1,5 @@
-// Proves that MiscTool names the user's own folders, and that a bookmark finds its folder again and
-// no other.
+// Proves that MiscTool returns the user's own folders, and that a bookmark finds its own folder
+// again and no other.
 
 #include "MiscTool.h"
 #include "SampleTree.h"

@@ -56,7 +56,7 @@ QSize LevelIndicator::sizeHint() const
     return minimumSizeHint() + QSize(minBarWidth, 0);
 }
 
-// The text's room is that of "100%" at least, so that the bar does not move with each value.
+// The text gets at least the width of "100%", so that the bar does not move with each value.
 QRect LevelIndicator::barRect() const
 {
     const int textWidth = std::max(fontMetrics().horizontalAdvance(text()),

@@ -40,15 +40,18 @@ protected:
 private:
     /// A control and the text that it was given here.
     struct Marked {
-        QPointer<QWidget> control;
-        const char *property;
+        QPointer<QWidget> control; ///< Null once it is gone.
+        const char *property; ///< The one that holds the text.
         QString text;
     };
 
     explicit Mnemonics(QWidget *page);
-    bool hasNewText() const;
+    bool hasNewText() const; ///< Whether a text was set since they were given out.
     void assign();
+    /// For all that is seen together with the part; then for each page of tabs in it, on its own.
+    /// Appends what was given out.
     void assignIn(const QWidget &part, QSet<QChar> taken, QList<Marked> &all) const;
+    /// Empty if nothing was given to the control yet.
     QString textGivenTo(const QWidget *control) const;
 
     QWidget *m_page;
