@@ -47,6 +47,12 @@ bool canBeTyped(QChar c)
     return c.isLetter() && alphabets.contains(c.script());
 }
 
+bool hasLittleChoice(const QString &text)
+{
+    const auto letters = std::ranges::count_if(text, canBeTyped);
+    return letters >= 1 && letters <= 3;
+}
+
 /// The place for a mark before a character that will do (in upper case): at the beginning of a word
 /// and without an accent if possible; -1 for none.
 template <class Predicate>
@@ -232,8 +238,8 @@ void Mnemonics::assign()
     m_marked = all;
 }
 
-// Controls that keep what they have come first, so that nothing moves without need: those that were
-// given their text here, then those that the program marked, then the others.
+// What was given out stays, so that nothing moves without need. Then come those with little choice,
+// those that the program marked, and the others.
 void Mnemonics::assignIn(const QWidget &part, QSet<QChar> taken, QList<Marked> &all) const
 {
     Contents contents;
@@ -245,24 +251,27 @@ void Mnemonics::assignIn(const QWidget &part, QSet<QChar> taken, QList<Marked> &
         const char *property = labelProperty(*control);
         waiting += {control, property, control->property(property).toString()};
     }
-    const auto keep = [&](const auto &mayKeep) {
+    const auto serve = [&](const auto &isNext) {
         waiting.removeIf([&](const Marked &control) {
-            const QChar own = of(control.text);
-            if (own.isNull() || taken.contains(own) || !mayKeep(control))
+            if (!isNext(control))
                 return false;
-            taken += own;
-            all += control;
+            const QString text = marked(control.text, taken, of(textGivenTo(control.control)));
+            control.control->setProperty(control.property, text);
+            taken += of(text);
+            all += {control.control, control.property, text};
             return true;
         });
     };
-    keep([this](const Marked &control) { return textGivenTo(control.control) == control.text; });
-    keep([](const Marked &) { return true; });
-    for (Marked &control : waiting) {
-        control.text = marked(control.text, taken, of(textGivenTo(control.control)));
-        control.control->setProperty(control.property, control.text);
-        taken += of(control.text);
-        all += control;
-    }
+    const auto keepsItsOwn = [&taken](const Marked &control) {
+        const QChar own = of(control.text);
+        return !own.isNull() && !taken.contains(own);
+    };
+    serve([&](const Marked &control) {
+        return keepsItsOwn(control) && textGivenTo(control.control) == control.text;
+    });
+    serve([](const Marked &control) { return hasLittleChoice(control.text); });
+    serve(keepsItsOwn);
+    serve([](const Marked &) { return true; });
     for (const QWidget *page : std::as_const(contents.pages))
         assignIn(*page, taken, all);
 }

@@ -55,6 +55,8 @@ private Q_SLOTS:
             {{u"&Select…"_s, u"&Select…"_s}, {u"&Select…"_s, u"S&elect…"_s}},
             {{u"&File"_s}, {u"F&ile"_s}}, // taken by the menu bar
             {{u"Ab"_s, u"A"_s}, {u"&Ab"_s, u"A(&B)"_s}}, // none of its own is left
+            {{u"&Every"_s, u"&Book"_s, u"Bo"_s, u"Ex"_s}, // little choice comes first
+             {u"E&very"_s, u"B&ook"_s, u"&Bo"_s, u"&Ex"_s}},
             {{u"Q && A"_s}, {u"&Q && A"_s}},
             {{u"Ölen"_s}, {u"Ö&len"_s}},
             {{u"Обрати…"_s, u"Обрати…"_s}, {u"&Обрати…"_s, u"О&брати…"_s}},
