@@ -45,7 +45,7 @@ void MainWindow::fillToolbar()
 {
     ui->websiteItem->setIcon(namedImage(u"website"_s));
     // A tool button has no letter: Qt takes the mark away, and leaves "(W)".
-    ui->websiteItem->setIconText(MnemonicChoice::withoutMark(ui->websiteItem->text()));
+    ui->websiteItem->setIconText(Mnemonics::withoutMark(ui->websiteItem->text()));
     ui->aboutItem->setIcon(namedImage(u"about"_s));
     ui->toolbar->addWidget(new ToolbarTitle(ui->appNameItem, ui->toolbar));
     auto *spacer = new QWidget(ui->toolbar);

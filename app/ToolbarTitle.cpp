@@ -1,7 +1,7 @@
 #include "ToolbarTitle.h"
 
 #include "IconView.h"
-#include "SectionTitle.h"
+#include "ThemedLabels.h"
 
 #include <QAction>
 #include <QHBoxLayout>

@@ -4,7 +4,8 @@
 
 #include <utility>
 
-/// Owns an open file descriptor; -1 is none.
+/// Owns an open file descriptor, which is closed with it; -1 is none. Can be moved, not copied. Any
+/// thread, one at a time.
 class FileDescriptor
 {
 public:
@@ -23,7 +24,7 @@ public:
 
     int get() const { return m_descriptor; }
     explicit operator bool() const { return m_descriptor >= 0; }
-    void close()
+    void close() ///< Does nothing if there is none; errors are ignored.
     {
         if (m_descriptor >= 0)
             ::close(std::exchange(m_descriptor, -1));

@@ -1,8 +1,7 @@
 #include "FolderEmptier.h"
 
+#include "FolderAccess.h"
 #include "FolderDescent.h"
-#include "FolderEntries.h"
-#include "FolderShare.h"
 
 #include <fcntl.h>
 
@@ -14,10 +13,10 @@
 namespace
 {
 
-// What is read ahead of one folder: enough for 100,000 ordinary names in one go.
+// How much of one folder is read ahead: enough for 100,000 ordinary names at once.
 constexpr std::size_t entriesBlock = 4 * 1024 * 1024;
 
-// From here on it pays to remove in the order in which the file system keeps the items.
+// From this many entries on, removing them in the order of their inodes is faster on a disk.
 constexpr std::size_t manyEntries = 10'000;
 
 // One thread's part of the work.
@@ -28,7 +27,7 @@ public:
 
     void removeEntries(FolderDescent &descent);
     void removeWaiting(FolderDescent &descent, FolderShare &share);
-    const EmptyingTally &tally() const { return m_tally; }
+    const FolderRemovalResult &result() const { return m_result; }
 
 private:
     struct Place {
@@ -42,7 +41,7 @@ private:
     void sortPlaces(int folder);
 
     const std::stop_token &m_stop;
-    EmptyingTally m_tally;
+    FolderRemovalResult m_result;
     FolderEntries m_entries{entriesBlock};
     std::vector<Place> m_places;
 };
@@ -52,9 +51,9 @@ bool isNotEmpty(int error)
     return error == ENOTEMPTY || error == EEXIST;
 }
 
-// Only what refuses for a reason of its own counts: a folder that is not empty holds something that
-// was counted already, what has gone meanwhile is what was wanted, and a folder met in place of a
-// file is dealt with as a folder.
+// Three errors are not counted: a folder that is not empty holds an item that was counted already,
+// an item that has gone meanwhile needs no removal, and a folder in place of a file is emptied as a
+// folder later.
 bool isRefusal(int error)
 {
     return !isNotEmpty(error) && error != ENOENT && error != EISDIR;
@@ -65,7 +64,7 @@ void Emptier::removeEntries(FolderDescent &descent)
     do {
         if (!m_entries.read(descent.folder())) {
             if (isRefusal(errno))
-                m_tally.refuse(errno);
+                m_result.refuse(errno);
             return;
         }
         m_places.clear();
@@ -93,16 +92,16 @@ void Emptier::removeEntry(FolderDescent &descent, const FolderEntries::Entry &en
         descent.addSubfolder(entry.name);
 }
 
-// False with errno set where the item stays.
+// False with errno set if the item stays.
 bool Emptier::removeItem(int parent, const char *name, int flags)
 {
     if (::unlinkat(parent, name, flags) == 0) {
-        ++m_tally.removed;
+        ++m_result.removed;
         return true;
     }
     const int error = errno;
     if (isRefusal(error))
-        m_tally.refuse(error);
+        m_result.refuse(error);
     errno = error;
     return false;
 }
@@ -118,16 +117,16 @@ void Emptier::enterOrRemove(FolderDescent &descent, const char *name)
     switch (errno) {
     case ENOENT:
         break;
-    case ENOTDIR: // Swapped for something else since it was listed.
+    case ENOTDIR: // Exchanged for something else since it was listed.
     case ELOOP:
         removeItem(descent.folder(), name, 0);
         break;
-    case EACCES: // Cannot be looked into, but may well be empty.
+    case EACCES: // Cannot be read, but may be empty.
         if (!removeItem(descent.folder(), name, AT_REMOVEDIR) && isNotEmpty(errno))
-            m_tally.refuse(EACCES);
+            m_result.refuse(EACCES);
         break;
     default:
-        m_tally.refuse(errno);
+        m_result.refuse(errno);
     }
 }
 
@@ -138,10 +137,7 @@ void Emptier::removeWaiting(FolderDescent &descent, FolderShare &share)
             if (m_stop.stop_requested())
                 return;
             enterOrRemove(descent, name);
-            if (!share.wanted())
-                continue;
-            if (auto batch = descent.split())
-                share.give(std::move(*batch));
+            share.offer(descent);
         }
         if (descent.atTop())
             return;
@@ -154,33 +150,19 @@ void Emptier::removeWaiting(FolderDescent &descent, FolderShare &share)
 
 } // namespace
 
-void EmptyingTally::refuse(int error)
-{
-    ++refused;
-    if (firstError == 0)
-        firstError = error;
-}
-
-void EmptyingTally::add(const EmptyingTally &other)
-{
-    removed += other.removed;
-    refused += other.refused;
-    if (firstError == 0)
-        firstError = other.firstError;
-}
-
-EmptyingTally emptyFolder(FileDescriptor folder, unsigned helpers, const std::stop_token &stop)
+FolderRemovalResult emptyFolder(FileDescriptor folder, unsigned helpers,
+                                const std::stop_token &stop)
 {
     FolderDescent descent({.folder = std::move(folder), .names = {}});
     Emptier first(stop);
     first.removeEntries(descent);
-    EmptyingTally total = first.tally();
+    FolderRemovalResult total = first.result();
     std::mutex mutex;
     FolderShare::run(helpers, descent, [&](FolderShare &share, FolderDescent &part) {
         Emptier emptier(stop);
         emptier.removeWaiting(part, share);
         const std::scoped_lock lock(mutex);
-        total.add(emptier.tally());
+        total.add(emptier.result());
     });
     return total;
 }

@@ -18,8 +18,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// Who puts new things into the folder while it is removed must not keep us for ever.
-constexpr int mostPasses = 4;
+// A program that keeps putting new items into the folder must not keep this going for ever.
+constexpr int maxPasses = 4;
 
 FolderRemovalResult refusal(int error, const QByteArray &base, const QByteArray &path)
 {
@@ -28,7 +28,7 @@ FolderRemovalResult refusal(int error, const QByteArray &base, const QByteArray 
     return {.removed = 0, .refused = 1, .firstError = error};
 }
 
-bool isPlainWay(const QByteArray &path)
+bool isPlainPath(const QByteArray &path)
 {
     const QList<QByteArray> names = path.split('/');
     return !path.contains('\0') && std::ranges::none_of(names, [](const QByteArray &name) {
@@ -36,7 +36,7 @@ bool isPlainWay(const QByteArray &path)
     });
 }
 
-// The base folder; none with errno set where it is not one to remove anything from.
+// The base folder; none, with errno set, if nothing may be removed from it.
 FileDescriptor openBase(const QByteArray &base)
 {
     if (!base.startsWith('/') || base.contains('\0')) {
@@ -55,8 +55,8 @@ FileDescriptor openBase(const QByteArray &base)
     return folder;
 }
 
-// Removes the named item if that takes no emptying; true where a folder was left to be emptied.
-bool openOrRemove(int parent, const char *name, FileDescriptor &folder, EmptyingTally &tally)
+// Removes the named item if it need not be emptied first; true if it is a folder to be emptied.
+bool openOrRemove(int parent, const char *name, FileDescriptor &folder, FolderRemovalResult &total)
 {
     folder = FolderAccess::openFolder(parent, name);
     if (folder || errno == ENOENT)
@@ -64,31 +64,33 @@ bool openOrRemove(int parent, const char *name, FileDescriptor &folder, Emptying
     const int error = errno;
     const int flags = error == ENOTDIR || error == ELOOP ? 0 : AT_REMOVEDIR;
     if (::unlinkat(parent, name, flags) == 0)
-        ++tally.removed;
+        ++total.removed;
     else
-        tally.refuse(error == EACCES ? EACCES : errno);
+        total.refuse(error == EACCES ? EACCES : errno);
     return false;
 }
 
-EmptyingTally removeItem(int parent, const char *name, const std::stop_token &stop)
+FolderRemovalResult removeItem(int parent, const char *name, const std::stop_token &stop)
 {
     const unsigned helpers = std::clamp(std::thread::hardware_concurrency(), 1u, 2u) - 1;
-    EmptyingTally total;
-    for (int pass = 0; pass < mostPasses; ++pass) {
-        // What refused once may refuse again or not: only the last pass knows what stays.
+    FolderRemovalResult total;
+    for (int pass = 0; pass < maxPasses; ++pass) {
+        // What could not be removed once may go in the next pass: only the last one counts what
+        // stays.
         total.refused = 0;
         total.firstError = 0;
         FileDescriptor folder;
         if (!openOrRemove(parent, name, folder, total))
             return total;
-        const EmptyingTally tally = emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop);
-        total.add(tally);
+        const FolderRemovalResult emptied =
+            emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop);
+        total.add(emptied);
         if (::unlinkat(parent, name, AT_REMOVEDIR) == 0) {
             ++total.removed;
             return total;
         }
         const int error = stop.stop_requested() ? ECANCELED : errno;
-        if (error == ECANCELED || tally.removed == 0 || pass + 1 == mostPasses) {
+        if (error == ECANCELED || emptied.removed == 0 || pass + 1 == maxPasses) {
             if (total.refused == 0)
                 total.refuse(error);
             break;
@@ -99,28 +101,44 @@ EmptyingTally removeItem(int parent, const char *name, const std::stop_token &st
 
 } // namespace
 
+void FolderRemovalResult::refuse(int error)
+{
+    ++refused;
+    if (firstError == 0)
+        firstError = error;
+}
+
+void FolderRemovalResult::add(const FolderRemovalResult &other)
+{
+    removed += other.removed;
+    refused += other.refused;
+    if (firstError == 0)
+        firstError = other.firstError;
+}
+
 FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
                                 const std::stop_token &stop)
 {
     if (stop.stop_requested())
         return refusal(ECANCELED, base, path);
-    if (!isPlainWay(path))
+    if (!isPlainPath(path))
         return refusal(EINVAL, base, path);
     FileDescriptor parent = openBase(base);
     if (!parent)
         return refusal(errno, base, path);
     const qsizetype slash = path.lastIndexOf('/');
     if (slash > 0) {
-        parent = FolderAccess::openWayDown(parent.get(), path.first(slash).constData());
+        parent = FolderAccess::openFolderBelow(parent.get(), path.first(slash).constData());
         if (!parent && errno == ENOENT)
             return {};
         if (!parent)
             return refusal(errno, base, path);
     }
-    const EmptyingTally tally = removeItem(parent.get(), path.mid(slash + 1).constData(), stop);
-    if (tally.refused > 0)
+    const FolderRemovalResult result =
+        removeItem(parent.get(), path.mid(slash + 1).constData(), stop);
+    if (result.refused > 0)
         qInfo().noquote() << u"%1 items stayed at \"%2\" below \"%3\": %4"_s.arg(
-            QString::number(tally.refused), QFile::decodeName(path), QFile::decodeName(base),
-            qt_error_string(tally.firstError));
-    return {.removed = tally.removed, .refused = tally.refused, .firstError = tally.firstError};
+            QString::number(result.refused), QFile::decodeName(path), QFile::decodeName(base),
+            qt_error_string(result.firstError));
+    return result;
 }

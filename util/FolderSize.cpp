@@ -1,8 +1,7 @@
 #include "FolderSize.h"
 
+#include "FolderAccess.h"
 #include "FolderDescent.h"
-#include "FolderEntries.h"
-#include "FolderShare.h"
 
 #include <fcntl.h>
 
@@ -15,7 +14,7 @@ namespace
 
 constexpr std::size_t entriesBlock = 64 * 1024;
 
-// Adds up the innermost folder's entries and lets its sub-folders wait.
+// Adds up the innermost folder's entries and adds its sub-folders to those that wait.
 std::uint64_t sizeOfEntries(FolderDescent &descent, FolderEntries &entries,
                             const std::stop_token &stop)
 {
@@ -49,10 +48,7 @@ std::uint64_t sizeOfWaiting(FolderDescent &descent, FolderEntries &entries, Fold
                 continue;
             descent.enter(std::move(folder));
             sum += sizeOfEntries(descent, entries, stop);
-            if (!share.wanted())
-                continue;
-            if (auto batch = descent.split())
-                share.give(std::move(*batch));
+            share.offer(descent);
         }
         if (descent.atTop() || !descent.leave())
             return sum;

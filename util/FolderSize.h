@@ -10,6 +10,6 @@
 /// what is mounted below counts too. Links below are not followed; a path that is itself a link to
 /// a folder is (a path means what it leads to). What cannot be read counts 0; a file, a missing or
 /// unreadable folder, or a path with a NUL gives 0.
-/// Told to stop, it gives what it has added up so far, soon.
-/// Works on bytes, so on every name and at every depth; uses up to four threads; any thread.
+/// After a stop request it soon returns what it has added up so far.
+/// Works on bytes, so with every name and at every depth; uses up to four threads; any thread.
 std::int64_t folderSize(const QByteArray &path, const std::stop_token &stop = {});

@@ -13,7 +13,7 @@ class QIODevice;
 /// Blocking HTTP requests within limits. Any thread may make them, several at a time; a thread that
 /// draws windows should not.
 ///
-/// Only http and https are spoken, also after a redirect; certificates and host names are checked
+/// Only http and https are used, also after a redirect; certificates and host names are checked
 /// against the system's store; nothing is decompressed, no cookie or password is looked up, a proxy
 /// is taken from the environment alone. A request carries Host, User-Agent, the length of its body,
 /// and the headers that the caller gives.
@@ -35,7 +35,7 @@ struct HttpRequest {
     QByteArray address;
     QList<QByteArray> headers = {}; ///< "Name: value" each, without line ends.
     HttpLimits limits = {};
-    std::stop_token stop = {}; ///< Asks the request to end; it does within about a second.
+    std::stop_token stop = {}; ///< A request ends within about a second of a stop request.
     /// Called on the requesting thread with the bytes received so far.
     std::function<void(qint64 received)> progress = {};
 };
@@ -52,9 +52,9 @@ struct HttpReply {
     };
 
     End end = End::Failed;
-    int status = 0; ///< 200, 404, …; 0 where no reply came.
-    QByteArray body = {}; ///< Empty unless answered, and where it went into a target.
-    QByteArray message = {}; ///< English words where the request failed.
+    int status = 0; ///< 200, 404, …; 0 if no reply came.
+    QByteArray body = {}; ///< Empty unless answered, and if it went into a target.
+    QByteArray message = {}; ///< English words if the request failed.
 
     bool answered() const { return end == End::Answered; }
     bool succeeded() const { return answered() && status >= 200 && status < 300; }

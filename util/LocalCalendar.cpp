@@ -3,7 +3,6 @@
 #include <QByteArray>
 
 #include <unicode/calendar.h>
-#include <unicode/gregocal.h>
 #include <unicode/locid.h>
 
 #include <memory>
@@ -11,8 +10,8 @@
 namespace
 {
 
-// ICU's own default locale ignores LC_TIME, is fixed at its first use, and changes nothing that
-// this program shows; what the user set for dates is asked anew each time.
+// ICU's own default locale ignores LC_TIME and is fixed at its first use; the user's setting for
+// dates is read anew each time.
 icu::Locale dateLocale()
 {
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -30,13 +29,6 @@ std::int64_t field(const icu::Calendar &calendar, UCalendarDateFields name)
     return U_SUCCESS(status) ? value : 0;
 }
 
-bool setMoment(icu::Calendar *calendar, UErrorCode status, std::int64_t milliseconds)
-{
-    if (calendar && U_SUCCESS(status))
-        calendar->setTime(static_cast<UDate>(milliseconds), status);
-    return calendar != nullptr && U_SUCCESS(status) != 0;
-}
-
 } // namespace
 
 LocalDate localDateAt(std::int64_t milliseconds)
@@ -44,21 +36,12 @@ LocalDate localDateAt(std::int64_t milliseconds)
     UErrorCode status = U_ZERO_ERROR;
     const std::unique_ptr<icu::Calendar> calendar(
         icu::Calendar::createInstance(dateLocale(), status));
-    if (!setMoment(calendar.get(), status, milliseconds))
+    if (calendar && U_SUCCESS(status))
+        calendar->setTime(static_cast<UDate>(milliseconds), status);
+    if (!calendar || U_FAILURE(status))
         return {};
     return {.year = field(*calendar, UCAL_YEAR),
             .month = field(*calendar, UCAL_MONTH) + 1,
             .day = field(*calendar, UCAL_DATE),
             .weekday = field(*calendar, UCAL_DAY_OF_WEEK)};
-}
-
-LocalTime localTimeAt(std::int64_t milliseconds)
-{
-    UErrorCode status = U_ZERO_ERROR;
-    icu::GregorianCalendar calendar(status);
-    if (!setMoment(&calendar, status, milliseconds))
-        return {};
-    return {.hour = field(calendar, UCAL_HOUR_OF_DAY),
-            .minute = field(calendar, UCAL_MINUTE),
-            .second = field(calendar, UCAL_SECOND)};
 }

@@ -12,16 +12,6 @@ struct LocalDate {
     std::int64_t weekday = 0; ///< 1 is Sunday, 7 Saturday.
 };
 
-/// A time of day as the Gregorian calendar counts it.
-struct LocalTime {
-    std::int64_t hour = 0; ///< 0 to 23.
-    std::int64_t minute = 0;
-    std::int64_t second = 0;
-};
-
 /// The day of a moment, given in milliseconds since 1970-01-01 00:00 UTC, in the local time zone.
 /// All zero when ICU has no calendar at all (its data files are missing). Any thread.
 LocalDate localDateAt(std::int64_t milliseconds);
-
-/// The time of day of a moment in the local time zone; otherwise as localDateAt().
-LocalTime localTimeAt(std::int64_t milliseconds);

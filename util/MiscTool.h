@@ -39,14 +39,14 @@ public:
 
     // Folders and sizes, in bytes.
 
-    /// The home folder that the user database names for the real user, without a trailing slash;
-    /// the environment is not asked. Empty when the database has no such user.
+    /// The home folder of the real user in the user database, without a trailing slash; the
+    /// environment does not matter. Empty if the database does not have the user.
     static QString getUserHome();
     static QString getDownloadFolder(); ///< getUserHome() with "Downloads" below.
-    /// Size of the file system that holds "/"; none when it cannot be asked. Some virtual file
-    /// systems say 0: do not divide by it unasked.
+    /// Size of the file system that holds "/"; none if it cannot be read. Some virtual file systems
+    /// report 0: check before dividing by it.
     static std::optional<std::int64_t> getDiskTotalSize();
-    /// What an ordinary user may still write on the file system that holds "/".
+    /// What a user without privileges may still write on the file system that holds "/".
     static std::optional<std::int64_t> getDiskAvailableSize();
     /// The item's own size (for a folder that of its entry, not its contents); 0 if unreadable.
     static std::int64_t getLocalFileSize(const QString &path);
@@ -55,13 +55,13 @@ public:
     /// folder means that folder. Unreadable items count 0; a file, a missing or an unreadable
     /// folder gives 0.
     static std::int64_t getSize(const QString &path);
-    /// "1.5 KB", "5.00 GB", "--" for 0: thresholds of 1024, reckoned in single precision.
+    /// "1.5 KB", "5.00 GB", "--" for 0: thresholds of 1024, computed in single precision.
     static QString convertBytes(std::uint64_t count);
 
     // SQL value pieces. With toEnd false a "," follows the value.
 
     static QString UInteger2SQLString(std::uint64_t value, bool toEnd);
-    /// Puts the text between single quotes as it stands: quotes inside are not doubled.
+    /// Puts the text between single quotes exactly as given: quotes inside are not doubled.
     static QString NSString2SQLString(const QString &text, bool toEnd);
 
     // Text and log.
@@ -70,36 +70,36 @@ public:
     static QString getNSString(const char *text);
     /// Writes "[sender]->(method):message" as one line to the system log.
     static void printMsg(const QString &sender, const QString &method, const QString &message);
-    /// Percent-escapes in UTF-8 what may not stand in an address by RFC 2396: controls, blank, DEL,
+    /// Percent-escapes in UTF-8 what RFC 2396 does not allow in an address: controls, blank, DEL,
     /// everything outside ASCII and "%<>[\]^`{|} with the quote. Letters, digits, the marks
     /// -_.!~*'() and the delimiters ;/?:@&=+$,# stay. An unpaired surrogate counts as U+FFFD.
     static QString encode2UTF8(const QString &text);
-    /// Undoes percent-escapes; none when the bytes are not valid UTF-8. "+" stays "+", and so does
-    /// a "%" without two hexadecimal digits behind it.
+    /// Undoes percent-escapes; none if the bytes are not valid UTF-8. "+" stays "+", and so does a
+    /// "%" without two hexadecimal digits behind it.
     static std::optional<QString> decodeFromUTF8(const QString &text);
 
-    /// Opaque data that finds the folder again as long as the same folder stands at its path, after
-    /// a restart too. The address is a local one. None, with a log line, when the folder cannot be
-    /// asked.
+    /// Opaque data that finds the folder again as long as the same folder is at its path, after a
+    /// restart too. The address is a local one. None, with a log line, if the folder's status
+    /// cannot be read.
     static std::optional<QByteArray> bookmarkForURL(const QUrl &url);
-    /// The folder of a bookmark; none, with a log line, when another or no folder stands there now
-    /// or the data is no bookmark.
+    /// The folder of a bookmark; none, with a log line, if another folder or none is there now, or
+    /// if the data are not a bookmark.
     static std::optional<QUrl> urlForBookmark(const QByteArray &bookmark);
 
-    /// The user's Documents folder, made for the owner alone when missing.
+    /// The user's Documents folder. If it is missing, it is made, readable by its owner alone.
     static QString getAppDocumentFolder();
 
     // The window half: interface thread only.
 
     /// Shows an information box with one OK button and returns when it is dismissed, with the
-    /// response code; 0 when its window went meanwhile. Both texts are shown as plain text, exactly
-    /// as given.
+    /// response code; 0 if its window was destroyed meanwhile. Both texts are shown as plain text,
+    /// exactly as given.
     static int showAlert(const QString &messageText, const QString &informativeText);
     static void showWindow(QWidget *window); ///< To the front, and activates the program.
     static void hideWindow(QWidget *window); ///< Neither closes nor destroys it.
     /// Signals a refused input: swings the window left and right by 2 % of its width, four times in
     /// 0.4 s, and returns at once; the alert sound and the flash start with it.
     static void shakeWindow(QWidget *window);
-    static void playSystemSound(); ///< The desktop's alert sound; silent where there is none.
+    static void playSystemSound(); ///< The desktop's alert sound; silent if there is none.
     static void flashScreen(); ///< A short flash over the program's windows.
 };

@@ -1,9 +1,7 @@
-#include "FolderBookmark.h"
 #include "FolderSize.h"
 #include "MiscTool.h"
 #include "PathText.h"
 
-#include <QDebug>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -16,7 +14,6 @@
 
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -40,22 +37,6 @@ std::optional<std::int64_t> blocksOfRoot(fsblkcnt_t statvfs::*blocks)
     if (::statvfs("/", &status) != 0)
         return std::nullopt;
     return static_cast<std::int64_t>(status.f_frsize * status.*blocks);
-}
-
-// The path as the bytes of the file system: a file address can name what no QString can.
-QByteArray localPath(const QUrl &url)
-{
-    if (!url.isLocalFile() || !url.host().isEmpty())
-        return {};
-    return QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-}
-
-QUrl localUrl(const QByteArray &path)
-{
-    const QString text = QFile::decodeName(path);
-    return QFile::encodeName(text) == path
-        ? QUrl::fromLocalFile(text)
-        : QUrl::fromEncoded("file://" + path.toPercentEncoding("/"));
 }
 
 } // namespace
@@ -97,33 +78,13 @@ std::int64_t MiscTool::getSize(const QString &path)
     return folderSize(QFile::encodeName(path));
 }
 
-std::optional<QByteArray> MiscTool::bookmarkForURL(const QUrl &url)
-{
-    std::optional<QByteArray> bookmark = FolderBookmark::make(localPath(url));
-    if (!bookmark)
-        qInfo().noquote() << u"No bookmark for %1: %2"_s.arg(url.toDisplayString(),
-                                                             qt_error_string(errno));
-    return bookmark;
-}
-
-std::optional<QUrl> MiscTool::urlForBookmark(const QByteArray &bookmark)
-{
-    const std::optional<QByteArray> path = FolderBookmark::resolve(bookmark);
-    if (!path) {
-        qInfo().noquote() << u"The bookmark is of no use any more: %1"_s.arg(
-            qt_error_string(errno));
-        return std::nullopt;
-    }
-    return localUrl(*path);
-}
-
 QString MiscTool::getAppDocumentFolder()
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
     const QFileInfo info(folder);
     if (!info.exists()) {
-        // Documents and the record database are nobody else's business; what leads there has the
-        // modes that the user's own settings give.
+        // Documents and the record database are private; the folders that lead there get the modes
+        // that the user's own settings give.
         QDir().mkpath(info.path());
         QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }

@@ -16,9 +16,9 @@ LocalDate today()
     return localDateAt(QDateTime::currentMSecsSinceEpoch());
 }
 
-LocalTime now()
+QTime now()
 {
-    return localTimeAt(QDateTime::currentMSecsSinceEpoch());
+    return QTime::currentTime();
 }
 
 QString dateText(const LocalDate &date)
@@ -27,10 +27,9 @@ QString dateText(const LocalDate &date)
                              QString::number(date.day));
 }
 
-QString timeText(const LocalTime &time)
+QString timeText(QTime time)
 {
-    return u"%1:%2:%3"_s.arg(QString::number(time.hour), QString::number(time.minute),
-                             QString::number(time.second));
+    return time.toString(u"H:m:s"_s);
 }
 
 QString inUnits(float count, float unit, int precision, QLatin1StringView name)
@@ -105,17 +104,17 @@ QString MiscTool::getToday()
 
 std::int64_t MiscTool::getHour()
 {
-    return now().hour;
+    return now().hour();
 }
 
 std::int64_t MiscTool::getMinute()
 {
-    return now().minute;
+    return now().minute();
 }
 
 std::int64_t MiscTool::getSecond()
 {
-    return now().second;
+    return now().second();
 }
 
 QString MiscTool::getTime()
@@ -126,8 +125,8 @@ QString MiscTool::getTime()
 QString MiscTool::getNow()
 {
     // One moment for both halves: at midnight two would give a day and a time that never met.
-    const qint64 moment = QDateTime::currentMSecsSinceEpoch();
-    return dateText(localDateAt(moment)) + u' ' + timeText(localTimeAt(moment));
+    const QDateTime moment = QDateTime::currentDateTime();
+    return dateText(localDateAt(moment.toMSecsSinceEpoch())) + u' ' + timeText(moment.time());
 }
 
 QString MiscTool::getDefaultStartDate()

@@ -25,13 +25,13 @@ struct Limits {
     int depth = 32;
 };
 
-/// The list's top value; none when the bytes are no property list or pass a limit.
+/// The list's top value; none if the bytes are not a property list or pass a limit.
 std::optional<QVariant> read(QByteArrayView bytes, const Limits &limits = {});
 
-/// The same for lists whose top value is a dictionary; none when it is of another kind.
+/// The same for lists whose top value is a dictionary; none if it is of another kind.
 std::optional<QVariantMap> readDictionary(QByteArrayView bytes, const Limits &limits = {});
 
-/// The dictionary in a file or resource (":/presets/name.plist"); none when it cannot be read.
+/// The dictionary in a file or resource (":/presets/name.plist"); none if it cannot be read.
 std::optional<QVariantMap> readDictionaryFile(const QString &path, const Limits &limits = {});
 
 } // namespace PropertyList

@@ -1,7 +1,5 @@
 #include "PropertyListBinary.h"
 
-#include "PropertyListBudget.h"
-
 #include <QDateTime>
 #include <QTimeZone>
 #include <QtEndian>
@@ -27,7 +25,7 @@ quint64 bigEndian(QByteArrayView bytes)
     return number;
 }
 
-/// An empty QVariant stands for "refused" throughout; no value of a property list is one.
+/// An empty QVariant means "refused" throughout; no value of a property list is one.
 class BinaryReader
 {
 public:
@@ -52,7 +50,7 @@ public:
     }
 
 private:
-    /// Bytes before the trailer, or a null view where they would pass it.
+    /// Bytes before the trailer, or a null view if they would pass it.
     QByteArrayView slice(quint64 offset, quint64 size) const
     {
         if (offset > m_end || size > m_end - offset)
@@ -117,7 +115,7 @@ private:
         }
     }
 
-    /// Up to 4 bytes are without a sign, 8 bytes with one; 16 bytes hold what is past its end.
+    /// Up to 4 bytes are unsigned, 8 bytes are signed; 16 bytes hold larger numbers.
     static QVariant readInteger(QByteArrayView bytes)
     {
         if (bytes.isNull() || bytes.size() > 16)
@@ -140,11 +138,11 @@ private:
     static QVariant readDate(QByteArrayView bytes)
     {
         constexpr qint64 epoch = 978'307'200;
-        constexpr double farthest = 1e12; // some 30,000 years; the calendar reckons no further
+        constexpr double maxSeconds = 1e12; // some 30,000 years: further than the calendar reaches
         if (bytes.isNull())
             return {};
         const auto seconds = std::bit_cast<double>(bigEndian(bytes));
-        if (!(std::abs(seconds) <= farthest))
+        if (!(std::abs(seconds) <= maxSeconds))
             return {};
         return QDateTime::fromMSecsSinceEpoch(epoch * 1000 + qint64(seconds * 1000), Qt::UTC);
     }
@@ -191,7 +189,7 @@ private:
         return list;
     }
 
-    /// The references of all keys stand before those of the values.
+    /// The references of all keys come before those of the values.
     QVariant readDictionary(QByteArrayView references)
     {
         if (references.isNull() || !m_budget.enter())
@@ -227,10 +225,9 @@ bool isBinary(QByteArrayView bytes)
     return bytes.startsWith(signature);
 }
 
-std::optional<QVariant> readBinary(QByteArrayView bytes, const Limits &limits)
+QVariant readBinary(QByteArrayView bytes, const Limits &limits)
 {
-    const QVariant value = BinaryReader(bytes, limits).readDocument();
-    return value.isValid() ? std::optional(value) : std::nullopt;
+    return BinaryReader(bytes, limits).readDocument();
 }
 
 } // namespace PropertyList

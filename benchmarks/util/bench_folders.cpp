@@ -1,12 +1,12 @@
-// What measuring and removing folders cost beside "du -slb" and "rm -rf" on the same trees, in the
-// same run and taking turns. Every figure is a median, less what the same costs on an empty folder.
+// What measuring and removing folders cost compared with "du -slb" and "rm -rf" on the same trees,
+// in the same run and taking turns. Every figure is a median, less the cost of an empty folder.
 // The exit status is 1 when a limit is passed.
 //   bench_folders [--million] [--calls] [TREE]
 // also on a million files; also counts system calls by strace; only trees with TREE in their name
-// Small trees lie in TMPDIR, mostly on a disk, large ones in /dev/shm, which takes up to 6 GB.
-// Time by the clock counts only on a machine with two cores and nothing else to do. In one flat
-// folder nearly all the time is the system's: where even the bare calls cost more than the limit
-// allows, a figure within a twentieth of theirs is excused.
+// Small trees are in TMPDIR, mostly on a disk, large ones in /dev/shm, which takes up to 6 GB.
+// Time by the clock counts only on an idle machine with two cores. In one flat folder nearly all
+// the time is the system's: if even the bare calls cost more than the limit allows, a figure within
+// a twentieth of theirs is excused.
 
 #include "FolderRemoval.h"
 #include "FolderSize.h"
@@ -34,7 +34,7 @@ using Costs = std::vector<ProcessCost>;
 
 struct Limits {
     double processor = 0;
-    double wall = 0; ///< 0 where more than one thread cannot help.
+    double wall = 0; ///< 0 if more than one thread cannot help.
     bool isFlat = false; ///< One folder holds it all, so the bare calls can be measured as well.
 };
 
@@ -122,7 +122,7 @@ void requireSameSum(const std::string &path)
                                  + " is not " + std::to_string(peer - own.st_size));
 }
 
-// Empty where none applies.
+// Empty if none applies.
 std::string FolderBench::floorExcuse(double figure, const Limits &limits, const Costs &floor,
                                      double peer) const
 {
@@ -220,7 +220,7 @@ void FolderBench::removalMemory(int files)
     limitMemory("removal, 100,000 names, memory", cost.memory, 10);
 }
 
-// Both walks and both peers on one tree; strace's own table shows what they ask of the system.
+// Both walks and both peers on one tree; strace's own table shows their system calls.
 void FolderBench::countCalls()
 {
     for (const std::string &command :
@@ -279,7 +279,7 @@ void compareOnDisk(FolderBench &bench)
     bench.removalMemory(100'000);
 }
 
-// What would take a disk minutes to make, once for each round.
+// Trees that would take a disk minutes to make, once for each round.
 void compareInMemory(FolderBench &bench, bool million)
 {
     bench.run({"100,000 nested, tmpfs", nested(100'000), 7, 3, nestedSize, nestedRemoval});

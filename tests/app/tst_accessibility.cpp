@@ -2,7 +2,7 @@
 // in every language.
 
 #include "Application.h"
-#include "MnemonicChoice.h"
+#include "Mnemonics.h"
 #include "Scenes.h"
 
 #include <QAbstractButton>
@@ -176,7 +176,7 @@ void expectDifferentLetters(const QString &where, const QStringList &texts, Find
 {
     QHash<QChar, QString> holders;
     for (const QString &text : texts) {
-        const QChar letter = MnemonicChoice::letterOf(text);
+        const QChar letter = Mnemonics::of(text);
         findings.expect(letter.isNull() || !holders.contains(letter),
                         where + u": "_s + text + u" and "_s + holders.value(letter));
         holders[letter] = text;
@@ -197,7 +197,7 @@ void lookAtMnemonics(const QString &where, const QWidget &window, Findings &find
     for (const QWidget *widget : shownIn(window)) {
         const QString label = labelOf(*widget);
         findings.expect(label.isEmpty() || isA<QGroupBox>(*widget)
-                            || !MnemonicChoice::letterOf(label).isNull(),
+                            || !Mnemonics::of(label).isNull(),
                         where + u": no mnemonic in "_s + label);
         texts += label;
         if (const auto *tabs = qobject_cast<const QTabBar *>(widget))

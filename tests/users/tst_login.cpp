@@ -4,7 +4,6 @@
 #include "Login.h"
 #include "LoginDelegate.h"
 #include "RecordsTrial.h"
-#include "WindowShake.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,8 +23,9 @@ private Q_SLOTS:
             Using::type(login, "userField", user);
             Using::type(login, "passwordField", password);
             PageControls::press(login, "loginButton");
-            const bool isShaking = login.findChild<WindowShake *>();
-            return QTest::qWaitFor([&] { return !login.findChild<WindowShake *>(); }) && isShaking;
+            const bool isShaking = login.findChild<QObject *>(u"shake"_s);
+            return QTest::qWaitFor([&] { return !login.findChild<QObject *>(u"shake"_s); })
+                && isShaking;
         };
         QVERIFY(isShakenFor({}, u"kelp"_s));
         QVERIFY(isShakenFor(u"root"_s, {}));

@@ -16,7 +16,7 @@
 #include <thread>
 
 /// A small HTTP server on 127.0.0.1 that keeps the raw bytes of every request and answers as the
-/// test wants, badly too. One connection at a time, each for one request.
+/// test wants, also in wrong ways. One connection at a time, each for one request.
 class HttpPeer
 {
 public:
@@ -84,7 +84,7 @@ public:
         {
             const std::lock_guard lock(m_mutex);
             m_isStopped = true;
-            shutdown(m_listener, SHUT_RDWR); // and both that wait return
+            shutdown(m_listener, SHUT_RDWR); // so that both blocking calls return
             shutdown(m_socket, SHUT_RDWR);
         }
         m_thread.join();

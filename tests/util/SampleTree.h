@@ -31,8 +31,8 @@ inline void require(bool success, const QByteArray &what)
         qFatal("cannot make the sample tree: %s: %s", what.constData(), strerror(errno));
 }
 
-/// Empty where this process may destroy things: the sandbox is there and the home folder of the
-/// user database lies in it. Otherwise what is wrong.
+/// Empty if this process may destroy things: the sandbox exists and the home folder of the user
+/// database is in it. Otherwise what is wrong.
 inline QString whyUnsafe()
 {
     const QByteArray sandbox = qgetenv("TOOLVANE_TEST_SANDBOX");
@@ -44,7 +44,7 @@ inline QString whyUnsafe()
     return {};
 }
 
-/// A new empty folder below the sandbox. Nobody removes it before the sandbox goes.
+/// A new empty folder in the sandbox. It is removed with the sandbox.
 inline QByteArray makeRoot()
 {
     if (!whyUnsafe().isEmpty())

@@ -1,5 +1,5 @@
-// Proves that a folder is measured as "du" reckons it, and that removing it takes all of it,
-// whatever it looks like, and nothing besides.
+// Proves that the size of a folder is what "du" gives, and that removing it removes all of it,
+// whatever it holds, and nothing else.
 
 #include "FolderRemoval.h"
 #include "FolderSize.h"
@@ -34,7 +34,7 @@ qint64 byDu(const QString &unit, const QByteArray &path)
 
 } // namespace
 
-class tst_FolderRemoval : public QObject
+class TestFolderRemoval : public QObject
 {
     Q_OBJECT
 
@@ -70,7 +70,7 @@ private Q_SLOTS:
                                        QByteArray(255, 'n'), QByteArray("-rf"), QByteArray("*"),
                                        QByteArray("..."), QByteArray(" "), QByteArray("\\")})
             makeFile(m_caches + '/' + name + '/' + name, name);
-        // More than are read at a time, and than the number from which on they are sorted.
+        // More than are read at a time, and enough to be sorted.
         for (int i = 0; i < 16'000; ++i)
             makeFile(m_caches + "/flat/" + QByteArray::number(i) + QByteArray(245, 'n'), "");
         makeChain(m_caches + "/chain", 300, QByteArray(250, 'd')); // Deeper than any path.
@@ -165,7 +165,7 @@ private Q_SLOTS:
         QCOMPARE(removeBelow(m_home, "Library/Caches").refused, 0u);
     }
 
-    // A removal that is through before the order to stop arrives gets a larger folder.
+    // If a removal is complete before the stop request arrives, the next one gets a larger folder.
     void stopsWhereItStands()
     {
         FolderRemovalResult result;
@@ -188,5 +188,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FolderRemoval)
+QTEST_GUILESS_MAIN(TestFolderRemoval)
 #include "tst_folderremoval.moc"

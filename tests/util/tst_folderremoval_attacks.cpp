@@ -1,5 +1,5 @@
-// Proves that nobody who changes a folder while it is removed, or mounts something in it, can make
-// the removal touch anything outside.
+// Proves that the removal touches nothing outside, even if another program changes the folder while
+// it is removed or mounts something in it.
 
 #include "FolderDescent.h"
 #include "FolderRemoval.h"
@@ -25,7 +25,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr qint64 mostTime = 4'000; // Milliseconds, for a machine that has much else to do.
+constexpr qint64 maxTime = 4'000; // Milliseconds, for a busy machine.
 constexpr int wantedSwaps = 3'000;
 constexpr int wantedRounds = 30;
 
@@ -40,7 +40,7 @@ std::jthread swapper(const Pairs &pairs, std::atomic<int> *swaps)
                 *swaps += renameat2(AT_FDCWD, one.constData(), AT_FDCWD, other.constData(),
                                     RENAME_EXCHANGE)
                     == 0;
-            // Without a pause the removal would hardly get at the folders in between.
+            // Without a pause the removal would hardly find the folders in their places.
             std::this_thread::sleep_for(std::chrono::microseconds(1));
         }
     });
@@ -60,7 +60,7 @@ bool mountMemory(const QByteArray &path)
 
 } // namespace
 
-class tst_FolderRemoval_Attacks : public QObject
+class TestFolderRemovalAttacks : public QObject
 {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ private Q_SLOTS:
 
     void cleanup() { QCOMPARE(difference(m_before, snapshot(m_outside)), {}); }
 
-    // Names in a home folder that are exchanged. There "bait0" leads outside, where "Caches" is,
+    // Names in a home folder that are exchanged. "bait0" leads outside, where there is a "Caches",
     // too.
     void foldersTurnIntoLinks_data()
     {
@@ -95,7 +95,7 @@ private Q_SLOTS:
         QTest::newRow("the way") << Pairs{{"/Library", "/bait0"}};
     }
 
-    // Removes the folder from one new home after the other until enough was tried.
+    // Removes the folder from one new home after the other until there were enough tries.
     void foldersTurnIntoLinks()
     {
         QFETCH(Pairs, pairs);
@@ -106,7 +106,7 @@ private Q_SLOTS:
         int rounds = 0;
         QElapsedTimer timer;
         for (timer.start();
-             timer.elapsed() < mostTime && (swaps < wantedSwaps || rounds < wantedRounds);
+             timer.elapsed() < maxTime && (swaps < wantedSwaps || rounds < wantedRounds);
              ++rounds) {
             const QByteArray home = m_home + QByteArray::number(rounds);
             makeNested(home + "/Library/Caches", 12, 4);
@@ -118,7 +118,7 @@ private Q_SLOTS:
                 here.append({home + one, home + other});
             const int swapsBefore = swaps;
             const std::jthread swapping = swapper(here, &swaps);
-            while (swaps == swapsBefore && timer.elapsed() < mostTime)
+            while (swaps == swapsBefore && timer.elapsed() < maxTime)
                 std::this_thread::yield();
             removed += removeBelow(home, "Library/Caches").removed;
         }
@@ -175,5 +175,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_FolderRemoval_Attacks)
+QTEST_GUILESS_MAIN(TestFolderRemovalAttacks)
 #include "tst_folderremoval_attacks.moc"

@@ -1,5 +1,5 @@
 // Proves that a request carries exactly the caller's bytes, ends within its limits whatever the
-// server does, and goes to no server that nobody vouches for.
+// server does, and sends nothing to a server without a trusted certificate.
 
 #include "Http.h"
 #include "HttpPeer.h"
@@ -37,7 +37,7 @@ private Q_SLOTS:
     {
         const HttpPeer peer(HttpPeer::reply("hello"));
         const QByteArray path = "/a/../b/./c?x='y'&z=%C3%A9%20+{}|^";
-        // One slash behind the scheme will do.
+        // One slash after the scheme is enough.
         const QByteArray address = peer.address(path + "#fragment").replace("://", ":/");
         const HttpReply reply = httpGet({address, {}, shortLimits});
         QVERIFY(reply.succeeded());
@@ -108,7 +108,7 @@ private Q_SLOTS:
         QCOMPARE(target.data(), body);
     }
 
-    void refusesACertificateOfNobodys()
+    void refusesACertificateThatIsNotTrusted()
     {
         const QTemporaryDir folder;
         const QString key = folder.filePath(u"key.pem"_s);

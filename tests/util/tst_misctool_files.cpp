@@ -1,5 +1,5 @@
-// Proves that MiscTool names the user's own folders, and that a bookmark finds its folder again and
-// no other.
+// Proves that MiscTool returns the user's own folders, and that a bookmark finds its own folder
+// again and no other.
 
 #include "MiscTool.h"
 #include "SampleTree.h"
@@ -32,7 +32,7 @@ void expectStale()
 
 } // namespace
 
-class tst_MiscTool_Files : public QObject
+class TestMiscToolFiles : public QObject
 {
     Q_OBJECT
 
@@ -119,5 +119,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_GUILESS_MAIN(tst_MiscTool_Files)
+QTEST_GUILESS_MAIN(TestMiscToolFiles)
 #include "tst_misctool_files.moc"

@@ -1,12 +1,12 @@
 #include "AboutViewController.h"
 
 #include "AppsList.h"
-#include "HintLabel.h"
 #include "MiscTool.h"
 #include "NamedImage.h"
 #include "PageStatus.h"
 #include "SafeAddress.h"
 #include "ServerAddress.h"
+#include "ThemedLabels.h"
 #include "ui_AboutViewController.h"
 
 #include <QCoreApplication>

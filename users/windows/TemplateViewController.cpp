@@ -1,6 +1,6 @@
 #include "TemplateViewController.h"
 
-#include "HintLabel.h"
+#include "ThemedLabels.h"
 #include "ui_AbstractViewController.h"
 
 #include <QHeaderView>

@@ -2,7 +2,6 @@
 
 #include "NamedImage.h"
 
-#include <QEvent>
 #include <QPainter>
 
 IconView::IconView(QWidget *parent) : QWidget(parent)
@@ -22,11 +21,4 @@ void IconView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     m_icon.paint(&painter, rect(), Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-}
-
-void IconView::changeEvent(QEvent *event)
-{
-    if (event->type() == QEvent::PaletteChange)
-        update();
-    QWidget::changeEvent(event);
 }

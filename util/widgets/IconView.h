@@ -4,7 +4,8 @@
 #include <QWidget>
 
 /// Shows one of the application's own images, by name, as large as the widget is. The image is
-/// drawn when the widget is painted, never before, and follows palette and scale.
+/// drawn when the widget is painted, never before, and follows palette and scale. Interface thread
+/// only.
 class IconView : public QWidget
 {
     Q_OBJECT
@@ -19,7 +20,6 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void changeEvent(QEvent *event) override;
 
 private:
     QString m_imageName;

@@ -13,7 +13,7 @@ namespace
 
 constexpr int nearlyFull = 90;
 constexpr int barHeight = 10;
-constexpr int shortestBar = 80;
+constexpr int minBarWidth = 80;
 constexpr int gap = 12;
 
 } // namespace
@@ -48,15 +48,15 @@ QString LevelIndicator::text() const
 QSize LevelIndicator::minimumSizeHint() const
 {
     const int textWidth = fontMetrics().horizontalAdvance(text());
-    return QSize(shortestBar + gap + textWidth, std::max(barHeight, fontMetrics().height() + 4));
+    return QSize(minBarWidth + gap + textWidth, std::max(barHeight, fontMetrics().height() + 4));
 }
 
 QSize LevelIndicator::sizeHint() const
 {
-    return minimumSizeHint() + QSize(shortestBar, 0);
+    return minimumSizeHint() + QSize(minBarWidth, 0);
 }
 
-// The text's room is that of "100%" at least, so that the bar does not move with each value.
+// The text gets at least the width of "100%", so that the bar does not move with each value.
 QRect LevelIndicator::barRect() const
 {
     const int textWidth = std::max(fontMetrics().horizontalAdvance(text()),

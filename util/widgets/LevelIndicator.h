@@ -2,9 +2,9 @@
 
 #include <QProgressBar>
 
-/// A level gauge: how full something is, 0 to 100, as a bar with the percentage beside it. To a
-/// screen reader it is a progress bar with this value. From 90 on the bar takes the palette's
-/// warning colour and the warning text stands before the percentage, so colour is not the only
+/// A level gauge: how full something is, 0 to 100, as a bar with the percentage beside it. A screen
+/// reader reports it as a progress bar with this value. From 90 on the bar takes the palette's
+/// warning colour and the warning text comes before the percentage, so colour is not the only
 /// sign.
 class LevelIndicator : public QProgressBar
 {
@@ -14,10 +14,10 @@ class LevelIndicator : public QProgressBar
 public:
     explicit LevelIndicator(QWidget *parent = nullptr);
 
-    bool isNearlyFull() const;
+    bool isNearlyFull() const; ///< From 90 on.
 
     QString warningText() const { return m_warningText; }
-    /// What to say when nearly full ("Nearly full"); empty for nothing.
+    /// Shown when nearly full ("Nearly full"); empty for no text.
     void setWarningText(const QString &text);
 
     QString text() const override;

@@ -16,8 +16,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// A drawing for the sizes at which the full one would blur, see DrawnImage::file().
-constexpr int largestSmallSize = 32;
+// Up to this size the plainer version of a picture is used, see file().
+constexpr int maxSmallSize = 32;
 constexpr float disabledPictureOpacity = 0.4F;
 
 enum class Kind { None, Symbol, Picture };
@@ -126,11 +126,11 @@ private:
         return pixmap;
     }
 
-    // A picture in full detail has a plainer sister for the smallest sizes.
+    // A picture in full detail has a plainer version for the smallest sizes.
     QString file(const QSize &size) const
     {
         const QString small = fileOf(m_kind, m_name + u"-small"_s);
-        const bool isSmall = std::max(size.width(), size.height()) <= largestSmallSize;
+        const bool isSmall = std::max(size.width(), size.height()) <= maxSmallSize;
         return isSmall && QFile::exists(small) ? small : fileOf(m_kind, m_name);
     }
 

@@ -1,9 +1,7 @@
 // Proves the window helpers: what a message box shows, how a window shakes and where it ends.
 
-#include "FlashOverlay.h"
 #include "MessageBoxes.h"
 #include "MiscTool.h"
-#include "WindowShake.h"
 
 #include <QLabel>
 #include <QPointer>
@@ -13,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_MiscToolWindow : public QObject
+class TestMiscToolWindow : public QObject
 {
     Q_OBJECT
 
@@ -79,14 +77,15 @@ private Q_SLOTS:
         MiscTool::shakeWindow(&window);
         QVERIFY(QTest::qWaitFor([&] { return isAt(-1); }));
         MiscTool::shakeWindow(&window); // reads the frame while the first one has moved it
-        const auto *flash = window.findChild<FlashOverlay *>();
+        const auto *flash = window.findChild<QWidget *>(u"flash"_s);
         QVERIFY(flash && flash->isVisible() && flash->size() == window.size());
         QVERIFY(QTest::qWaitFor([&] { return isAt(1); }));
         QVERIFY(qAbs(window.pos().x() - home.x()) <= 10 && window.pos().y() == home.y());
-        QTRY_VERIFY(!window.findChild<WindowShake *>() && !window.findChild<FlashOverlay *>());
+        QTRY_VERIFY(!window.findChild<QObject *>(u"shake"_s)
+                    && !window.findChild<QWidget *>(u"flash"_s));
         QCOMPARE(window.pos(), home);
     }
 };
 
-QTEST_MAIN(tst_MiscToolWindow)
+QTEST_MAIN(TestMiscToolWindow)
 #include "tst_misctoolwindow.moc"
