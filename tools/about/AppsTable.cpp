@@ -1,6 +1,6 @@
 #include "AppsTable.h"
 
-#include "IconCache.h"
+#include "AppIcons.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,7 +8,7 @@ namespace
 {
 
 const std::array<QString, 4> identifiers{u"Icon"_s, u"Name"_s, u"Desc"_s, u"Type"_s};
-constexpr qsizetype longestText = 500;
+constexpr qsizetype maxText = 500; // characters
 
 // Only markup is broken into lines, and a description may be long.
 QString wrappedToolTip(const QString &text)
@@ -18,10 +18,9 @@ QString wrappedToolTip(const QString &text)
 
 } // namespace
 
-AppsTable::AppsTable(IconCache &icons, QObject *parent)
-    : QAbstractTableModel(parent), m_icons(icons)
+AppsTable::AppsTable(AppIcons &icons, QObject *parent) : QAbstractTableModel(parent), m_icons(icons)
 {
-    connect(&m_icons, &IconCache::arrived, this, &AppsTable::showIcon);
+    connect(&m_icons, &AppIcons::arrived, this, &AppsTable::showIcon);
 }
 
 void AppsTable::setApps(const QVariantList &apps)
@@ -42,7 +41,7 @@ QString AppsTable::text(const QString &key, int row) const
     const QVariant value = m_apps.at(row).toMap().value(key);
     if (value.metaType() != QMetaType::fromType<QString>())
         return {};
-    return value.toString().left(longestText).simplified();
+    return value.toString().left(maxText).simplified();
 }
 
 QVariant AppsTable::objectValueForTableColumn(const QString &identifier, int row) const
