@@ -2,6 +2,8 @@
 
 #include "AppIcons.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -48,10 +50,8 @@ QVariant AppsTable::objectValueForTableColumn(const QString &identifier, int row
 {
     if (identifier == identifiers[IconColumn])
         return m_icons.icon(text(identifier, row));
-    if (identifier == identifiers[NameColumn] || identifier == identifiers[DescColumn]
-        || identifier == identifiers[TypeColumn])
-        return text(identifier, row);
-    return {};
+    const bool isKnown = std::ranges::find(identifiers, identifier) != identifiers.end();
+    return isKnown ? text(identifier, row) : QVariant();
 }
 
 int AppsTable::rowCount(const QModelIndex &parent) const

@@ -39,24 +39,16 @@ HttpLimits limitsFor(const QByteArray &address, std::chrono::milliseconds timeou
 
 UpdateProblem problemOf(const HttpReply &reply)
 {
-    switch (reply.end) {
-    case HttpReply::End::Answered:
-        return reply.status == 200 ? UpdateProblem{}
-                                   : UpdateProblem{Kind::Status, QString::number(reply.status)};
-    case HttpReply::End::Refused:
-        return {Kind::UnsafeAddress};
-    case HttpReply::End::TimedOut:
-        return {Kind::TimedOut};
-    case HttpReply::End::TooLarge:
-        return {Kind::TooLarge};
-    case HttpReply::End::Cancelled:
-        return {Kind::Stopped};
-    case HttpReply::End::NotWritten:
-        return {Kind::NotWritten};
-    case HttpReply::End::Failed:
-        return {Kind::Unreachable};
-    }
-    Q_UNREACHABLE();
+    using End = HttpReply::End;
+    static const QMap<End, Kind> kinds{
+        {End::Refused, Kind::UnsafeAddress}, {End::TimedOut, Kind::TimedOut},
+        {End::TooLarge, Kind::TooLarge},     {End::Cancelled, Kind::Stopped},
+        {End::NotWritten, Kind::NotWritten}, {End::Failed, Kind::Unreachable},
+    };
+    if (!reply.answered())
+        return {kinds.value(reply.end, Kind::Unreachable)};
+    return reply.status == 200 ? UpdateProblem{}
+                               : UpdateProblem{Kind::Status, QString::number(reply.status)};
 }
 
 UpdateProblem problemOf(const SignedFeed &signedFeed, const QByteArray &publicKey)
@@ -94,12 +86,11 @@ UpdateProblem receive(const UpdateItem &item, QFile &target, std::atomic<qint64>
                         .limits = limitsFor(item.address, fileTimeout, item.length),
                         .stop = stop};
     request.progress = [&received](qint64 bytes) { received = bytes; };
-    if (const UpdateProblem problem = problemOf(httpGet(request, target)))
-        return problem.kind == Kind::NotWritten
-            ? UpdateProblem{Kind::NotWritten, target.errorString()}
-            : problem;
-    if (!target.flush())
-        return {Kind::NotWritten, target.errorString()};
+    UpdateProblem problem = problemOf(httpGet(request, target));
+    if (problem.kind == Kind::NotWritten)
+        problem.detail = target.errorString();
+    if (problem)
+        return problem;
     if (fsync(target.handle()) != 0)
         return notWritten(errno);
     return {target.size() == item.length ? Kind::None : Kind::Incomplete};

@@ -1,7 +1,7 @@
 // Proves that no server can crash or hold up the page, make it write anything but its two caches,
 // or take the last good list away.
 
-#include "AboutPageTest.h"
+#include "AboutPageFixture.h"
 
 using namespace Qt::StringLiterals;
 using Answer = MakersServer::Answer;
@@ -18,7 +18,7 @@ QByteArray hugePicture()
 
 } // namespace
 
-class TestAboutHostile : public AboutPageTest
+class TestAboutHostile : public AboutPageFixture
 {
     Q_OBJECT
 

@@ -1,7 +1,7 @@
 // Proves that the page shows the maker's list and icons, opens what is chosen, keeps both for when
 // the server cannot be reached, and shows no message then.
 
-#include "AboutPageTest.h"
+#include "AboutPageFixture.h"
 #include "Application.h"
 #include "ContainerBox.h"
 #include "HoverTableAppDelegate.h"
@@ -33,7 +33,7 @@ QByteArray twoApps()
 
 } // namespace
 
-class TestAboutPage : public AboutPageTest
+class TestAboutPage : public AboutPageFixture
 {
     Q_OBJECT
 
