@@ -100,7 +100,7 @@ QString numbered(const QString &name, int number)
 {
     if (number == 1)
         return name;
-    // "name-1.2.tar.gz" becomes "name-1.2 2.tar.gz": a suffix begins with a letter.
+    // "name-1.2.tar.gz" becomes "name-1.2 2.tar.gz": no suffix begins with a digit.
     static const QRegularExpression suffixes(uR"((\.[A-Za-z][A-Za-z0-9]*)+\z)"_s);
     const qsizetype suffix = name.indexOf(suffixes, 1);
     const QString extra = u" %1"_s.arg(number);

@@ -75,7 +75,7 @@ private Q_SLOTS:
         QCOMPARE(last, 18);
         for (int row = 0; row < last; ++row)
             QVERIFY2(icon(row).isNull(), QByteArray::number(row).constData());
-        QTRY_VERIFY(!icon(last).isNull()); // what was asked for has been asked for by now
+        QTRY_VERIFY(!icon(last).isNull()); // whatever was requested, was requested by now
         awaitRequest("/conf/images/last@2x.png");
         QCOMPARE(m_server->paths(),
                  (QList<QByteArray>{"/conf/Apps.plist", "/conf/images/last.png",

@@ -40,7 +40,7 @@ class TestAboutPage : public AboutPageFixture
 private Q_SLOTS:
     void initTestCase() { Application::prepare(); }
 
-    // In the window it is made and loads only when it is asked for, and once.
+    // The window makes the page, and the page loads, on request only and once.
     void opensOnRequestOnly()
     {
         serve(AppsPlist::list(AppsPlist::app("zip", "A")));
@@ -168,10 +168,10 @@ private Q_SLOTS:
         serve(AppsPlist::list(AppsPlist::app("slow", "A").repeated(8)
                               + AppsPlist::app("kept", "Kept")));
         open();
-        QTRY_VERIFY(!icon(8).isNull()); // waits for nobody's
+        QTRY_VERIFY(!icon(8).isNull()); // does not wait for the others
         QElapsedTimer timer;
         timer.start();
-        m_page.reset(); // breaks off what is still asked for
+        m_page.reset(); // breaks off the requests
         QVERIFY(timer.elapsed() < 5000);
     }
 
@@ -200,9 +200,9 @@ private Q_SLOTS:
         QVERIFY(icon(rows() - 1).isNull());
         awaitRequest("/conf/images/late@2x.png");
         QCOMPARE(files(), (QStringList{u"Apps.plist"_s, u"crane"_s, u"crane@2x"_s, u"kept"_s}));
-        QList<QByteArray> asked = m_server->paths();
-        std::sort(asked.begin(), asked.end());
-        QCOMPARE(asked,
+        QList<QByteArray> requested = m_server->paths();
+        std::sort(requested.begin(), requested.end());
+        QCOMPARE(requested,
                  (QList<QByteArray>{"/conf/Apps.plist", "/conf/images/crane.png",
                                     "/conf/images/crane@2x.png", "/conf/images/kept@2x.png",
                                     "/conf/images/late.png", "/conf/images/late@2x.png",

@@ -107,7 +107,7 @@ private Q_SLOTS:
               feed.chopped(1) + "<!-- edSignature: AAAA -->", sealed + feed,
               sealed.trimmed().chopped(1)})
             QCOMPARE(SignedFeed::split(unsealed).signature, QByteArray());
-        // Only the last one counts, over all that stands before it.
+        // Only the last one counts, over everything before it.
         const QByteArray twice = maker.sealed(sealed);
         QCOMPARE(SignedFeed::split(twice).feed.toByteArray(), sealed);
     }
