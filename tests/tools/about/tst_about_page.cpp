@@ -163,12 +163,19 @@ private Q_SLOTS:
         QVERIFY(!control<QWidget>(*page, "table").isVisible());
         page.reset();
 
-        m_server->set("/conf/images/slow.png", MakersServer::silent("HTTP/1.1 "));
+        QByteArray apps;
+        for (const char *name : {"s1", "s2", "s3", "s4", "s5", "s6", "s7", "s8"}) {
+            m_server->set(QByteArray("/conf/images/") + name + ".png",
+                          MakersServer::silent("HTTP/1.1 "));
+            apps += AppsPlist::app(name, "Slow");
+        }
         write("kept", picture(8, 8));
-        serve(AppsPlist::list(AppsPlist::app("slow", "A").repeated(8)
-                              + AppsPlist::app("kept", "Kept")));
+        serve(AppsPlist::list(apps + AppsPlist::app("", "A").repeated(100)
+                              + AppsPlist::app("kept", "Far below")));
+        const qsizetype before = m_server->paths().size();
         open();
-        QTRY_VERIFY(!icon(8).isNull()); // does not wait for the others
+        QTRY_COMPARE(m_server->paths().size(), before + 2); // it serves one at a time
+        QTRY_VERIFY(!icon(rows() - 1).isNull()); // does not wait for the others
         QElapsedTimer timer;
         timer.start();
         m_page.reset(); // breaks off the requests
