@@ -135,6 +135,9 @@ private:
         set(CURLOPT_FOLLOWLOCATION, limits.redirects > 0 ? 1L : 0L);
         set(CURLOPT_MAXREDIRS, long(limits.redirects));
         set(CURLOPT_TIMEOUT_MS, std::max(1L, long(limits.time.count()))); // 0 would be endless
+        set(CURLOPT_CONNECTTIMEOUT, long(limits.silenceTimeout.count())); // 0 is libcurl's own
+        set(CURLOPT_LOW_SPEED_TIME, long(limits.silenceTimeout.count()));
+        set(CURLOPT_LOW_SPEED_LIMIT, 1L);
         set(CURLOPT_MAXFILESIZE_LARGE, curl_off_t(limits.bytes));
         set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_1_1));
         set(CURLOPT_USERAGENT, "Toolvane");

@@ -23,6 +23,7 @@ enum class HttpSchemes { Any, SecureOnly }; ///< http and https, or https alone.
 /// What a request may use up. A request that passes one of these has no reply.
 struct HttpLimits {
     std::chrono::milliseconds time{60'000}; ///< From the look-up of the host to the last byte.
+    std::chrono::seconds silenceTimeout{0}; ///< Without a byte, or a connection. 0: not limited.
     qint64 bytes = 1024 * 1024; ///< Of the body.
     int redirects = 5; ///< With 0 a redirect is itself the reply.
     HttpSchemes schemes = HttpSchemes::Any;

@@ -1,6 +1,6 @@
 // What a list of 1,000 applications with cached icons costs on the About page: work of the
-// interface thread until it stands there, pauses while it scrolls, memory for its icons. Rows end
-// with the figure, its limit and "ok" or "PASSED"; the exit status is 1 when one is passed.
+// interface thread until it is shown, pauses while it scrolls, memory for its icons. The exit
+// status is 1 when a figure is over its limit.
 
 #include "AboutViewController.h"
 #include "MiscTool.h"
@@ -44,7 +44,7 @@ void writeFile(const QString &name, const QByteArray &bytes)
         qFatal("cannot write the sample list");
 }
 
-// Pictures that cannot be packed well, each another one.
+// Pictures that do not compress well, each a different one.
 void writeIcon(int app)
 {
     QImage image(128, 128, QImage::Format_ARGB32);

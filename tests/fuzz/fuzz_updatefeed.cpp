@@ -1,4 +1,4 @@
-// Update feeds come from a server: no bytes may crash the reader or make it believe more than is
+// Update feeds come from a server: no bytes may crash the reader, or make it read more than is
 // there.
 
 #include "UpdateFeed.h"
@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         const auto feed = UpdateFeed::read(part);
         if (!feed)
             continue;
-        if (feed->items.size() > UpdateFeed::mostItems)
+        if (feed->items.size() > UpdateFeed::maxItems)
             std::abort();
         for (const UpdateItem &item : feed->items) {
             if (item.version.isNull() || item.shortVersion.isEmpty())

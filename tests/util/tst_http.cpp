@@ -95,6 +95,16 @@ private Q_SLOTS:
         }
     }
 
+    void doesNotWaitForASilentServer()
+    {
+        const HttpPeer peer([](Connection &connection) {
+            connection.send("HTTP/1.1 200 OK\r\n\r\nbegin");
+            connection.hasGoneWithin(30s); // whoever waits for that has an answer
+        });
+        const HttpLimits limits{.time = 1h, .silenceTimeout = 1s};
+        QCOMPARE(httpGet({peer.address(), {}, limits}).end, End::TimedOut);
+    }
+
     void followsARedirectAndPutsTheBodyIntoTheTarget()
     {
         const QByteArray body(50'000, 'b');

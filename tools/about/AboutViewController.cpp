@@ -4,13 +4,13 @@
 #include "MiscTool.h"
 #include "NamedImage.h"
 #include "PageStatus.h"
-#include "SafeAddress.h"
-#include "ServerAddress.h"
 #include "ThemedLabels.h"
 #include "ui_AboutViewController.h"
 
 #include <QCoreApplication>
+#include <QDesktopServices>
 #include <QHeaderView>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -24,6 +24,26 @@ constexpr int rowHeight = 44;
 constexpr int iconColumnWidth = 56;
 constexpr int nameColumnWidth = 160;
 constexpr int typeColumnWidth = 110;
+constexpr qsizetype maxAddress = 2048; // characters
+
+bool isSafe(const QUrl &url)
+{
+    const bool isWeb = url.scheme() == "http"_L1 || url.scheme() == "https"_L1;
+    return url.isValid()
+        && ((isWeb && !url.host().isEmpty())
+            || (url.scheme() == "mailto"_L1 && !url.path().isEmpty()));
+}
+
+// Opens an address that a server sent. Anything that is neither a web nor a mail address opens
+// nothing: no file, no script, no other program's scheme.
+void openSafely(const QString &address)
+{
+    QUrl url(address.left(maxAddress));
+    if (url.scheme() == "mailto"_L1)
+        url.setQuery(QString()); // which could name the user's files as attachments
+    if (isSafe(url))
+        QDesktopServices::openUrl(url);
+}
 
 } // namespace
 
@@ -55,7 +75,7 @@ void AboutViewController::addHint()
 void AboutViewController::setUpTable()
 {
     ui->table->setModel(&m_table);
-    ui->table->setIconSize(QSize(IconCache::side, IconCache::side));
+    ui->table->setIconSize(QSize(AppIcons::side, AppIcons::side));
     ui->table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     ui->table->verticalHeader()->setDefaultSectionSize(rowHeight);
     QHeaderView *header = ui->table->horizontalHeader();
@@ -106,12 +126,11 @@ void AboutViewController::initLocalizables()
 void AboutViewController::reloadData(const std::stop_token &stop)
 {
     QMetaObject::invokeMethod(this, &AboutViewController::beginLoading, Qt::QueuedConnection);
-    const QString server = serverAddress(Server::Configuration);
+    const QString server = configurationServer();
     const AppsList list =
         AppsList::load(server, MiscTool::getAppDocumentFolder(), stop).value_or(AppsList());
-    const auto end = [this, server, configuration = list.dictionary, apps = list.apps(),
-                      social = list.social()] { endLoading(configuration, apps, social, server); };
-    QMetaObject::invokeMethod(this, end, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, list, server] { endLoading(list, server); }, Qt::QueuedConnection);
 }
 
 void AboutViewController::beginLoading()
@@ -120,12 +139,11 @@ void AboutViewController::beginLoading()
     PageStatus::setIdle(*ui->progressIndicator, false);
 }
 
-void AboutViewController::endLoading(const QVariantMap &configuration, const QVariantList &apps,
-                                     const QVariantMap &social, const QString &server)
+void AboutViewController::endLoading(const AppsList &list, const QString &server)
 {
-    confDict = configuration;
-    data = apps;
-    socialDict = social;
+    confDict = list.dictionary;
+    data = list.apps();
+    socialDict = list.social();
     m_icons.setServer(server);
     m_table.setApps(data);
     m_nothingListed->setVisible(data.isEmpty());
@@ -145,27 +163,7 @@ void AboutViewController::goAction()
         openSafely(data.at(rows.first().row()).toMap().value(u"URL"_s).toString());
 }
 
-void AboutViewController::webAction()
+void AboutViewController::openSocial(const char *key, const char *scheme)
 {
-    openSafely(socialDict.value(u"Web"_s).toString());
-}
-
-void AboutViewController::emailAction()
-{
-    openSafely(u"mailto:"_s + socialDict.value(u"Email"_s).toString());
-}
-
-void AboutViewController::twitterAction()
-{
-    openSafely(socialDict.value(u"Twitter"_s).toString());
-}
-
-void AboutViewController::facebookAction()
-{
-    openSafely(socialDict.value(u"Facebook"_s).toString());
-}
-
-void AboutViewController::googlePlusAction()
-{
-    openSafely(socialDict.value(u"Google+"_s).toString());
+    openSafely(QLatin1String(scheme) + socialDict.value(QLatin1String(key)).toString());
 }

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "AppIcons.h"
 #include "AppsTable.h"
-#include "IconCache.h"
 
 #include <QVariantList>
 #include <QVariantMap>
@@ -16,6 +16,7 @@ class AboutViewController;
 }
 
 class HintLabel;
+struct AppsList;
 
 /// The page that lists the maker's applications and social links. Made when it is opened for the
 /// first time, and loading from then on.
@@ -32,16 +33,19 @@ public:
     QVariantMap socialDict; ///< Its social links.
 
     void initLocalizables();
-    /// The load, on a thread that may wait; its changes to the page are posted in their order.
+    /// The load, on a thread that may wait; its changes to the page are posted in their order. A
+    /// failure is silent: the list is the one of the last time, or empty.
     void reloadData(const std::stop_token &stop);
 
+    /// Choosing a row, with the mouse or the keyboard, opens its address at once.
     void tableViewSelectionDidChange();
     void goAction(); ///< Opens the address of the selected row.
-    void webAction();
-    void emailAction();
-    void twitterAction();
-    void facebookAction();
-    void googlePlusAction();
+    /// A link that is missing, or that leads to anything but the web or a mail, opens nothing.
+    void webAction() { openSocial("Web"); }
+    void emailAction() { openSocial("Email", "mailto:"); }
+    void twitterAction() { openSocial("Twitter"); }
+    void facebookAction() { openSocial("Facebook"); }
+    void googlePlusAction() { openSocial("Google+"); }
 
 private:
     void awakeFromNib();
@@ -49,12 +53,12 @@ private:
     void addHint();
     void setUpTable();
     void beginLoading();
-    void endLoading(const QVariantMap &configuration, const QVariantList &apps,
-                    const QVariantMap &social, const QString &server);
+    void endLoading(const AppsList &list, const QString &server);
+    void openSocial(const char *key, const char *scheme = "");
 
     std::unique_ptr<Ui::AboutViewController> ui;
-    IconCache m_icons;
+    AppIcons m_icons;
     AppsTable m_table;
-    HintLabel *m_nothingListed; ///< What stands in place of rows where there are none.
+    HintLabel *m_nothingListed; ///< Shown in place of the rows if there are none.
     std::jthread m_loader; // last: its destructor waits for the thread, which uses the rest
 };

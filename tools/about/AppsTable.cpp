@@ -1,6 +1,8 @@
 #include "AppsTable.h"
 
-#include "IconCache.h"
+#include "AppIcons.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -8,7 +10,7 @@ namespace
 {
 
 const std::array<QString, 4> identifiers{u"Icon"_s, u"Name"_s, u"Desc"_s, u"Type"_s};
-constexpr qsizetype longestText = 500;
+constexpr qsizetype maxText = 500; // characters
 
 // Only markup is broken into lines, and a description may be long.
 QString wrappedToolTip(const QString &text)
@@ -18,10 +20,9 @@ QString wrappedToolTip(const QString &text)
 
 } // namespace
 
-AppsTable::AppsTable(IconCache &icons, QObject *parent)
-    : QAbstractTableModel(parent), m_icons(icons)
+AppsTable::AppsTable(AppIcons &icons, QObject *parent) : QAbstractTableModel(parent), m_icons(icons)
 {
-    connect(&m_icons, &IconCache::arrived, this, &AppsTable::showIcon);
+    connect(&m_icons, &AppIcons::arrived, this, &AppsTable::showIcon);
 }
 
 void AppsTable::setApps(const QVariantList &apps)
@@ -42,17 +43,15 @@ QString AppsTable::text(const QString &key, int row) const
     const QVariant value = m_apps.at(row).toMap().value(key);
     if (value.metaType() != QMetaType::fromType<QString>())
         return {};
-    return value.toString().left(longestText).simplified();
+    return value.toString().left(maxText).simplified();
 }
 
 QVariant AppsTable::objectValueForTableColumn(const QString &identifier, int row) const
 {
     if (identifier == identifiers[IconColumn])
         return m_icons.icon(text(identifier, row));
-    if (identifier == identifiers[NameColumn] || identifier == identifiers[DescColumn]
-        || identifier == identifiers[TypeColumn])
-        return text(identifier, row);
-    return {};
+    const bool isKnown = std::ranges::find(identifiers, identifier) != identifiers.end();
+    return isKnown ? text(identifier, row) : QVariant();
 }
 
 int AppsTable::rowCount(const QModelIndex &parent) const

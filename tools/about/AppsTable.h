@@ -5,7 +5,7 @@
 
 #include <array>
 
-class IconCache;
+class AppIcons;
 
 /// The listed applications as rows. What a server wrote comes out as plain text on one line; its
 /// tool tips are escaped, because the toolkit would take them for markup.
@@ -16,10 +16,12 @@ class AppsTable : public QAbstractTableModel
 public:
     enum Column { IconColumn, NameColumn, DescColumn, TypeColumn };
 
-    explicit AppsTable(IconCache &icons, QObject *parent = nullptr);
+    /// `icons` must outlive the table.
+    explicit AppsTable(AppIcons &icons, QObject *parent = nullptr);
 
     /// Dictionaries with the keys "Icon", "Name", "Desc", "Type" and "URL".
     void setApps(const QVariantList &apps);
+    /// The column's header.
     void setTitle(Column column, const QString &title);
 
     int numberOfRowsInTableView() const { return static_cast<int>(m_apps.size()); }
@@ -36,7 +38,7 @@ private:
     QString text(const QString &key, int row) const;
     void showIcon(const QString &name);
 
-    IconCache &m_icons;
+    AppIcons &m_icons;
     QVariantList m_apps;
     std::array<QString, 4> m_titles;
 };

@@ -2,11 +2,9 @@
 
 #include "JobList.h"
 #include "MiscTool.h"
-#include "ServerAddress.h"
-#include "UpdateOffer.h"
-#include "UpdateTransfer.h"
 
 #include <QCoroFuture>
+#include <QMap>
 #include <QPointer>
 #include <QtConcurrentRun>
 
@@ -18,8 +16,7 @@ using Kind = UpdateProblem::Kind;
 namespace
 {
 
-constexpr auto watchInterval = 100ms;
-constexpr std::chrono::milliseconds longestSilence = 60s;
+constexpr auto progressInterval = 100ms;
 
 bool isDistrust(Kind kind)
 {
@@ -33,13 +30,32 @@ UpdateChecker::UpdateChecker(const QByteArray &publicKey, QObject *parent)
     : QObject(parent), m_publicKey(publicKey), m_memory(publicKey)
 {
     m_worker.setMaxThreadCount(1);
-    m_watch.setInterval(watchInterval);
-    connect(&m_watch, &QTimer::timeout, this, &UpdateChecker::watchProgress);
+    m_progressTimer.setInterval(progressInterval);
+    connect(&m_progressTimer, &QTimer::timeout, this, &UpdateChecker::progressed);
 }
 
 UpdateChecker::~UpdateChecker()
 {
     m_stop.request_stop();
+}
+
+QString UpdateChecker::headline() const
+{
+    static const QMap<Phase, const char *> keys{
+        {Phase::Checking, QT_TRID_NOOP("Update.Checking")},
+        {Phase::UpToDate, QT_TRID_NOOP("Update.Result.UpToDate")},
+        {Phase::Available, QT_TRID_NOOP("Update.Result.Available")},
+        {Phase::Skipped, QT_TRID_NOOP("Update.Result.Skipped")},
+        {Phase::Downloading, QT_TRID_NOOP("Update.Downloading")},
+        {Phase::Downloaded, QT_TRID_NOOP("Update.Downloaded")},
+        {Phase::NotDownloaded, QT_TRID_NOOP("Update.NotDownloaded")},
+    };
+    if (m_phase == Phase::Unasked)
+        return hasFeedAddress() ? qtTrId("Update.Unasked") : qtTrId("Update.NoFeed");
+    if (m_phase == Phase::NotChecked)
+        return qtTrId(UpdateMemory::lastCheck().result.toLatin1().constData());
+    const QString text = qtTrId(keys.value(m_phase));
+    return m_offer && m_phase != Phase::Checking ? text.arg(m_offer->shortVersion) : text;
 }
 
 void UpdateChecker::setJobs(JobList &jobs, const QString &page)
@@ -50,7 +66,7 @@ void UpdateChecker::setJobs(JobList &jobs, const QString &page)
 
 UpdateSource UpdateChecker::source() const
 {
-    return {.feedAddress = serverAddress(Server::UpdateFeed).toUtf8(), .publicKey = m_publicKey};
+    return {.feedAddress = UpdateSource::configuredFeedAddress(), .publicKey = m_publicKey};
 }
 
 QCoro::Task<> UpdateChecker::check()
@@ -74,15 +90,15 @@ QCoro::Task<> UpdateChecker::download()
     const QPointer<UpdateChecker> self(this);
     const std::stop_token stop = begin(Phase::Downloading);
     Job job = beginJob();
-    const auto work = [item = *m_offer, key = m_publicKey, received = m_received, stop] {
-        return fetchFile(item, key, MiscTool::getDownloadFolder(), *received, stop);
+    // May use this object: its destructor waits for the thread.
+    const auto work = [this, item = *m_offer, stop] {
+        return fetchFile(item, m_publicKey, MiscTool::getDownloadFolder(), m_received, stop);
     };
     const FetchedFile fetched = co_await QtConcurrent::run(&m_worker, work);
-    const bool isUsersStop = fetched.problem.kind == Kind::Stopped && !(self && m_isStalled);
     if (!fetched.problem)
         job.end(JobOutcome::Succeeded);
     else
-        job.end(isUsersStop ? JobOutcome::Stopped : JobOutcome::Failed);
+        job.end(fetched.problem.kind == Kind::Stopped ? JobOutcome::Stopped : JobOutcome::Failed);
     if (self)
         conclude(fetched);
 }
@@ -91,12 +107,9 @@ std::stop_token UpdateChecker::begin(Phase phase)
 {
     m_stop = std::stop_source();
     m_problem = {};
-    *m_received = 0;
-    m_receivedBefore = 0;
-    m_isStalled = false;
-    m_lastByte.start();
+    m_received = 0;
     if (phase == Phase::Downloading)
-        m_watch.start();
+        m_progressTimer.start();
     m_phaseBefore = m_phase;
     enter(phase);
     return m_stop.get_token();
@@ -108,6 +121,14 @@ void UpdateChecker::enter(Phase phase)
     Q_EMIT changed();
 }
 
+void UpdateChecker::enter(Phase phase, const char *checkResult)
+{
+    UpdateMemory::setLastCheck({.time = QDateTime::currentDateTimeUtc(),
+                                .result = QString::fromLatin1(checkResult),
+                                .argument = m_offer ? m_offer->shortVersion : QString()});
+    enter(phase);
+}
+
 void UpdateChecker::conclude(const FetchedFeed &fetched)
 {
     m_problem = fetched.problem;
@@ -117,9 +138,9 @@ void UpdateChecker::conclude(const FetchedFeed &fetched)
     }
     m_offer.reset();
     if (m_problem) {
-        record(isDistrust(m_problem.kind) ? QT_TRID_NOOP("Update.Result.NotTrusted")
-                                          : QT_TRID_NOOP("Update.Result.NotReached"));
-        enter(Phase::NotChecked);
+        enter(Phase::NotChecked,
+              isDistrust(m_problem.kind) ? QT_TRID_NOOP("Update.Result.NotTrusted")
+                                         : QT_TRID_NOOP("Update.Result.NotReached"));
         return;
     }
     if (hasKey())
@@ -127,25 +148,19 @@ void UpdateChecker::conclude(const FetchedFeed &fetched)
     UpdateRules rules = UpdateRules::current();
     rules.withdrawn = m_memory.withdrawn();
     m_offer = chooseOffer(fetched.feed, rules);
-    if (!m_offer) {
-        record("Update.Result.UpToDate");
-        enter(Phase::UpToDate);
-    } else if (m_offer->version == UpdateMemory::skipped()) {
-        record("Update.Result.Skipped");
-        enter(Phase::Skipped);
-    } else {
-        record("Update.Result.Available");
-        enter(Phase::Available);
-    }
+    if (!m_offer)
+        enter(Phase::UpToDate, "Update.Result.UpToDate");
+    else if (m_offer->version == UpdateMemory::skipped())
+        enter(Phase::Skipped, "Update.Result.Skipped");
+    else
+        enter(Phase::Available, "Update.Result.Available");
 }
 
 void UpdateChecker::conclude(const FetchedFile &fetched)
 {
-    m_watch.stop();
+    m_progressTimer.stop();
     m_problem = fetched.problem;
     m_file = fetched.path;
-    if (m_problem.kind == Kind::Stopped && m_isStalled)
-        m_problem = {Kind::TimedOut};
     if (m_problem.kind == Kind::Stopped) {
         enter(Phase::Available);
     } else if (m_problem) {
@@ -156,35 +171,14 @@ void UpdateChecker::conclude(const FetchedFile &fetched)
     }
 }
 
-void UpdateChecker::record(const char *result) const
-{
-    UpdateMemory::setLastCheck({.time = QDateTime::currentDateTimeUtc(),
-                                .result = QString::fromLatin1(result),
-                                .argument = m_offer ? m_offer->shortVersion : QString()});
-}
-
 Job UpdateChecker::beginJob() const
 {
     if (!m_jobs)
         return {};
-    // Not this object but the order to stop is kept: the job may outlive it by a moment.
+    // Not this object but its stop source is kept: the job may outlive the object by a moment.
     return m_jobs->begin(
         {.page = m_page, .title = qtTrId("Update.Job"), .subject = fileNameOf(*m_offer)},
         [stop = m_stop]() mutable { stop.request_stop(); });
-}
-
-// A server that goes silent in the middle would hold the download for hours.
-void UpdateChecker::watchProgress()
-{
-    const qint64 now = received();
-    if (now != m_receivedBefore) {
-        m_receivedBefore = now;
-        m_lastByte.start();
-    } else if (m_lastByte.hasExpired(longestSilence.count())) {
-        m_isStalled = true;
-        m_stop.request_stop();
-    }
-    Q_EMIT progressed();
 }
 
 void UpdateChecker::stop()
@@ -192,18 +186,10 @@ void UpdateChecker::stop()
     m_stop.request_stop();
 }
 
-void UpdateChecker::skip()
+void UpdateChecker::setSkipped(bool skipped)
 {
     if (isBusy() || !m_offer)
         return;
-    UpdateMemory::setSkipped(m_offer->version);
-    enter(Phase::Skipped);
-}
-
-void UpdateChecker::unskip()
-{
-    if (isBusy() || !m_offer)
-        return;
-    UpdateMemory::setSkipped({});
-    enter(Phase::Available);
+    UpdateMemory::setSkipped(skipped ? m_offer->version : QVersionNumber());
+    enter(skipped ? Phase::Skipped : Phase::Available);
 }

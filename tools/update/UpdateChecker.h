@@ -1,34 +1,29 @@
 #pragma once
 
-#include "UpdateFeed.h"
 #include "UpdateMemory.h"
-#include "UpdateProblem.h"
-#include "UpdateSource.h"
+#include "UpdateTransfer.h"
 
 #include <QCoroTask>
-#include <QElapsedTimer>
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
 
 #include <atomic>
-#include <memory>
 #include <optional>
 #include <stop_token>
 
 class Job;
 class JobList;
-struct FetchedFeed;
-struct FetchedFile;
 
 /// Looks for a newer version, remembers what came of it, and fetches the version that the user
-/// wants: what the update page does, without its widgets. Nothing is asked of any server before
-/// check() is called. Interface thread only; the waiting is done on a thread of its own.
+/// wants: what the update page does, without its widgets. No server is contacted before check() is
+/// called. Interface thread only; requests run on a thread of the checker's own.
 class UpdateChecker : public QObject
 {
     Q_OBJECT
 
 public:
+    /// Which of the members below mean something depends on the phase.
     enum class Phase {
         Unasked, ///< No check yet since the start.
         Checking,
@@ -38,31 +33,40 @@ public:
         NotChecked, ///< problem() says why.
         Downloading,
         Downloaded, ///< file() says where.
-        NotDownloaded, ///< problem() says why; the offer stands.
+        NotDownloaded, ///< problem() says why; there still is an offer.
     };
 
     explicit UpdateChecker(const QByteArray &publicKey, QObject *parent = nullptr);
-    ~UpdateChecker() override; ///< Ends what runs; a part of a file leaves no trace.
+    /// Ends what runs, which may take a second; a part of a file leaves no trace.
+    ~UpdateChecker() override;
 
-    /// A download is listed there as a job of this page.
+    /// A download is listed in `jobs` as a job of the page with this object name.
     void setJobs(JobList &jobs, const QString &page);
 
     Phase phase() const { return m_phase; }
     bool isBusy() const { return m_phase == Phase::Checking || m_phase == Phase::Downloading; }
+    /// The phase in one sentence for the user; plain text, although a server wrote the version in
+    /// it.
+    QString headline() const;
     const std::optional<UpdateItem> &offer() const { return m_offer; }
     const UpdateProblem &problem() const { return m_problem; }
-    const QString &file() const { return m_file; }
-    qint64 received() const { return m_received->load(); } ///< Bytes of the running download.
+    const QString &file() const { return m_file; } ///< Path of the last download.
+    qint64 received() const { return m_received; } ///< Bytes of the running download.
 
     bool hasFeedAddress() const { return !source().feedAddress.isEmpty(); }
+    /// Without a key versions are shown, but nothing is downloaded.
     bool hasKey() const { return !m_publicKey.isEmpty(); }
 
+    /// Reads the feed. Does nothing while busy or without a feed address. A check that is stopped
+    /// leaves everything as it was.
     QCoro::Task<> check();
-    /// Fetches the offer into the user's Downloads folder.
+    /// Fetches the offer into the user's Downloads folder. Does nothing while busy, without an
+    /// offer or without a key.
     QCoro::Task<> download();
-    void stop(); ///< Ends the running check or download, within about a second.
-    void skip(); ///< This version is not offered any more, a newer one is.
-    void unskip();
+    /// Ends the running check or download, within about a second.
+    void stop();
+    /// A skipped version is not offered any more, also after a restart; a newer one is.
+    void setSkipped(bool skipped);
 
 Q_SIGNALS:
     void changed();
@@ -73,11 +77,10 @@ private:
     UpdateSource source() const;
     std::stop_token begin(Phase phase);
     void enter(Phase phase);
+    void enter(Phase phase, const char *checkResult); ///< And remembers the result for next time.
     void conclude(const FetchedFeed &fetched);
     void conclude(const FetchedFile &fetched);
-    void record(const char *result) const;
     Job beginJob() const;
-    void watchProgress();
 
     QByteArray m_publicKey;
     UpdateMemory m_memory;
@@ -89,10 +92,7 @@ private:
     UpdateProblem m_problem;
     QString m_file;
     std::stop_source m_stop;
-    std::shared_ptr<std::atomic<qint64>> m_received = std::make_shared<std::atomic<qint64>>(0);
-    qint64 m_receivedBefore = 0;
-    bool m_isStalled = false;
-    QElapsedTimer m_lastByte;
-    QTimer m_watch;
+    std::atomic<qint64> m_received = 0;
+    QTimer m_progressTimer;
     QThreadPool m_worker; // last: its destructor waits for the thread
 };

@@ -1,6 +1,9 @@
 #include "UpdateFeed.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
+#include <QSettings>
+#include <QSysInfo>
 #include <QXmlStreamReader>
 
 using namespace Qt::StringLiterals;
@@ -12,8 +15,10 @@ namespace
 constexpr auto castNamespace = "http://www.andymatuschak.org/xml-namespaces/sparkle"_L1;
 constexpr auto ownNamespace = "urn:toolvane:feed"_L1;
 
-constexpr qsizetype mostNotes = 16 * 1024;
-constexpr qsizetype mostText = 200;
+constexpr qsizetype maxNotes = 16 * 1024; // characters, as the next
+constexpr qsizetype maxText = 200;
+constexpr qint64 maxFileSize = 4LL * 1024 * 1024 * 1024;
+constexpr qsizetype signatureSize = 64; // RFC 8032, section 5.1.6
 
 QByteArray fromBase64(QByteArrayView text)
 {
@@ -22,7 +27,7 @@ QByteArray fromBase64(QByteArrayView text)
     return result ? *result : QByteArray();
 }
 
-// As RSS 2.0 writes it: RFC 822 with four-digit years, where Greenwich has names, too.
+// As RSS 2.0 writes it: RFC 822 with four-digit years. Greenwich may be named there.
 QDateTime dateOf(QString text)
 {
     static const QRegularExpression greenwich(u"\\s(GMT|UT|UTC|Z)\\z"_s);
@@ -69,18 +74,16 @@ private:
         return false;
     }
 
-    bool isPlain(QLatin1String name) const
+    bool is(QLatin1String space, QLatin1String name) const
     {
-        return m_xml.name() == name && m_xml.namespaceUri().isEmpty();
+        return m_xml.namespaceUri() == space && m_xml.name() == name;
     }
-    bool isCast(QLatin1String name) const
-    {
-        return m_xml.name() == name && m_xml.namespaceUri() == castNamespace;
-    }
+    bool isPlain(QLatin1String name) const { return is({}, name); }
+    bool isCast(QLatin1String name) const { return is(castNamespace, name); }
 
-    QString text(qsizetype most = mostText)
+    QString text(qsizetype maxSize = maxText)
     {
-        return m_xml.readElementText(QXmlStreamReader::SkipChildElements).left(most);
+        return m_xml.readElementText(QXmlStreamReader::SkipChildElements).left(maxSize);
     }
 
     void readChannel()
@@ -105,7 +108,7 @@ private:
             return;
         if (item.shortVersion.isEmpty())
             item.shortVersion = item.version.toString();
-        if (m_feed.items.size() >= UpdateFeed::mostItems)
+        if (m_feed.items.size() >= UpdateFeed::maxItems)
             m_xml.raiseError(u"too many items"_s);
         m_feed.items += item;
     }
@@ -124,10 +127,11 @@ private:
             readNotes(item);
         else if (isPlain("enclosure"_L1))
             readEnclosure(item);
-        else if (m_xml.namespaceUri() == ownNamespace && m_xml.name() == "withdrawn"_L1)
-            readWithdrawn(item);
-        else
+        else {
+            if (is(ownNamespace, "withdrawn"_L1))
+                item.withdrawn = true;
             m_xml.skipCurrentElement();
+        }
     }
 
     void readNotes(UpdateItem &item)
@@ -136,7 +140,7 @@ private:
         const bool isPlainText = attributes.value(castNamespace, "format"_L1) == "plain-text"_L1;
         item.notesFormat =
             isPlainText ? UpdateItem::NotesFormat::Plain : UpdateItem::NotesFormat::Html;
-        item.notes = text(mostNotes);
+        item.notes = text(maxNotes);
     }
 
     void readEnclosure(UpdateItem &item)
@@ -151,19 +155,12 @@ private:
         item.address = attributes.value("url"_L1).trimmed().toUtf8();
         item.length = attributes.value("length"_L1).toLongLong();
         item.signature = fromBase64(cast("edSignature"_L1).toLatin1());
-        item.system = cast("os"_L1).left(mostText).toString();
+        item.system = cast("os"_L1).left(maxText).toString();
         // Older feeds name the versions here.
         if (item.version.isNull())
             item.version = versionOf(cast("version"_L1));
         if (item.shortVersion.isEmpty())
-            item.shortVersion =
-                cast("shortVersionString"_L1).left(mostText).toString().simplified();
-    }
-
-    void readWithdrawn(UpdateItem &item)
-    {
-        item.withdrawn = true;
-        m_xml.skipCurrentElement();
+            item.shortVersion = cast("shortVersionString"_L1).left(maxText).toString().simplified();
     }
 
     QXmlStreamReader m_xml;
@@ -171,11 +168,26 @@ private:
     bool m_hasChannel = false;
 };
 
+bool suits(const UpdateItem &item, const UpdateRules &rules)
+{
+    return item.version > rules.installed && !item.withdrawn
+        && !rules.withdrawn.contains(item.version)
+        && (item.system.isEmpty() || item.system == rules.systemName)
+        && (rules.system.isNull() || item.minimumSystem <= rules.system)
+        && (item.channel.isEmpty() || item.channel == rules.channel);
+}
+
+bool canBeFetched(const UpdateItem &item)
+{
+    return item.signature.size() == signatureSize && item.length > 0 && item.length <= maxFileSize
+        && isSafeAddress(item.address);
+}
+
 } // namespace
 
 std::optional<UpdateFeed> UpdateFeed::read(QByteArrayView bytes)
 {
-    if (bytes.size() > mostBytes)
+    if (bytes.size() > maxBytes)
         return {};
     return FeedReader(bytes).read();
 }
@@ -195,11 +207,49 @@ SignedFeed SignedFeed::split(QByteArrayView bytes)
     return {bytes.first(lead + at), fromBase64(rest.chopped(end.size()))};
 }
 
+UpdateRules UpdateRules::current()
+{
+    return {.installed =
+                QVersionNumber::fromString(QCoreApplication::applicationVersion()).normalized(),
+            .system = QVersionNumber::fromString(QSysInfo::kernelVersion()).normalized(),
+            .systemName = QSysInfo::kernelType(),
+            .channel = QSettings().value("Update/Channel"_L1).toString(),
+            .withdrawn = {}};
+}
+
+std::optional<UpdateItem> chooseOffer(const UpdateFeed &feed, const UpdateRules &rules)
+{
+    // A feed may say that a version is withdrawn in one item and still hold its old one.
+    UpdateRules all = rules;
+    for (const UpdateItem &item : feed.items) {
+        if (item.withdrawn)
+            all.withdrawn += item.version;
+    }
+    std::optional<UpdateItem> best;
+    for (const UpdateItem &item : feed.items) {
+        if (suits(item, all) && canBeFetched(item) && (!best || item.version > best->version))
+            best = item;
+    }
+    return best;
+}
+
 QVersionNumber versionOf(QStringView text)
 {
-    constexpr qsizetype longest = 64;
+    constexpr qsizetype maxSize = 64;
     qsizetype suffix = 0;
     const QVersionNumber version =
-        QVersionNumber::fromString(text.left(longest).toString(), &suffix);
+        QVersionNumber::fromString(text.left(maxSize).toString(), &suffix);
     return suffix == text.size() ? version.normalized() : QVersionNumber();
+}
+
+bool isSafeAddress(const QByteArray &address)
+{
+    constexpr QByteArrayView secure("https://");
+    if (address.left(secure.size()).compare(secure, Qt::CaseInsensitive) == 0)
+        return address.size() > secure.size();
+    // The text itself and nothing that takes it apart: two readers may see two hosts in
+    // "http://127.0.0.1:80@elsewhere/".
+    static const QRegularExpression ownMachine(
+        uR"(\Ahttp://(127\.0\.0\.1|\[::1\])(:[0-9]{1,5})?/)"_s);
+    return ownMachine.match(QString::fromLatin1(address)).hasMatch();
 }

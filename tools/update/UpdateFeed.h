@@ -20,8 +20,8 @@ struct UpdateItem {
     QString channel = {}; ///< Empty: for everybody.
     QString notes = {};
     NotesFormat notesFormat = NotesFormat::Html;
-    QByteArray address = {}; ///< Of the file; empty where the item has none.
-    qint64 length = 0; ///< Of the file, in bytes; 0 where the feed does not say.
+    QByteArray address = {}; ///< Of the file; empty if the item has none.
+    qint64 length = 0; ///< Of the file, in bytes; 0 if the feed does not say.
     QByteArray signature = {}; ///< Ed25519, over the file's bytes; may be missing.
     bool withdrawn = false; ///< The maker has taken this version back.
 };
@@ -30,16 +30,16 @@ struct UpdateItem {
 /// elements that application-cast feeds have added to it. What is read: the channel's
 /// `lastBuildDate`; of each item `version`, `shortVersionString`, `minimumSystemVersion`,
 /// `channel`, `description` and the `enclosure` with its address, length, system and signature; and
-/// an element `withdrawn` of our own name space. Everything else is passed over.
+/// an element `withdrawn` of our own name space. Everything else is skipped.
 struct UpdateFeed {
-    QDateTime date = {}; ///< In UTC; invalid where the feed does not say.
+    QDateTime date = {}; ///< In UTC; invalid if the feed does not say.
     QList<UpdateItem> items = {}; ///< In the feed's order; only those with a numeric version.
 
-    static constexpr qsizetype mostBytes = 256 * 1024;
-    static constexpr int mostItems = 200;
+    static constexpr qsizetype maxBytes = 256 * 1024;
+    static constexpr int maxItems = 200;
 
-    /// None for what is no such feed: no XML, a document type (and with it, entities), another top
-    /// element, more than the limits. Any thread.
+    /// Nothing for bytes that are not such a feed: no XML, a document type (and with it, entities),
+    /// another top element, more than the limits. Any thread.
     static std::optional<UpdateFeed> read(QByteArrayView bytes);
 };
 
@@ -47,7 +47,7 @@ struct UpdateFeed {
 ///
 ///     <!-- edSignature: (Base64) -->
 ///
-/// What is signed is every byte before that line. One file thus holds both, so that no reader meets
+/// What is signed is every byte before that line. One file thus holds both, so that no reader gets
 /// a new feed with an old signature while the maker publishes.
 struct SignedFeed {
     QByteArrayView feed;
@@ -56,5 +56,28 @@ struct SignedFeed {
     static SignedFeed split(QByteArrayView bytes);
 };
 
+/// What decides which of a feed's versions suits this program, on this system, for this user.
+struct UpdateRules {
+    QVersionNumber installed = {};
+    QVersionNumber system = {}; ///< Null if unknown; then no minimum keeps a version away.
+    QString systemName = {}; ///< As a feed calls it.
+    QString channel = {}; ///< The user's choice; empty for the versions that are for everybody.
+    QList<QVersionNumber> withdrawn = {}; ///< Seen as withdrawn in any earlier feed.
+
+    /// For the program and the machine that run now. On Linux the system's version is the kernel's:
+    /// the one number that means the same in every distribution.
+    static UpdateRules current();
+};
+
+/// The newest version of the feed that suits, or nothing. What is not offered: a version that is
+/// not newer than the installed one, is withdrawn, is for another system or channel, has no
+/// signature or no length, is larger than 4 GiB, or lies at an unsafe address. Whether a signature
+/// is right is known only when the file is there.
+std::optional<UpdateItem> chooseOffer(const UpdateFeed &feed, const UpdateRules &rules);
+
 /// A version made of numbers and dots, normalised; null for anything else ("1.2-beta").
 QVersionNumber versionOf(QStringView text);
+
+/// Whether nobody between us and the server of this address can change what it answers: https, or
+/// plain http to 127.0.0.1 and [::1], for trying out.
+bool isSafeAddress(const QByteArray &address);

@@ -2,14 +2,17 @@
 
 #include "UpdateFeed.h"
 
+#include <QLocale>
 #include <QSettings>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-constexpr qsizetype mostWithdrawn = 200;
+constexpr qsizetype maxWithdrawn = 200;
 constexpr auto skippedKey = "Update/Skipped"_L1;
 constexpr auto checkTimeKey = "Update/LastCheck/Time"_L1;
 constexpr auto checkResultKey = "Update/LastCheck/Result"_L1;
@@ -53,7 +56,7 @@ void UpdateMemory::remember(const UpdateFeed &feed) const
             texts += item.version.toString();
     }
     settings.setValue(m_group + u"/Withdrawn"_s,
-                      texts.mid(std::max<qsizetype>(0, texts.size() - mostWithdrawn)));
+                      texts.mid(std::max<qsizetype>(0, texts.size() - maxWithdrawn)));
 }
 
 QVersionNumber UpdateMemory::skipped()
@@ -64,6 +67,18 @@ QVersionNumber UpdateMemory::skipped()
 void UpdateMemory::setSkipped(const QVersionNumber &version)
 {
     QSettings().setValue(skippedKey, version.toString());
+}
+
+QString UpdateMemory::LastCheck::sentence(bool withResult) const
+{
+    if (!time.isValid())
+        return {};
+    const QString when = QLocale().toString(time.toLocalTime(), QLocale::ShortFormat);
+    if (!withResult)
+        return qtTrId("Update.LastCheck").arg(when);
+    const QString text = qtTrId(result.toUtf8().constData());
+    return qtTrId("Update.LastCheck.Result")
+        .arg(when, argument.isEmpty() ? text : text.arg(argument));
 }
 
 UpdateMemory::LastCheck UpdateMemory::lastCheck()

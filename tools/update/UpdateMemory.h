@@ -8,15 +8,15 @@
 
 struct UpdateFeed;
 
-/// What is kept of earlier checks, in the user defaults. What a feed said is kept for each key of
-/// the maker's: a program that is built with another key begins anew. Interface thread only.
+/// What is kept of earlier checks, in the user defaults. What a feed said is kept for each of the
+/// maker's keys: a program that is built with another key begins anew. Interface thread only.
 class UpdateMemory
 {
 public:
     explicit UpdateMemory(const QByteArray &publicKey);
 
-    /// The newest date that a feed with a right signature bore; invalid before the first. A feed
-    /// with an earlier one is a copy that somebody has kept.
+    /// The newest date in a feed with a right signature; invalid before the first. A feed with an
+    /// earlier one is a copy that somebody has kept.
     QDateTime newestFeed() const;
     QList<QVersionNumber> withdrawn() const;
     /// Only for a feed whose signature was right.
@@ -26,11 +26,14 @@ public:
     static QVersionNumber skipped();
     static void setSkipped(const QVersionNumber &version);
 
-    /// The last check as it was told to the user: when, and the sentence's key with its argument.
+    /// The last check as the user was told of it: when, and the sentence's key with its argument.
     struct LastCheck {
         QDateTime time; ///< In UTC; invalid before the first check.
         QString result;
         QString argument;
+
+        /// When it was and, if wanted, what it found; empty before the first check.
+        QString sentence(bool withResult) const;
     };
     static LastCheck lastCheck();
     static void setLastCheck(const LastCheck &check);

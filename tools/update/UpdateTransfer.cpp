@@ -1,11 +1,11 @@
 #include "UpdateTransfer.h"
 
-#include "SignatureCheck.h"
+#include "Http.h"
 #include "UnpublishedFile.h"
-#include "UpdateOffer.h"
 
 #include <QDir>
 #include <QFile>
+#include <QMap>
 #include <QRegularExpression>
 #include <QUrl>
 
@@ -21,29 +21,45 @@ using Kind = UpdateProblem::Kind;
 namespace
 {
 
-constexpr auto feedTime = 30s;
-constexpr auto fileTime = 6h;
-constexpr int mostNames = 1000;
+constexpr auto feedTimeout = 30s;
+constexpr auto fileTimeout = 6h;
+constexpr auto silenceTimeout = 60s; // else a silent server would hold a download for hours
+constexpr int maxNames = 1000;
 
-// Plain http is spoken with this machine alone, so no redirect is followed there.
-HttpLimits limitsFor(const QByteArray &address, std::chrono::milliseconds time, qint64 bytes)
+// A safe address with plain http leads to this machine, so no redirect is followed there.
+HttpLimits limitsFor(const QByteArray &address, std::chrono::milliseconds timeout, qint64 maxBytes)
 {
-    const bool isPlain = isPlainHttp(address);
-    return {.time = time,
-            .bytes = bytes,
-            .redirects = isPlain ? 0 : 5,
-            .schemes = isPlain ? HttpSchemes::Any : HttpSchemes::SecureOnly};
+    const bool isSecure = address.left(6).compare("https:", Qt::CaseInsensitive) == 0;
+    return {.time = timeout,
+            .silenceTimeout = silenceTimeout,
+            .bytes = maxBytes,
+            .redirects = isSecure ? 5 : 0,
+            .schemes = isSecure ? HttpSchemes::SecureOnly : HttpSchemes::Any};
+}
+
+UpdateProblem problemOf(const HttpReply &reply)
+{
+    using End = HttpReply::End;
+    static const QMap<End, Kind> kinds{
+        {End::Refused, Kind::UnsafeAddress}, {End::TimedOut, Kind::TimedOut},
+        {End::TooLarge, Kind::TooLarge},     {End::Cancelled, Kind::Stopped},
+        {End::NotWritten, Kind::NotWritten}, {End::Failed, Kind::Unreachable},
+    };
+    if (!reply.answered())
+        return {kinds.value(reply.end, Kind::Unreachable)};
+    return reply.status == 200 ? UpdateProblem{}
+                               : UpdateProblem{Kind::Status, QString::number(reply.status)};
 }
 
 UpdateProblem problemOf(const SignedFeed &signedFeed, const QByteArray &publicKey)
 {
     if (publicKey.isEmpty())
         return {};
-    if (!SignatureCheck::isAvailable())
+    if (!UpdateSignature::isAvailable())
         return {Kind::NoSignatureLibrary};
     if (signedFeed.signature.isEmpty())
         return {Kind::Unsigned};
-    return {SignatureCheck::isValid(signedFeed.feed, publicKey, signedFeed.signature)
+    return {UpdateSignature::isValid(signedFeed.feed, publicKey, signedFeed.signature)
                 ? Kind::None
                 : Kind::WrongSignature};
 }
@@ -67,15 +83,14 @@ UpdateProblem receive(const UpdateItem &item, QFile &target, std::atomic<qint64>
                       const std::stop_token &stop)
 {
     HttpRequest request{.address = item.address,
-                        .limits = limitsFor(item.address, fileTime, item.length),
+                        .limits = limitsFor(item.address, fileTimeout, item.length),
                         .stop = stop};
     request.progress = [&received](qint64 bytes) { received = bytes; };
-    if (const UpdateProblem problem = UpdateProblem::of(httpGet(request, target)))
-        return problem.kind == Kind::NotWritten
-            ? UpdateProblem{Kind::NotWritten, target.errorString()}
-            : problem;
-    if (!target.flush())
-        return {Kind::NotWritten, target.errorString()};
+    UpdateProblem problem = problemOf(httpGet(request, target));
+    if (problem.kind == Kind::NotWritten)
+        problem.detail = target.errorString();
+    if (problem)
+        return problem;
     if (fsync(target.handle()) != 0)
         return notWritten(errno);
     return {target.size() == item.length ? Kind::None : Kind::Incomplete};
@@ -85,7 +100,7 @@ QString numbered(const QString &name, int number)
 {
     if (number == 1)
         return name;
-    // "name-1.2.tar.gz" becomes "name-1.2 2.tar.gz": a suffix begins with a letter.
+    // "name-1.2.tar.gz" becomes "name-1.2 2.tar.gz": no suffix begins with a digit.
     static const QRegularExpression suffixes(uR"((\.[A-Za-z][A-Za-z0-9]*)+\z)"_s);
     const qsizetype suffix = name.indexOf(suffixes, 1);
     const QString extra = u" %1"_s.arg(number);
@@ -95,7 +110,7 @@ QString numbered(const QString &name, int number)
 FetchedFile publish(UnpublishedFile &file, const QString &folder, const QString &name)
 {
     int error = EEXIST;
-    for (int number = 1; error == EEXIST && number <= mostNames; ++number) {
+    for (int number = 1; error == EEXIST && number <= maxNames; ++number) {
         const QString free = numbered(name, number);
         error = file.publish(QFile::encodeName(free));
         if (error == 0)
@@ -106,6 +121,30 @@ FetchedFile publish(UnpublishedFile &file, const QString &folder, const QString 
 
 } // namespace
 
+QString UpdateProblem::sentence() const
+{
+    static const QMap<Kind, const char *> keys{
+        {Kind::UnsafeAddress, QT_TRID_NOOP("Update.Problem.UnsafeAddress")},
+        {Kind::Unreachable, QT_TRID_NOOP("Update.Problem.Unreachable")},
+        {Kind::TimedOut, QT_TRID_NOOP("Update.Problem.TimedOut")},
+        {Kind::TooLarge, QT_TRID_NOOP("Update.Problem.TooLarge")},
+        {Kind::Status, QT_TRID_NOOP("Update.Problem.Status")},
+        {Kind::NotAFeed, QT_TRID_NOOP("Update.Problem.NotAFeed")},
+        {Kind::Unsigned, QT_TRID_NOOP("Update.Problem.Unsigned")},
+        {Kind::WrongSignature, QT_TRID_NOOP("Update.Problem.WrongSignature")},
+        {Kind::NoDate, QT_TRID_NOOP("Update.Problem.NoDate")},
+        {Kind::Older, QT_TRID_NOOP("Update.Problem.Older")},
+        {Kind::NoSignatureLibrary, QT_TRID_NOOP("Update.Problem.NoSignatureLibrary")},
+        {Kind::Incomplete, QT_TRID_NOOP("Update.Problem.Incomplete")},
+        {Kind::NotWritten, QT_TRID_NOOP("Update.Problem.NotWritten")},
+        {Kind::Stopped, QT_TRID_NOOP("Update.Problem.Stopped")},
+    };
+    if (kind == Kind::None)
+        return {};
+    const QString text = qtTrId(keys.value(kind));
+    return kind == Kind::Status || kind == Kind::NotWritten ? text.arg(detail) : text;
+}
+
 FetchedFeed fetchFeed(const UpdateSource &source, const QDateTime &newestSeen,
                       const std::stop_token &stop)
 {
@@ -113,9 +152,9 @@ FetchedFeed fetchFeed(const UpdateSource &source, const QDateTime &newestSeen,
         return {{Kind::UnsafeAddress}};
     const HttpReply reply =
         httpGet({.address = source.feedAddress,
-                 .limits = limitsFor(source.feedAddress, feedTime, UpdateFeed::mostBytes),
+                 .limits = limitsFor(source.feedAddress, feedTimeout, UpdateFeed::maxBytes),
                  .stop = stop});
-    if (const UpdateProblem problem = UpdateProblem::of(reply))
+    if (const UpdateProblem problem = problemOf(reply))
         return {problem};
     const SignedFeed signedFeed = SignedFeed::split(reply.body);
     if (const UpdateProblem problem = problemOf(signedFeed, source.publicKey))
@@ -131,7 +170,7 @@ FetchedFeed fetchFeed(const UpdateSource &source, const QDateTime &newestSeen,
 FetchedFile fetchFile(const UpdateItem &item, const QByteArray &publicKey, const QString &folder,
                       std::atomic<qint64> &received, const std::stop_token &stop)
 {
-    if (!SignatureCheck::isAvailable())
+    if (!UpdateSignature::isAvailable())
         return {{Kind::NoSignatureLibrary}};
     if (!isSafeAddress(item.address))
         return {{Kind::UnsafeAddress}};
@@ -140,13 +179,13 @@ FetchedFile fetchFile(const UpdateItem &item, const QByteArray &publicKey, const
     if (file.error() != 0)
         return {notWritten(file.error())};
     QFile target;
-    // Unbuffered, because a buffer that only fits in part has no word for it.
+    // Unbuffered: a full disk is not reported while a part of the buffer still fits.
     if (!target.open(file.descriptor(), QIODevice::ReadWrite | QIODevice::Unbuffered))
         return {notWritten(EIO)};
     if (const UpdateProblem problem = receive(item, target, received, stop))
         return {problem};
-    // What is checked is what stands in the file, not what came over the wire.
-    if (!target.seek(0) || !SignatureCheck::isValid(target, publicKey, item.signature))
+    // What is checked is what the file holds, not what came over the wire.
+    if (!UpdateSignature::isValid(target, publicKey, item.signature))
         return {{Kind::WrongSignature}};
     fchmod(file.descriptor(), 0644); // the package manager of some systems reads as another user
     return publish(file, folder, fileNameOf(item));
@@ -154,7 +193,7 @@ FetchedFile fetchFile(const UpdateItem &item, const QByteArray &publicKey, const
 
 QString fileNameOf(const UpdateItem &item)
 {
-    static const QRegularExpression decent(uR"(\A[A-Za-z0-9][A-Za-z0-9._+~-]{0,119}\z)"_s);
+    static const QRegularExpression plain(uR"(\A[A-Za-z0-9][A-Za-z0-9._+~-]{0,119}\z)"_s);
     const QString last = QUrl::fromEncoded(item.address).fileName();
-    return decent.match(last).hasMatch() ? last : u"Toolvane-"_s + item.version.toString();
+    return plain.match(last).hasMatch() ? last : u"Toolvane-"_s + item.version.toString();
 }

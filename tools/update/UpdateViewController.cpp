@@ -1,6 +1,160 @@
 #include "UpdateViewController.h"
 
+#include "MiscTool.h"
+#include "PageAction.h"
+#include "PageStatus.h"
+#include "ui_UpdateCheckView.h"
 #include "ui_UpdateViewController.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QSettings>
+#include <QTextDocumentFragment>
+#include <QUrl>
+
+using Phase = UpdateChecker::Phase;
+
+namespace
+{
+
+constexpr int progressSteps = 1000;
+
+// What else there is to know or do about the state; may be empty.
+QString detailOf(const UpdateChecker &checker)
+{
+    switch (checker.phase()) {
+    case Phase::Unasked:
+        return checker.hasFeedAddress()
+            ? QString()
+            : qtTrId("Update.NoFeed.Help").arg(QDir::toNativeSeparators(QSettings().fileName()));
+    case Phase::Available:
+        return checker.hasKey() ? QString() : qtTrId("Update.NoKey");
+    case Phase::NotChecked:
+    case Phase::NotDownloaded:
+        return checker.problem().sentence();
+    case Phase::Downloaded:
+        return qtTrId("Update.Downloaded.Where").arg(QFileInfo(checker.file()).fileName());
+    default:
+        return {};
+    }
+}
+
+// How far the download is: "3.1 MB of 12.4 MB".
+QString progressOf(const UpdateChecker &checker)
+{
+    if (checker.phase() != Phase::Downloading || !checker.offer())
+        return {};
+    const auto size = [](qint64 bytes) { return MiscTool::convertBytes(std::uint64_t(bytes)); };
+    return qtTrId("Update.Progress").arg(size(checker.received()), size(checker.offer()->length));
+}
+
+QString notesOf(const UpdateItem &item)
+{
+    const QString text = item.notesFormat == UpdateItem::NotesFormat::Plain
+        ? item.notes
+        : QTextDocumentFragment::fromHtml(item.notes).toPlainText();
+    return text.trimmed();
+}
+
+void showText(QLabel &label, const QString &text)
+{
+    label.setText(text);
+    label.setHidden(text.isEmpty());
+}
+
+} // namespace
+
+UpdateCheckView::UpdateCheckView(QWidget *parent)
+    : UpdateCheckView(UpdateSource::compiledInKey(), parent)
+{
+}
+
+UpdateCheckView::UpdateCheckView(const QByteArray &publicKey, QWidget *parent)
+    : QWidget(parent), ui(std::make_unique<Ui::UpdateCheckView>()), m_checker(publicKey)
+{
+    ui->setupUi(this);
+    ui->installedLabel->setText(
+        qtTrId("Update.Installed").arg(QCoreApplication::applicationVersion()));
+    connectButtons();
+    connect(&m_checker, &UpdateChecker::changed, this, &UpdateCheckView::showState);
+    connect(&m_checker, &UpdateChecker::progressed, this, &UpdateCheckView::showProgress);
+    connect(&m_checker, &UpdateChecker::downloaded, this, &UpdateCheckView::openFile);
+    showState();
+}
+
+UpdateCheckView::~UpdateCheckView() = default;
+
+void UpdateCheckView::connectButtons()
+{
+    connect(ui->checkButton, &QPushButton::clicked, this,
+            [this] { startPageAction(this, m_checker.check()); });
+    connect(ui->downloadButton, &QPushButton::clicked, this,
+            [this] { startPageAction(this, m_checker.download()); });
+    connect(ui->stopButton, &QPushButton::clicked, &m_checker, &UpdateChecker::stop);
+    connect(ui->skipButton, &QPushButton::clicked, this, [this] { m_checker.setSkipped(true); });
+    connect(ui->unskipButton, &QPushButton::clicked, this, [this] { m_checker.setSkipped(false); });
+    connect(ui->openButton, &QPushButton::clicked, this, &UpdateCheckView::openFile);
+    PageStatus::pressOnReturn(*this, *ui->checkButton);
+    // The last one comes first: while a download is offered, that is what Return starts.
+    PageStatus::pressOnReturn(*this, *ui->downloadButton);
+}
+
+void UpdateCheckView::showState()
+{
+    ui->headlineLabel->setText(m_checker.headline());
+    showText(*ui->detailLabel, detailOf(m_checker));
+    showText(*ui->lastCheckLabel,
+             UpdateMemory::lastCheck().sentence(m_checker.phase() == Phase::Unasked));
+    ui->checkButton->setEnabled(!m_checker.isBusy());
+    ui->stopButton->setEnabled(m_checker.isBusy());
+    showOffer();
+    showProgress();
+}
+
+void UpdateCheckView::showOffer()
+{
+    const Phase phase = m_checker.phase();
+    const bool isOffered = phase == Phase::Available || phase == Phase::NotDownloaded;
+    const bool canDownload = isOffered && m_checker.hasKey();
+    const std::optional<UpdateItem> &offer = m_checker.offer();
+    if (offer) {
+        const QString notes = notesOf(*offer);
+        ui->notesText->setPlainText(notes.isEmpty() ? qtTrId("Update.NoNotes") : notes);
+    }
+    ui->offerBox->setVisible(offer.has_value());
+    ui->downloadButton->setVisible(canDownload);
+    ui->skipButton->setVisible(isOffered);
+    ui->unskipButton->setVisible(phase == Phase::Skipped);
+    ui->openButton->setVisible(phase == Phase::Downloaded);
+    ui->downloadButton->setDefault(canDownload);
+    ui->checkButton->setDefault(!canDownload);
+    // The button that had the focus was disabled meanwhile: the focus must not stay where Qt moved
+    // it, which may be Skip.
+    if (canDownload && isAncestorOf(QApplication::focusWidget()))
+        ui->downloadButton->setFocus(Qt::OtherFocusReason);
+}
+
+void UpdateCheckView::showProgress()
+{
+    BusyIndicator &bar = *ui->progressIndicator;
+    if (m_checker.phase() == Phase::Downloading) {
+        bar.stopAnimation();
+        bar.setRange(0, progressSteps);
+        const qint64 done = m_checker.received() * progressSteps / m_checker.offer()->length;
+        bar.setValue(static_cast<int>(done));
+        bar.show();
+    } else {
+        PageStatus::setIdle(bar, m_checker.phase() != Phase::Checking);
+    }
+    ui->progressLabel->setText(progressOf(m_checker));
+}
+
+void UpdateCheckView::openFile()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(m_checker.file()));
+}
 
 UpdateViewController::UpdateViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::UpdateViewController>())

@@ -5,7 +5,7 @@
 
 #include <sodium.h>
 
-/// Plays the maker of the program: has a key of its own and writes and signs feeds.
+/// The maker of the program: has a key of its own and writes and signs feeds.
 class Maker
 {
 public:
@@ -27,7 +27,7 @@ public:
         return signature;
     }
 
-    /// A feed with the signature line that makes it believed.
+    /// A feed with its signature line.
     QByteArray sealed(const QByteArray &feed) const
     {
         return feed + "<!-- edSignature: " + sign(feed).toBase64() + " -->\n";

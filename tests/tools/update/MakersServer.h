@@ -20,7 +20,7 @@ public:
     void set(const QByteArray &path, const QByteArray &body) { set(path, serving(body)); }
 
     QByteArray address(const QByteArray &path) const { return m_peer.address(path); }
-    /// The paths asked for, in order.
+    /// The requested paths, in order.
     QList<QByteArray> paths() const
     {
         QList<QByteArray> paths;

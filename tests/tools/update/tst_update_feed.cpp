@@ -2,7 +2,7 @@
 // none is offered that should not be.
 
 #include "Maker.h"
-#include "UpdateOffer.h"
+#include "UpdateFeed.h"
 
 #include <QTest>
 
@@ -53,7 +53,7 @@ private Q_SLOTS:
         QCOMPARE(onEnclosure.length, 0);
     }
 
-    void takesOnlyNumbersForVersions()
+    void readsOnlyNumbersAsVersions()
     {
         QCOMPARE(versionOf(u"1.2.0.0"_s), QVersionNumber(1, 2));
         for (const auto &text : {u"1.2-beta"_s, u""_s, u"v1"_s, u"-1.2"_s, u"1..2"_s, u"1.2."_s,
@@ -69,8 +69,8 @@ private Q_SLOTS:
              {QByteArray(), QByteArray("<!doctype html><p>404<br>"), QByteArray("<plist/>"),
               QByteArray("<rss/>"), good.chopped(12), good + "<rss/>",
               "<!DOCTYPE rss [<!ENTITY a \"b\">]>" + good,
-              Maker::feed(Maker::withdrawn("1").repeated(UpdateFeed::mostItems + 1)),
-              good + QByteArray(UpdateFeed::mostBytes, '\n'),
+              Maker::feed(Maker::withdrawn("1").repeated(UpdateFeed::maxItems + 1)),
+              good + QByteArray(UpdateFeed::maxBytes, '\n'),
               Maker::feed("<item><title>\xff\xfe</title></item>")})
             QVERIFY2(!UpdateFeed::read(bytes), bytes.left(80).constData());
     }
@@ -107,7 +107,7 @@ private Q_SLOTS:
               feed.chopped(1) + "<!-- edSignature: AAAA -->", sealed + feed,
               sealed.trimmed().chopped(1)})
             QCOMPARE(SignedFeed::split(unsealed).signature, QByteArray());
-        // Only the last one counts, over all that stands before it.
+        // Only the last one counts, over everything before it.
         const QByteArray twice = maker.sealed(sealed);
         QCOMPARE(SignedFeed::split(twice).feed.toByteArray(), sealed);
     }
@@ -151,7 +151,7 @@ private Q_SLOTS:
         QVERIFY(!chooseOffer({.items = {newer, takenBack}}, rules));
     }
 
-    void tellsSafeAddresses()
+    void knowsSafeAddresses()
     {
         for (const char *address :
              {"HTTPS://h/f", "http://127.0.0.1/f", "http://127.0.0.1:8080/f", "http://[::1]:80/f"})

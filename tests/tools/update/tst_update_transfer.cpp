@@ -1,12 +1,10 @@
-// Proves that a feed is believed and a file kept only when they are wholly as the maker signed
+// Proves that a feed is accepted and a file kept only when they are wholly as the maker signed
 // them, whatever the server does, that nothing else is ever left behind, and that what the
-// publishing scripts build is believed.
+// publishing scripts build is accepted.
 
 #include "Files.h"
 #include "Maker.h"
 #include "MakersServer.h"
-#include "SignatureCheck.h"
-#include "UpdateOffer.h"
 #include "UpdateTransfer.h"
 
 #include <QDir>
@@ -60,10 +58,10 @@ private Q_SLOTS:
     {
         const QByteArray message("what the maker made");
         const QByteArray signature = m_maker.sign(message);
-        QVERIFY(SignatureCheck::isValid(message, m_maker.publicKey, signature));
+        QVERIFY(UpdateSignature::isValid(message, m_maker.publicKey, signature));
         int accepted = 0;
         const auto check = [&](const QByteArray &m, const QByteArray &k, const QByteArray &s) {
-            accepted += SignatureCheck::isValid(m, k, s) ? 1 : 0;
+            accepted += UpdateSignature::isValid(m, k, s) ? 1 : 0;
         };
         for (qsizetype bit = 0; bit < message.size() * 8; ++bit)
             check(flipped(message, bit), m_maker.publicKey, signature);
@@ -80,7 +78,27 @@ private Q_SLOTS:
         QCOMPARE(accepted, 0);
     }
 
-    void believesFeedsByTheirSignatureAndDate()
+    // A file without a name is mapped, one with a name is read: the answers are the same.
+    void checksWholeFiles()
+    {
+        const QTemporaryDir folder;
+        const QByteArray message(1'000'000, 'm');
+        for (const bool isNamed : {true, false}) {
+            QFile file(folder.filePath(u"download"_s));
+            QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered));
+            QVERIFY(isNamed || QFile::remove(file.fileName()));
+            const QByteArray ofNothing = m_maker.sign({});
+            QVERIFY(UpdateSignature::isValid(file, m_maker.publicKey, ofNothing));
+            QCOMPARE(file.write(message), message.size()); // and is checked from its begin
+            const QByteArray signature = m_maker.sign(message);
+            QVERIFY(UpdateSignature::isValid(file, m_maker.publicKey, signature));
+            QVERIFY(!UpdateSignature::isValid(file, m_maker.publicKey, ofNothing));
+            QCOMPARE(file.write("m"), 1);
+            QVERIFY(!UpdateSignature::isValid(file, m_maker.publicKey, signature));
+        }
+    }
+
+    void acceptsFeedsByTheirSignatureAndDate()
     {
         const QByteArray feed = Maker::feed(Maker::withdrawn("1.1"));
         const QByteArray good = m_maker.sealed(feed);
@@ -108,7 +126,7 @@ private Q_SLOTS:
         }
     }
 
-    void asksNoUnsafeServer()
+    void contactsNoUnsafeServer()
     {
         for (const char *address :
              {"http://example.invalid/", "file:///etc/passwd", "", "/feed.xml"})
@@ -161,7 +179,7 @@ private Q_SLOTS:
         }
     }
 
-    void takesDecentNamesOnly()
+    void usesPlainNamesOnly()
     {
         const auto name = [this](const QByteArray &path) { return fileNameOf(item("x", path)); };
         QCOMPARE(name("/a/b/Toolvane_1.4~rc1+2.deb?x=/y#/z"), u"Toolvane_1.4~rc1+2.deb"_s);
@@ -172,7 +190,7 @@ private Q_SLOTS:
         QCOMPARE(name('/' + QByteArray(300, 'n')), u"Toolvane-1.4"_s);
     }
 
-    void believesWhatTheScriptsPublish()
+    void acceptsWhatTheScriptsPublish()
     {
         const QTemporaryDir own;
         const QString key = own.filePath(u"key.pem"_s);

@@ -51,7 +51,7 @@ inline QByteArray picture(int width, int height, Qt::GlobalColor color = Qt::red
 
 /// A test of the page beside the maker's server, with an empty documents folder. Notes the
 /// addresses that the page opens.
-class AboutPageTest : public QObject
+class AboutPageFixture : public QObject
 {
     Q_OBJECT
 
