@@ -33,8 +33,7 @@ void sayBegin()
 bool place(const QStringList &arguments)
 {
     sayBegin();
-    QFuture<FilePlacement> placement = placeFile(arguments[0], arguments[1]);
-    return placement.result().succeeded();
+    return placeFile(arguments[0], arguments[1]) == 0;
 }
 
 bool download(const QStringList &arguments)

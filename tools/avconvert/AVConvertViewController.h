@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 
+class JobList;
+
 namespace Ui
 {
 class AVConvertViewController;
@@ -42,12 +44,11 @@ private:
     void initLocalizables();
     void connectButtons();
 
-    /// None when the chosen title stands for no preset.
-    std::optional<QString> preset() const;
+    Command convert(const QString &output) const;
     void showProgress(bool shown);
-    JobDescription job() const;
 
     std::unique_ptr<Ui::AVConvertViewController> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
     std::optional<QVariantMap> avconvertDict;
 };

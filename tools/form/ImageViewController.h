@@ -1,11 +1,12 @@
 #pragma once
 
 #include "CommandRunner.h"
-#include "ImageCommand.h"
 
 #include <QWidget>
 
 #include <memory>
+
+class JobList;
 
 namespace Ui
 {
@@ -32,11 +33,15 @@ public:
     bool verify();
 
 protected:
+    enum class FileSystem {
+        Hfs, ///< One plain HFS volume.
+        Hybrid, ///< Whatever the program puts into an image that several systems can read.
+    };
     /// What one page's images are.
     struct Kind {
         const char *nameKey; ///< The page's name in the table of texts.
         QString suffix; ///< Of the image file, without the dot.
-        ImageCommand::FileSystem fileSystem;
+        FileSystem fileSystem;
     };
 
     ImageViewController(JobList &jobs, const Kind &kind, QWidget *parent);
@@ -46,9 +51,10 @@ protected:
 private:
     void connectForm();
     void setSourceFolder(const QString &path);
-    JobDescription job() const;
+    Command makeHybrid(const QString &output) const;
 
     const Kind m_kind;
     std::unique_ptr<Ui::ImageForm> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
 };

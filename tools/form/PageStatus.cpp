@@ -1,6 +1,7 @@
 #include "PageStatus.h"
 
 #include "BusyIndicator.h"
+#include "MiscTool.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -64,6 +65,12 @@ private:
 };
 
 } // namespace
+
+bool PageStatus::refuse(const char *messageKey, const char *informativeKey)
+{
+    MiscTool::showAlert(qtTrId(messageKey), informativeKey ? qtTrId(informativeKey) : QString());
+    return false;
+}
 
 void PageStatus::setIdle(BusyIndicator &indicator, bool idle)
 {

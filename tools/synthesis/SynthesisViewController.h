@@ -1,11 +1,12 @@
 #pragma once
 
 #include "CommandRunner.h"
-#include "SpeechCommand.h"
 
 #include <QWidget>
 
 #include <memory>
+
+class JobList;
 
 namespace Ui
 {
@@ -38,9 +39,10 @@ private:
     void connectButtons();
 
     QCoro::Task<> save(QString file);
-    SpeechCommand::Manner manner() const;
-    JobDescription job(const QString &text) const;
+    Command speak(const QString &text) const;
+    Job beginJob(const QString &text);
 
     std::unique_ptr<Ui::SynthesisViewController> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
 };

@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class JobList;
+
 namespace Ui
 {
 class UNZIPViewController;
@@ -40,9 +42,9 @@ private:
 
     /// None for a file name that is too short.
     std::optional<QString> destination() const;
-    JobDescription job(const QString &subject) const;
 
     std::unique_ptr<Ui::UNZIPViewController> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
     FileManager m_fileManager;
 };

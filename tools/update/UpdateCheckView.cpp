@@ -42,9 +42,9 @@ UpdateCheckView::~UpdateCheckView() = default;
 void UpdateCheckView::connectButtons()
 {
     connect(ui->checkButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, m_checker.check()); });
+            [this] { watchPageAction(this, m_checker.check()); });
     connect(ui->downloadButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, m_checker.download()); });
+            [this] { watchPageAction(this, m_checker.download()); });
     connect(ui->stopButton, &QPushButton::clicked, &m_checker, &UpdateChecker::stop);
     connect(ui->skipButton, &QPushButton::clicked, &m_checker, &UpdateChecker::skip);
     connect(ui->unskipButton, &QPushButton::clicked, &m_checker, &UpdateChecker::unskip);

@@ -167,10 +167,8 @@ Job UpdateChecker::beginJob() const
 {
     if (!m_jobs)
         return {};
-    // Not this object but the order to stop is kept: the job may outlive it by a moment.
     return m_jobs->begin(
-        {.page = m_page, .title = qtTrId("Update.Job"), .subject = fileNameOf(*m_offer)},
-        [stop = m_stop]() mutable { stop.request_stop(); });
+        {.page = m_page, .title = qtTrId("Update.Job"), .subject = fileNameOf(*m_offer)}, m_stop);
 }
 
 // A server that goes silent in the middle would hold the download for hours.

@@ -46,10 +46,9 @@ private:
 
     void start(CacheRun::Work work);
     CacheSelection tickedCategories() const;
-    JobDescription job() const;
     void follow(const CacheUpdate &update, bool isNewest);
     void showSize(const FolderMeasured &measured);
-    std::array<QCheckBox *, cacheCategoryCount> checkBoxes() const;
+    std::array<QCheckBox *, cacheCategories.size()> checkBoxes() const;
 
     std::unique_ptr<Ui::UserCacheViewController> ui;
     JobList &m_jobs;

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class JobList;
+
 namespace Ui
 {
 class ZIPViewController;
@@ -34,8 +36,6 @@ public:
 
 private:
     void awakeFromNib();
-
-    JobDescription job() const;
 
     std::unique_ptr<Ui::ZIPViewController> ui;
     JobList &m_jobs;
