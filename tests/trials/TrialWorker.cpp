@@ -1,5 +1,5 @@
 // One piece of the product's work in a process of its own, for the trials that kill it or give it
-// no room. Writes "begin" to standard output as the work begins; ends with 1 where there is no
+// no room. Writes "begin" to standard output as the work begins; ends with 1 if there is no
 // result.
 //   trial_worker place FILE TARGET
 //   trial_worker download ADDRESS LENGTH KEY SIGNATURE FOLDER

@@ -10,7 +10,7 @@ class JobList;
 /// Names a job for as long as its list exists; never given out twice.
 using JobId = quint64;
 
-/// What the user is told about a job.
+/// What the user sees of a job.
 struct JobDescription {
     QString page; ///< The `objectName` of the page, which is its class name.
     QString title; ///< What is being done, localised: mostly the page's title.
@@ -29,9 +29,9 @@ enum class JobOutcome {
 class [[nodiscard]] Job
 {
 public:
-    Job() = default; ///< No job: it is in no list, and nobody can stop it.
+    Job() = default; ///< No job: it is in no list, and cannot be stopped.
 
-    /// Tells when the job is to end early, which the user or the list may want. Any thread.
+    /// Set when the job is to end early. The token may be used on any thread.
     std::stop_token stopToken() const;
 
     /// Takes the job off the list. Only the first call counts. A job whose last handle goes without

@@ -74,7 +74,7 @@ CommandRun::CommandRun(const Command &command, const Job &job, QObject &keeper)
     : QObject(&keeper), m_command(command), m_job(job),
       m_onStop(job.stopToken(), [this] { stop(); })
 {
-    // A missing working directory must be a failed run, so QProcess is not told about it: it would
+    // A missing working directory must be a failed run, so QProcess does not set it: it would
     // report a program that could not start.
     m_process.setChildProcessModifier(childSetup(encoded(command.workingDirectory)));
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);

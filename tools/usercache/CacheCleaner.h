@@ -63,7 +63,7 @@ public:
 
     /// `bookmarkURL` is the folder that the user granted; empty if the stored grant has yet to be
     /// resolved. Once `stop` is requested, what is not deleted yet stays, what is not measured
-    /// to its end is not told, and no further category is begun.
+    /// to its end is not reported, and no further category is begun.
     CacheCleaner(const QUrl &bookmarkURL, CacheSelection ticked, Report report,
                  std::stop_token stop);
 
@@ -76,7 +76,7 @@ public:
     void cleanDisk();
 
     /// Where a category is measured. Empty, which has no size, for a base that is empty or "/":
-    /// what stands at the root of the file system is nobody's clutter.
+    /// what is at the root of the file system is not clutter.
     static QString measuredFolder(const QString &base, CacheCategoryIndex category);
 
 private:

@@ -20,11 +20,13 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-JobOutcome outcomeOf(int placementError)
+QCoro::Task<JobOutcome> place(QString archive, QString output, std::stop_token stop)
 {
-    if (placementError == 0)
-        return JobOutcome::Succeeded;
-    return placementError == ECANCELED ? JobOutcome::Stopped : JobOutcome::Failed;
+    const QString written = ZipCommand::writtenArchive(archive);
+    const int error = co_await QtConcurrent::run(placeFile, written, output, stop);
+    if (error == 0)
+        co_return JobOutcome::Succeeded;
+    co_return error == ECANCELED ? JobOutcome::Stopped : JobOutcome::Failed;
 }
 
 } // namespace
@@ -117,17 +119,14 @@ QCoro::Task<> ZIPViewController::generateAction()
     if (!self || !packed.couldStart())
         co_return;
     JobOutcome outcome = packed.outcome();
-    if (packed.succeeded()) { // a page that goes meanwhile leaves the archive its way
-        const QString written = ZipCommand::writtenArchive(archive);
-        outcome =
-            outcomeOf(co_await QtConcurrent::run(placeFile, written, output, job.stopToken()));
-    }
+    if (packed.succeeded()) // a page that closes from here on does not stop it
+        outcome = co_await place(archive, output, job.stopToken());
     job.end(outcome);
     if (!self)
         co_return;
 
     ui->elapsedLabel->hold();
-    // Other failures of the placement are not judged.
+    // A placement that fails, unless it was stopped, is only logged.
     const bool isPacked = packed.succeeded() && outcome != JobOutcome::Stopped;
     MiscTool::showAlert(qtTrId(isPacked ? "ZipSuc" : "ZipFail"), QString());
     if (!self)

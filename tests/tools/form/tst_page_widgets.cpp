@@ -199,7 +199,7 @@ private Q_SLOTS:
         QVERIFY(field.toolTip().contains(u"&lt;b&gt;bold"_s));
     }
 
-    // Also while its page is hidden, and until the page tells the end.
+    // Also while its page is hidden, and until the page holds it.
     void theTimeGoesOn()
     {
         QWidget page;

@@ -1,4 +1,4 @@
-// A finished file gets to its place whole or not at all, and replaces nothing that stands there.
+// A finished file gets to its place whole or not at all, and replaces nothing that exists there.
 
 #include "FilePlacement.h"
 #include "Files.h"
@@ -178,7 +178,7 @@ private:
 
     const QByteArray m_bytes = QByteArray(300'000, 'z') + QByteArray("\0end", 4);
     std::unique_ptr<QTemporaryDir> m_here;
-    std::unique_ptr<QTemporaryDir> m_elsewhere; // a small file system of its own, where permitted
+    std::unique_ptr<QTemporaryDir> m_elsewhere; // a small file system of its own, if permitted
     bool m_mounted = false;
 };
 
