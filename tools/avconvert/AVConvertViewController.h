@@ -30,6 +30,8 @@ public:
 
     void sourceSelectAction();
     void outputSelectAction();
+    /// Converts. After a success the form is empty before the message is shown. A converter that
+    /// cannot be started counts as a failed conversion.
     QCoro::Task<> convertAction();
 
     /// Idle (true) or working (false). Progress is not touched, convertAction() does that itself.

@@ -22,9 +22,11 @@ class ImageViewController : public QWidget
 public:
     ~ImageViewController() override;
 
-    void srcSelectAction();
+    void srcSelectAction(); ///< Also names the volume after the chosen folder.
     void outputSelectAction();
     void clearAction();
+    /// Makes the image. The page is idle before the message is shown. A file at the output path is
+    /// replaced once the image is complete.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false).
@@ -44,6 +46,7 @@ protected:
         FileSystem fileSystem;
     };
 
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     ImageViewController(JobList &jobs, const Kind &kind, QWidget *parent);
     /// Puts the form into its place on the page. A page calls it once, last in its constructor.
     void awakeFromNib(QWidget &formPlace);

@@ -11,8 +11,8 @@
 struct RunningJob {
     JobId id;
     JobDescription description;
-    QElapsedTimer started;
-    std::stop_source stop;
+    QElapsedTimer started; ///< Running since begin().
+    std::stop_source stop; ///< Of all its handles' stop tokens.
 };
 
 /// What runs now: child processes as well as work on threads. The application owns the one list

@@ -19,11 +19,12 @@ class SynthesisViewController : public QWidget
     Q_OBJECT
 
 public:
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     explicit SynthesisViewController(JobList &jobs, QWidget *parent = nullptr);
     ~SynthesisViewController() override;
 
     void testAction(); ///< Speaks a fixed sentence with the chosen voice and rate.
-    void readAction();
+    void readAction(); ///< Speaks what the field holds, unless it is empty.
     void resetAction(); ///< Back to the usual rate; the voice stays.
     void saveAction(); ///< Saves what the field holds, even nothing.
 
@@ -38,7 +39,7 @@ private:
     void awakeFromNib();
     void connectButtons();
 
-    QCoro::Task<> save(QString file);
+    QCoro::Task<> save(QString file); ///< A file at the path is replaced.
     Command speak(const QString &text) const;
     Job beginJob(const QString &text);
 
