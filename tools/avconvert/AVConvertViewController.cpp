@@ -18,9 +18,7 @@ AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
       m_runner(jobs)
 {
     ui->setupUi(this);
-    QSizePolicy policy = ui->progressBox->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes
-    ui->progressBox->setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*ui->progressBox);
     connectButtons();
     awakeFromNib(presetList);
 }
@@ -135,10 +133,7 @@ QCoro::Task<> AVConvertViewController::convertAction()
 void AVConvertViewController::showProgress(bool shown)
 {
     ui->progressBox->setVisible(shown);
-    if (shown)
-        ui->progressIndicator->startAnimation();
-    else
-        ui->progressIndicator->stopAnimation();
+    ui->progressIndicator->setAnimating(shown);
 }
 
 void AVConvertViewController::setStatus(bool idle)

@@ -14,9 +14,9 @@ class BusyIndicator : public QProgressBar
 public:
     explicit BusyIndicator(QWidget *parent = nullptr);
 
-    bool isAnimating() const; ///< Started; a hidden one animates as well, but is not painted.
-    void startAnimation();
-    void stopAnimation();
+    /// A hidden one can be animating as well, and shows it as soon as it is visible.
+    bool isAnimating() const { return maximum() == 0; }
+    void setAnimating(bool animating);
 
 Q_SIGNALS:
     void animatingChanged(bool animating); ///< Only on a change.

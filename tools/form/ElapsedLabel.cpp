@@ -1,6 +1,7 @@
 #include "ElapsedLabel.h"
 
 #include "Job.h"
+#include "PageStatus.h"
 
 #include <chrono>
 
@@ -10,9 +11,7 @@ using namespace std::chrono_literals;
 ElapsedLabel::ElapsedLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*this);
     setVisible(false);
     m_everySecond.setInterval(1s);
     m_everySecond.setTimerType(Qt::PreciseTimer); // others come early, and show the second before

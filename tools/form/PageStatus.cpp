@@ -75,10 +75,14 @@ bool PageStatus::refuse(const char *messageKey, const char *informativeKey)
 void PageStatus::setIdle(BusyIndicator &indicator, bool idle)
 {
     indicator.setHidden(idle);
-    if (idle)
-        indicator.stopAnimation();
-    else
-        indicator.startAnimation();
+    indicator.setAnimating(!idle);
+}
+
+void PageStatus::keepSpaceWhenHidden(QWidget &widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
 }
 
 void PageStatus::pressOnReturn(QWidget &page, QPushButton &button)

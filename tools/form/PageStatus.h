@@ -15,6 +15,10 @@ bool refuse(const char *messageKey, const char *informativeKey = nullptr);
 /// Hidden and still while the page is idle, shown and moving while it works.
 void setIdle(BusyIndicator &indicator, bool idle);
 
+/// So that nothing on the page moves when the widget comes or goes. Call it after any other change
+/// of the widget's size policy.
+void keepSpaceWhenHidden(QWidget &widget);
+
 /// Return presses the button from every control of the page that has no use of its own for the
 /// key, another push button excepted, which is pressed itself; a disabled or hidden button is not
 /// pressed. The default button of a dialog does the same, but a page is not a dialog. A button that

@@ -97,7 +97,7 @@ void UpdateCheckView::showProgress()
     BusyIndicator &bar = *ui->progressIndicator;
     const Phase phase = m_checker.phase();
     if (phase == Phase::Downloading) {
-        bar.stopAnimation();
+        bar.setAnimating(false);
         bar.setRange(0, progressSteps);
         const qint64 done = m_checker.received() * progressSteps / m_checker.offer()->length;
         bar.setValue(static_cast<int>(done));

@@ -50,9 +50,7 @@ void UserCacheViewController::awakeFromNib()
     ui->authorizeButton->setText(qtTrId("Authorize"));
     ui->operationBox->setTitle(qtTrId("Operation"));
     ui->progressIndicatorBox->setTitle(qtTrId("Progress"));
-    QSizePolicy policy = ui->progressIndicatorBox->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    ui->progressIndicatorBox->setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*ui->progressIndicatorBox);
     updateDiskUI();
 }
 
@@ -190,8 +188,5 @@ void UserCacheViewController::setStatus(bool idle)
     ui->checkButton->setEnabled(idle);
     ui->cleanButton->setEnabled(idle);
     ui->progressIndicatorBox->setHidden(idle);
-    if (idle)
-        ui->progressIndicator->stopAnimation();
-    else
-        ui->progressIndicator->startAnimation();
+    ui->progressIndicator->setAnimating(!idle);
 }
