@@ -127,7 +127,7 @@ bool HoverTableAppDelegate::isRunning(int row) const
 void HoverTableAppDelegate::announceEnd(const RunningJob &job, JobOutcome outcome)
 {
     const qsizetype row = rowOf(job.description.page);
-    if (row < 0 || (outcome == JobOutcome::Succeeded && !job.description.successIsNews))
+    if (row < 0)
         return;
     m_viewItems.at(row)->setAccessibleDescription(jobSummary(job.description, outcome));
     QAccessibleEvent alert(m_viewItems.at(row), QAccessible::Alert);

@@ -1,6 +1,5 @@
 #include "JobRow.h"
 
-#include "ElapsedLabel.h"
 #include "JobRowButton.h"
 #include "NamedImage.h"
 
@@ -29,8 +28,7 @@ JobRow::JobRow(const RunningJob &job, QWidget *parent)
     layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     layout->setSpacing(0);
     layout->addWidget(m_button, 1);
-    if (job.stop)
-        layout->addWidget(makeStopButton(job.description.title));
+    layout->addWidget(makeStopButton(job.description.title));
     showElapsed();
 }
 
@@ -52,7 +50,7 @@ QPushButton *JobRow::makeStopButton(const QString &title)
 
 void JobRow::showElapsed()
 {
-    m_button->setElapsed(ElapsedLabel::elapsedText(m_started.elapsed()));
+    m_button->setElapsed(elapsedText(m_started.elapsed()));
 }
 
 // Buttons leave Return to whoever holds them.

@@ -27,9 +27,8 @@ QDBusMessage callOf(const QString &method)
 
 bool isNews(const RunningJob &job, JobOutcome outcome)
 {
-    if (outcome == JobOutcome::Succeeded)
-        return job.description.successIsNews;
-    return outcome == JobOutcome::Failed && !job.stopRequested;
+    return outcome == JobOutcome::Succeeded
+        || (outcome == JobOutcome::Failed && !job.stop.stop_requested());
 }
 
 } // namespace

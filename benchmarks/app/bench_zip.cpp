@@ -3,6 +3,7 @@
 // passed.
 
 #include "CommandRunner.h"
+#include "JobList.h"
 #include "Row.h"
 #include "ZIPViewController.h"
 
@@ -113,8 +114,8 @@ double throughRunner()
     CommandRunner runner(jobs);
     QElapsedTimer clock;
     clock.start();
-    const auto run =
-        runner.run({.launchPath = u"/bin/true"_s, .arguments = {}}, {.page = {}, .title = {}});
+    const auto run = runner.run({.launchPath = u"/bin/true"_s, .arguments = {}},
+                                jobs.begin({.page = {}, .title = {}}));
     QFutureWatcher<CommandResult> watcher;
     QEventLoop loop; // woken by the end itself, not by a look every now and then
     QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);

@@ -101,12 +101,11 @@ private Q_SLOTS:
 
     void tellsNothingThatTheUserKnows()
     {
-        JobDescription firstStep = zipOfLetters;
-        firstStep.successIsNews = false;
-        run(*m_jobs, JobOutcome::Succeeded, firstStep);
-        Job stopped;
-        stopped = m_jobs->begin(zipOfLetters, [&] { stopped.end(JobOutcome::Stopped); });
-        m_jobs->stopAll();
+        for (const JobOutcome outcome : {JobOutcome::Stopped, JobOutcome::Failed}) {
+            Job stopped = m_jobs->begin(zipOfLetters);
+            m_jobs->stopAll();
+            stopped.end(outcome);
+        }
         run(*m_jobs, JobOutcome::Stopped); // by a button of its page
         QApplication::setActiveWindow(m_window.get());
         run(*m_jobs, JobOutcome::Failed);
@@ -116,8 +115,9 @@ private Q_SLOTS:
         m_window->show();
         QApplication::setActiveWindow(nullptr);
 
-        firstStep.title = u"Told"_s;
-        run(*m_jobs, JobOutcome::Failed, firstStep); // a step that fails is the end of its run
+        JobDescription news = zipOfLetters;
+        news.title = u"Told"_s;
+        run(*m_jobs, JobOutcome::Failed, news);
         QTRY_COMPARE(m_server.shown.size(), 1);
         QCOMPARE(m_server.shown.constFirst().summary, qtTrId("Notice.Failed").arg(u"Told"_s));
     }

@@ -1,6 +1,6 @@
 # toolvane_page_test(NAME PAGES page… SOURCES file…)
-# A test of tool pages in a tree of its own, in which a recording program stands
-# for those that the pages run: what a page asks for is seen, and how it ends is chosen.
+# A test of tool pages in a tree of its own, in which a recording program replaces those that the
+# pages run: the test sees their arguments and chooses how they end.
 set(TOOLVANE_RECORDING_TREE "${CMAKE_BINARY_DIR}/tests/recording")
 foreach(program IN ITEMS zip unzip hdiutil avconvert say open)
     configure_file("${CMAKE_CURRENT_LIST_DIR}/RecordingProgram.sh"

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Stands for every program that a page runs: notes its arguments, waits while it is held, ends with
-# the status that the test wants. See RecordedProgram.h.
+# Runs in place of every program that a page runs: records its arguments, waits while it is held,
+# ends with the status that the test wants. See RecordedProgram.h.
 name=$TOOLVANE_TEST_SANDBOX/$(basename "$0")
 printf '%s\0' "$@" > "$name.unfinished"
 mv "$name.unfinished" "$name.arguments"

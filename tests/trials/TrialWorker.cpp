@@ -1,5 +1,5 @@
 // One piece of the product's work in a process of its own, for the trials that kill it or give it
-// no room. Writes "begin" to standard output as the work begins; ends with 1 where there is no
+// no room. Writes "begin" to standard output as the work begins; ends with 1 if there is no
 // result.
 //   trial_worker place FILE TARGET
 //   trial_worker download ADDRESS LENGTH KEY SIGNATURE FOLDER
@@ -33,8 +33,7 @@ void sayBegin()
 bool place(const QStringList &arguments)
 {
     sayBegin();
-    QFuture<FilePlacement> placement = placeFile(arguments[0], arguments[1]);
-    return placement.result().succeeded();
+    return placeFile(arguments[0], arguments[1]) == 0;
 }
 
 bool download(const QStringList &arguments)

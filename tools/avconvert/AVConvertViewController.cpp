@@ -1,8 +1,7 @@
 #include "AVConvertViewController.h"
 
-#include "AVConvertCommand.h"
 #include "Chooser.h"
-#include "FormCheck.h"
+#include "JobList.h"
 #include "MiscTool.h"
 #include "PageAction.h"
 #include "PageStatus.h"
@@ -15,12 +14,11 @@ using namespace Qt::StringLiterals;
 
 AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
                                                  const QString &presetList)
-    : QWidget(parent), ui(std::make_unique<Ui::AVConvertViewController>()), m_runner(jobs)
+    : QWidget(parent), ui(std::make_unique<Ui::AVConvertViewController>()), m_jobs(jobs),
+      m_runner(jobs)
 {
     ui->setupUi(this);
-    QSizePolicy policy = ui->progressBox->sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes
-    ui->progressBox->setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*ui->progressBox);
     connectButtons();
     awakeFromNib(presetList);
 }
@@ -34,7 +32,7 @@ void AVConvertViewController::connectButtons()
     connect(ui->outputSelectButton, &QPushButton::clicked, this,
             &AVConvertViewController::outputSelectAction);
     connect(ui->convertButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, convertAction()); });
+            [this] { watchPageAction(this, convertAction()); });
     PageStatus::pressOnReturn(*this, *ui->convertButton);
     ui->sourceField->takeDropsOf(*this);
     ui->outputField->setSource(*ui->sourceField);
@@ -77,10 +75,10 @@ void AVConvertViewController::outputSelectAction()
 bool AVConvertViewController::verify()
 {
     if (ui->sourceField->text().isEmpty())
-        return FormCheck::refuse("Source file cannot be null.",
-                                 "Please select m4v,mp4,mpg,mpeg or avi video file.");
+        return PageStatus::refuse("Source file cannot be null.",
+                                  "Please select m4v,mp4,mpg,mpeg or avi video file.");
     if (ui->outputField->text().isEmpty())
-        return FormCheck::refuse("Output file cannot be null.", "Please specify the output file.");
+        return PageStatus::refuse("Output file cannot be null.", "Please specify the output file.");
     return true;
 }
 
@@ -90,11 +88,17 @@ void AVConvertViewController::clear()
     ui->outputField->clear();
 }
 
-std::optional<QString> AVConvertViewController::preset() const
+// A title without a preset's name leaves nothing to put after "--preset": the list of arguments
+// ends there and the converter refuses it.
+Command AVConvertViewController::convert(const QString &output) const
 {
-    const QVariant name =
+    QStringList arguments{u"--preset"_s};
+    const QVariant preset =
         avconvertDict.value_or(QVariantMap()).value(ui->outputFormatPopUp->currentText());
-    return name.typeId() == QMetaType::QString ? std::optional(name.toString()) : std::nullopt;
+    if (preset.typeId() == QMetaType::QString)
+        arguments << preset.toString() << u"--source"_s << ui->sourceField->text() << u"--output"_s
+                  << output << u"-q"_s;
+    return {.launchPath = u"/usr/bin/avconvert"_s, .arguments = arguments};
 }
 
 QCoro::Task<> AVConvertViewController::convertAction()
@@ -106,11 +110,13 @@ QCoro::Task<> AVConvertViewController::convertAction()
     ui->showInFolderButton->withdraw();
     const QPointer<AVConvertViewController> self(this);
     const QString output = ui->outputField->text();
-    const Command command = AVConvertCommand::convert(preset(), ui->sourceField->text(), output);
+    Job job = m_jobs.begin(
+        {.page = objectName(), .title = qtTrId("AV Convert"), .subject = ui->sourceField->text()});
 
-    const CommandResult result = co_await m_runner.run(command, job());
+    const CommandResult result = co_await m_runner.run(convert(output), job);
     if (!self)
         co_return;
+    job.end(result.outcome());
     if (result.succeeded())
         clear();
     ui->elapsedLabel->hold();
@@ -127,16 +133,7 @@ QCoro::Task<> AVConvertViewController::convertAction()
 void AVConvertViewController::showProgress(bool shown)
 {
     ui->progressBox->setVisible(shown);
-    if (shown)
-        ui->progressIndicator->startAnimation();
-    else
-        ui->progressIndicator->stopAnimation();
-}
-
-JobDescription AVConvertViewController::job() const
-{
-    return {
-        .page = objectName(), .title = qtTrId("AV Convert"), .subject = ui->sourceField->text()};
+    ui->progressIndicator->setAnimating(shown);
 }
 
 void AVConvertViewController::setStatus(bool idle)

@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 
+class JobList;
+
 namespace Ui
 {
 class AVConvertViewController;
@@ -28,6 +30,8 @@ public:
 
     void sourceSelectAction();
     void outputSelectAction();
+    /// Converts. After a success the form is empty before the message is shown. A converter that
+    /// cannot be started counts as a failed conversion.
     QCoro::Task<> convertAction();
 
     /// Idle (true) or working (false). Progress is not touched, convertAction() does that itself.
@@ -42,12 +46,11 @@ private:
     void initLocalizables();
     void connectButtons();
 
-    /// None when the chosen title stands for no preset.
-    std::optional<QString> preset() const;
+    Command convert(const QString &output) const;
     void showProgress(bool shown);
-    JobDescription job() const;
 
     std::unique_ptr<Ui::AVConvertViewController> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
     std::optional<QVariantMap> avconvertDict;
 };

@@ -6,8 +6,7 @@ using namespace Qt::StringLiterals;
 
 DMGViewController::DMGViewController(JobList &jobs, QWidget *parent)
     : ImageViewController(
-        jobs, {.nameKey = "DMG", .suffix = u"dmg"_s, .fileSystem = ImageCommand::FileSystem::Hfs},
-        parent)
+        jobs, {.nameKey = "DMG", .suffix = u"dmg"_s, .fileSystem = FileSystem::Hfs}, parent)
 {
     Ui::DMGViewController page;
     page.setupUi(this);

@@ -6,7 +6,7 @@
 
 /// A file that is written in a folder before anybody can see it there. Where the file system can,
 /// it has no name at all until it is published, so that not even a killed program leaves something
-/// behind; elsewhere it has a temporary hidden name. Never published, it vanishes.
+/// behind; otherwise it has a temporary hidden name. Never published, it vanishes.
 class UnpublishedFile
 {
 public:
@@ -18,7 +18,7 @@ public:
     int error() const { return m_error; } ///< 0, or why there is no file: an `errno`.
     int descriptor() const { return m_file.get(); }
 
-    /// Gives the file its name in the folder, never in place of something that stands there
+    /// Gives the file its name in the folder, never in place of something that exists
     /// (EEXIST). Returns 0 or an `errno`.
     int publish(const QByteArray &name);
 

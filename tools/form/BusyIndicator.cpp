@@ -1,43 +1,20 @@
 #include "BusyIndicator.h"
 
-#include <QEvent>
+#include "PageStatus.h"
 
 BusyIndicator::BusyIndicator(QWidget *parent) : QProgressBar(parent)
 {
     setRange(0, 1); // a bar with an empty range is what the style animates
     setTextVisible(false);
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*this);
 }
 
-bool BusyIndicator::isAnimating() const
+void BusyIndicator::setAnimating(bool animating)
 {
-    return maximum() == 0;
-}
-
-void BusyIndicator::startAnimation()
-{
-    if (isAnimating())
+    if (animating == isAnimating())
         return;
-    setRange(0, 0);
-    Q_EMIT animatingChanged(true);
-}
-
-void BusyIndicator::stopAnimation()
-{
-    if (!isAnimating())
-        return;
-    setRange(0, 1);
-    reset();
-    Q_EMIT animatingChanged(false);
-}
-
-// Fusion goes on animating a visible bar whose range is no longer empty, sixty repaints a second.
-// An update that is not accepted ends its animation.
-bool BusyIndicator::event(QEvent *event)
-{
-    if (event->type() == QEvent::StyleAnimationUpdate && !isAnimating())
-        return true;
-    return QProgressBar::event(event);
+    setRange(0, animating ? 0 : 1);
+    if (!animating)
+        reset();
+    Q_EMIT animatingChanged(animating);
 }

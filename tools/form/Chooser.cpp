@@ -1,12 +1,13 @@
 #include "Chooser.h"
 
 #include "FileNames.h"
-#include "RecentFolder.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QWidget>
 
 #include <utility>
 
@@ -24,6 +25,23 @@ QString existing(const QString &folder)
     return !folder.isEmpty() && QFileInfo(folder).isDir() ? folder : QString();
 }
 
+// A page's object name and a chooser's name together say what a folder was used for.
+QString recentFolderKey(const QWidget &page, const QString &chooser)
+{
+    return u"RecentFolders/%1/%2"_s.arg(page.objectName(), chooser);
+}
+
+// Where the chooser was last used on this page, if that folder still exists.
+QString recentFolder(const QWidget &page, const QString &chooser)
+{
+    return existing(QSettings().value(recentFolderKey(page, chooser)).toString());
+}
+
+void rememberFolder(const QWidget &page, const QString &chooser, const QString &folder)
+{
+    QSettings().setValue(recentFolderKey(page, chooser), folder);
+}
+
 QString firstOf(const QStringList &folders)
 {
     for (const QString &folder : folders) {
@@ -33,7 +51,7 @@ QString firstOf(const QStringList &folders)
     return QDir::homePath();
 }
 
-/// The user's folder for files of this kind; empty where there is none.
+// The user's folder for files of this kind; empty if there is none.
 QString usualFolder(QLatin1String chooser, const QString &suffix)
 {
     using Paths = QStandardPaths;
@@ -88,7 +106,7 @@ QString filterFor(const QStringList &suffixes)
 Chooser::Chosen rememberingPlace(QWidget *page, QLatin1String chooser, Chooser::Chosen chosen)
 {
     return [page, chooser, chosen = std::move(chosen)](const QString &path) {
-        RecentFolder::remember(*page, chooser, QFileInfo(path).path());
+        rememberFolder(*page, chooser, QFileInfo(path).path());
         chosen(path);
     };
 }
@@ -122,7 +140,7 @@ void askForSaveFile(QWidget *page, const QString &suffix, const Chooser::Chosen 
         const bool complete = endsInSuffix(path, {suffix});
         const QString whole = complete ? path : path + u'.' + suffix;
         if (!complete && QFileInfo::exists(whole))
-            // The chooser asked about replacing another name: let it ask about this one.
+            // The chooser asked about replacing another name: now about this one.
             askForSaveFile(page, suffix, chosen, QFileInfo(whole).path(),
                            QFileInfo(whole).fileName());
         else
@@ -136,7 +154,7 @@ void Chooser::chooseFolder(QWidget *page, Chosen chosen, const QString &startFol
                            Cancelled cancelled)
 {
     const QString fixed = existing(startFolder);
-    const QString recent = fixed.isEmpty() ? RecentFolder::find(*page, folderChooser) : QString();
+    const QString recent = fixed.isEmpty() ? recentFolder(*page, folderChooser) : QString();
     QFileDialog *sheet = makeSheet(page, folderChooser, firstOf({fixed, folderOf(recent)}));
     sheet->setFileMode(QFileDialog::Directory);
     sheet->setOption(QFileDialog::ShowDirsOnly);
@@ -145,7 +163,7 @@ void Chooser::chooseFolder(QWidget *page, Chosen chosen, const QString &startFol
     const auto finish = [page, isFixed = !fixed.isEmpty(),
                          chosen = std::move(chosen)](const QString &path) {
         if (!isFixed)
-            RecentFolder::remember(*page, folderChooser, path);
+            rememberFolder(*page, folderChooser, path);
         chosen(path);
     };
     show(sheet, page, finish, std::move(cancelled));
@@ -153,16 +171,16 @@ void Chooser::chooseFolder(QWidget *page, Chosen chosen, const QString &startFol
 
 void Chooser::chooseFile(QWidget *page, const QStringList &suffixes, Chosen chosen)
 {
-    const QString start = firstOf(
-        {RecentFolder::find(*page, fileChooser), usualFolder(fileChooser, suffixes.value(0))});
+    const QString start =
+        firstOf({recentFolder(*page, fileChooser), usualFolder(fileChooser, suffixes.value(0))});
     askForFile(page, suffixes, rememberingPlace(page, fileChooser, std::move(chosen)), start);
 }
 
 void Chooser::chooseSaveFile(QWidget *page, const QString &suffix, Chosen chosen,
                              const QString &source)
 {
-    const QString start = firstOf({RecentFolder::find(*page, saveChooser), folderOf(source),
-                                   usualFolder(saveChooser, suffix)});
+    const QString start = firstOf(
+        {recentFolder(*page, saveChooser), folderOf(source), usualFolder(saveChooser, suffix)});
     const QString name =
         source.isEmpty() ? QString() : QFileInfo(proposedFile(start, source, suffix)).fileName();
     askForSaveFile(page, suffix, rememberingPlace(page, saveChooser, std::move(chosen)), start,

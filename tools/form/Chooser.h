@@ -8,12 +8,12 @@
 class QWidget;
 
 /// Choosers that a page shows as sheets on its window. They return at once; `chosen` is called on
-/// OK with an absolute path, `cancelled`, where given, on anything else. Neither is called once the
+/// OK with an absolute path, `cancelled`, if given, on anything else. Neither is called once the
 /// page is gone; the sheet goes with it. Interface thread only.
 ///
 /// The sheets' object names are `folderChooser`, `fileChooser` and `saveChooser`. Each starts where
-/// it was last used on this page (see RecentFolder.h), else in the user's folder for such files: a
-/// folder is then selected in the one that it lies in.
+/// it was last used on this page, which the user's settings keep by the page's object name, else in
+/// the user's folder for such files. A folder is selected in the one that it lies in.
 namespace Chooser
 {
 

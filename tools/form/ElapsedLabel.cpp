@@ -1,6 +1,8 @@
 #include "ElapsedLabel.h"
 
-#include <algorithm>
+#include "Job.h"
+#include "PageStatus.h"
+
 #include <chrono>
 
 using namespace Qt::StringLiterals;
@@ -9,23 +11,11 @@ using namespace std::chrono_literals;
 ElapsedLabel::ElapsedLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*this);
     setVisible(false);
     m_everySecond.setInterval(1s);
     m_everySecond.setTimerType(Qt::PreciseTimer); // others come early, and show the second before
     connect(&m_everySecond, &QTimer::timeout, this, &ElapsedLabel::updateText);
-}
-
-QString ElapsedLabel::elapsedText(qint64 milliseconds)
-{
-    const qint64 seconds = std::max<qint64>(milliseconds, 0) / 1000;
-    const QString twoDigits = u"%1:%2"_s;
-    const auto padded = [](qint64 number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
-    if (seconds < 3600)
-        return twoDigits.arg(seconds / 60).arg(padded(seconds % 60));
-    return u"%1:%2:%3"_s.arg(seconds / 3600).arg(padded(seconds / 60 % 60), padded(seconds % 60));
 }
 
 QSize ElapsedLabel::sizeHint() const

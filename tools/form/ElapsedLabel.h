@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QTimer>
 
-/// How long a run has lasted: "0:07", from one hour on "1:02:03". Visible while running only; its
-/// room is kept. It counts on while its page is not the shown one, but repaints only when shown.
+/// How long a run has lasted, as elapsedText(). Visible while running only; its room is kept. It
+/// counts on while its page is not the shown one, but repaints only when shown.
 class ElapsedLabel : public QLabel
 {
     Q_OBJECT
@@ -13,13 +13,11 @@ class ElapsedLabel : public QLabel
 public:
     explicit ElapsedLabel(QWidget *parent = nullptr);
 
-    static QString elapsedText(qint64 milliseconds); ///< Negative counts as 0.
-
     QSize sizeHint() const override; ///< Wide enough for ten hours, whatever it shows now.
     QSize minimumSizeHint() const override { return sizeHint(); }
 
-    /// The run has ended: its time stands, although the page is to look busy until the user has
-    /// seen how.
+    /// The run has ended: its time no longer changes, although the page looks busy until the user
+    /// has seen the result.
     void hold();
 
 public Q_SLOTS:

@@ -2,17 +2,12 @@
 
 using namespace Qt::StringLiterals;
 
-Command FileManager::commandForFolder(const QString &folder)
+void FileManager::showFolder(const QString &folder)
 {
-    return {.launchPath = u"/usr/bin/open"_s, .arguments = {u"-a"_s, u"Finder"_s, folder}};
+    m_runner.run({.launchPath = u"/usr/bin/open"_s, .arguments = {u"-a"_s, u"Finder"_s, folder}});
 }
 
-Command FileManager::commandForItem(const QString &item)
+void FileManager::showItem(const QString &item)
 {
-    return {.launchPath = u"/usr/bin/open"_s, .arguments = {u"-R"_s, item}};
-}
-
-void FileManager::ask(const Command &command)
-{
-    m_runner.run(command, {.page = {}, .title = u"open"_s});
+    m_runner.run({.launchPath = u"/usr/bin/open"_s, .arguments = {u"-R"_s, item}});
 }

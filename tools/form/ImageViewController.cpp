@@ -1,7 +1,7 @@
 #include "ImageViewController.h"
 
 #include "Chooser.h"
-#include "FormCheck.h"
+#include "JobList.h"
 #include "MiscTool.h"
 #include "PageAction.h"
 #include "PageStatus.h"
@@ -13,7 +13,8 @@
 using namespace Qt::StringLiterals;
 
 ImageViewController::ImageViewController(JobList &jobs, const Kind &kind, QWidget *parent)
-    : QWidget(parent), m_kind(kind), ui(std::make_unique<Ui::ImageForm>()), m_runner(jobs)
+    : QWidget(parent), m_kind(kind), ui(std::make_unique<Ui::ImageForm>()), m_jobs(jobs),
+      m_runner(jobs)
 {
 }
 
@@ -45,7 +46,7 @@ void ImageViewController::connectForm()
             &ImageViewController::outputSelectAction);
     connect(ui->clearButton, &QPushButton::clicked, this, &ImageViewController::clearAction);
     connect(ui->generateButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, generateAction()); });
+            [this] { watchPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
     ui->srcFolderField->takeDropsOf(*this);
     ui->srcFolderField->takeDropsOf(*ui->volumnNameField); // would take an address as its text
@@ -80,12 +81,23 @@ void ImageViewController::clearAction()
 bool ImageViewController::verify()
 {
     if (ui->srcFolderField->text().isEmpty())
-        return FormCheck::refuse("SrcFolderNull");
+        return PageStatus::refuse("SrcFolderNull");
     if (ui->volumnNameField->text().isEmpty())
-        return FormCheck::refuse("VolumeNameNull");
+        return PageStatus::refuse("VolumeNameNull");
     if (ui->outputField->text().isEmpty())
-        return FormCheck::refuse("OutputNull");
+        return PageStatus::refuse("OutputNull");
     return true;
+}
+
+// A file at the output path is replaced.
+Command ImageViewController::makeHybrid(const QString &output) const
+{
+    QStringList arguments{u"makehybrid"_s};
+    if (m_kind.fileSystem == FileSystem::Hfs)
+        arguments << u"-hfs"_s;
+    arguments << u"-o"_s << output << u"-default-volume-name"_s << ui->volumnNameField->text()
+              << u"-ov"_s << u"-quiet"_s << ui->srcFolderField->text();
+    return {.launchPath = u"/usr/bin/hdiutil"_s, .arguments = arguments};
 }
 
 QCoro::Task<> ImageViewController::generateAction()
@@ -96,25 +108,20 @@ QCoro::Task<> ImageViewController::generateAction()
     ui->showInFolderButton->withdraw();
     const QPointer<ImageViewController> self(this);
     const QString output = ui->outputField->text();
-    const Command command = ImageCommand::makeHybrid(
-        m_kind.fileSystem, output, ui->volumnNameField->text(), ui->srcFolderField->text());
+    Job job = m_jobs.begin({.page = objectName(),
+                            .title = qtTrId(m_kind.nameKey),
+                            .subject = ui->srcFolderField->text()});
 
-    const CommandResult result = co_await m_runner.run(command, job());
+    const CommandResult result = co_await m_runner.run(makeHybrid(output), job);
     if (!self)
         co_return;
+    job.end(result.outcome());
     setStatus(true);
     if (result.succeeded())
         ui->showInFolderButton->offer(output);
-    // On purpose these two are shown as they stand, not looked up in the table of texts.
+    // On purpose these two are shown as they are, not looked up in the table of texts.
     MiscTool::showAlert(result.succeeded() ? u"GenerateImageSuc"_s : u"GenerateImageFail"_s,
                         QString());
-}
-
-JobDescription ImageViewController::job() const
-{
-    return {.page = objectName(),
-            .title = qtTrId(m_kind.nameKey),
-            .subject = ui->srcFolderField->text()};
 }
 
 void ImageViewController::setStatus(bool idle)

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "CommandRunner.h"
-#include "ImageCommand.h"
 
 #include <QWidget>
 
 #include <memory>
+
+class JobList;
 
 namespace Ui
 {
@@ -21,9 +22,11 @@ class ImageViewController : public QWidget
 public:
     ~ImageViewController() override;
 
-    void srcSelectAction();
+    void srcSelectAction(); ///< Also names the volume after the chosen folder.
     void outputSelectAction();
     void clearAction();
+    /// Makes the image. The page is idle before the message is shown. A file at the output path is
+    /// replaced once the image is complete.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false).
@@ -32,13 +35,18 @@ public:
     bool verify();
 
 protected:
+    enum class FileSystem {
+        Hfs, ///< One plain HFS volume.
+        Hybrid, ///< Whatever the program puts into an image that several systems can read.
+    };
     /// What one page's images are.
     struct Kind {
         const char *nameKey; ///< The page's name in the table of texts.
         QString suffix; ///< Of the image file, without the dot.
-        ImageCommand::FileSystem fileSystem;
+        FileSystem fileSystem;
     };
 
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     ImageViewController(JobList &jobs, const Kind &kind, QWidget *parent);
     /// Puts the form into its place on the page. A page calls it once, last in its constructor.
     void awakeFromNib(QWidget &formPlace);
@@ -46,9 +54,10 @@ protected:
 private:
     void connectForm();
     void setSourceFolder(const QString &path);
-    JobDescription job() const;
+    Command makeHybrid(const QString &output) const;
 
     const Kind m_kind;
     std::unique_ptr<Ui::ImageForm> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
 };

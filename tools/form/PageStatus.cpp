@@ -1,6 +1,7 @@
 #include "PageStatus.h"
 
 #include "BusyIndicator.h"
+#include "MiscTool.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -65,13 +66,23 @@ private:
 
 } // namespace
 
+bool PageStatus::refuse(const char *messageKey, const char *informativeKey)
+{
+    MiscTool::showAlert(qtTrId(messageKey), informativeKey ? qtTrId(informativeKey) : QString());
+    return false;
+}
+
 void PageStatus::setIdle(BusyIndicator &indicator, bool idle)
 {
     indicator.setHidden(idle);
-    if (idle)
-        indicator.stopAnimation();
-    else
-        indicator.startAnimation();
+    indicator.setAnimating(!idle);
+}
+
+void PageStatus::keepSpaceWhenHidden(QWidget &widget)
+{
+    QSizePolicy policy = widget.sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    widget.setSizePolicy(policy);
 }
 
 void PageStatus::pressOnReturn(QWidget &page, QPushButton &button)

@@ -35,6 +35,7 @@ PathField::PathField(QWidget *parent) : QLineEdit(parent)
 {
     connect(this, &QLineEdit::textChanged, this,
             [this](const QString &path) { setToolTip(plainToolTip(path)); });
+    takeDropsOf(*this);
 }
 
 bool PathField::takesPath(const QString &path) const
@@ -85,42 +86,13 @@ void PathField::takeDrop(QDropEvent *event)
     Q_EMIT pathDropped(path);
 }
 
-void PathField::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasUrls())
-        considerDrag(event);
-    else
-        QLineEdit::dragEnterEvent(event);
-}
-
-void PathField::dragMoveEvent(QDragMoveEvent *event)
-{
-    if (event->mimeData()->hasUrls())
-        considerDrag(event);
-    else
-        QLineEdit::dragMoveEvent(event);
-}
-
-void PathField::dragLeaveEvent(QDragLeaveEvent *event)
-{
-    setIsDropTarget(false);
-    QLineEdit::dragLeaveEvent(event);
-}
-
-void PathField::dropEvent(QDropEvent *event)
-{
-    if (event->mimeData()->hasUrls())
-        takeDrop(event);
-    else
-        QLineEdit::dropEvent(event);
-}
-
 void PathField::takeDropsOf(QWidget &widget)
 {
     widget.setAcceptDrops(true);
     widget.installEventFilter(this);
 }
 
+// What is dragged but is not an address, such as text, stays the watched widget's.
 bool PathField::eventFilter(QObject *, QEvent *event)
 {
     const QEvent::Type type = event->type();

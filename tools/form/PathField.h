@@ -32,7 +32,7 @@ public:
     void setSource(const QLineEdit &source) { m_source = &source; }
 
     /// Items that are dragged over the widget are taken as if they were dragged over this field. A
-    /// widget in it that takes drops itself, such as another path field, is asked first.
+    /// widget in it that takes drops itself, such as another path field, comes first.
     void takeDropsOf(QWidget &widget);
 
 Q_SIGNALS:
@@ -40,11 +40,7 @@ Q_SIGNALS:
     void pathDropped(const QString &path);
 
 protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-    void dragEnterEvent(QDragEnterEvent *event) override;
-    void dragMoveEvent(QDragMoveEvent *event) override;
-    void dragLeaveEvent(QDragLeaveEvent *event) override;
-    void dropEvent(QDropEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override; ///< Watches itself, too.
     void initStyleOption(QStyleOptionFrame *option) const override;
 
 private:

@@ -1,5 +1,6 @@
 #include "ShowInFolderButton.h"
 
+#include "PageStatus.h"
 #include "PlainToolTip.h"
 
 ShowInFolderButton::ShowInFolderButton(QWidget *parent) : QPushButton(parent)
@@ -7,9 +8,7 @@ ShowInFolderButton::ShowInFolderButton(QWidget *parent) : QPushButton(parent)
     setText(qtTrId("ShowInFolder"));
     setAccessibleName(qtTrId("ShowInFolder.Name"));
     setAutoDefault(false);
-    QSizePolicy policy = sizePolicy();
-    policy.setRetainSizeWhenHidden(true); // nothing jumps when it comes
-    setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*this);
     hide();
     connect(this, &QPushButton::clicked, this, [this] { m_fileManager.showItem(m_file); });
 }

@@ -5,7 +5,7 @@
 #include <QPushButton>
 
 /// Shows the file that a page has just made in the file manager. Hidden until there is one; its
-/// room on the page is kept. Its texts are its own.
+/// space on the page is kept. Its texts are its own.
 class ShowInFolderButton : public QPushButton
 {
     Q_OBJECT

@@ -6,9 +6,7 @@ using namespace Qt::StringLiterals;
 
 ISOViewController::ISOViewController(JobList &jobs, QWidget *parent)
     : ImageViewController(
-        jobs,
-        {.nameKey = "ISO", .suffix = u"iso"_s, .fileSystem = ImageCommand::FileSystem::Hybrid},
-        parent)
+        jobs, {.nameKey = "ISO", .suffix = u"iso"_s, .fileSystem = FileSystem::Hybrid}, parent)
 {
     Ui::ISOViewController page;
     page.setupUi(this);

@@ -1,44 +1,48 @@
 #pragma once
 
-#include <QElapsedTimer>
-#include <QPointer>
 #include <QString>
+
+#include <memory>
+#include <stop_token>
 
 class JobList;
 
+/// Names a job for as long as its list exists; never given out twice.
 using JobId = quint64;
 
-/// What the user is told about a job.
+/// What the user sees of a job.
 struct JobDescription {
     QString page; ///< The `objectName` of the page, which is its class name.
     QString title; ///< What is being done, localised: mostly the page's title.
-    QString subject = {}; ///< What it is done to, mostly a path. Plain text, shown as it stands.
-    QElapsedTimer begun = {}; ///< When the run began of which this job is a later part.
-    bool successIsNews = true; ///< False where more of the run follows, or success shows itself.
+    QString subject = {}; ///< What it is done to, mostly a path. Always shown as plain text.
 };
 
-enum class JobOutcome { Succeeded, Failed, Stopped };
+enum class JobOutcome {
+    Succeeded,
+    Failed,
+    Stopped, ///< Ended early because somebody wanted it to.
+};
 
-/// Keeps one job in the list of running jobs for as long as it lives. Move-only; interface thread
-/// only (work on another thread keeps its handle in the coroutine that awaits it).
+/// A handle of one job in the list of what runs. Copies are handles of the same job: a page hands
+/// them to whatever works for the job, and the program does not quit while one of them is left.
+/// Interface thread only; a worker thread gets the stop token instead.
 class [[nodiscard]] Job
 {
 public:
-    Job() = default; ///< No job at all.
-    Job(Job &&other) noexcept;
-    Job &operator=(Job &&other) noexcept;
-    Job(const Job &) = delete;
-    Job &operator=(const Job &) = delete;
-    /// A job that goes out of scope without a word about its outcome has failed.
-    ~Job();
+    Job() = default; ///< No job: it is in no list, and cannot be stopped.
 
-    /// Takes the job off the list. Only the first call counts.
+    /// Set when the job is to end early. The token may be used on any thread.
+    std::stop_token stopToken() const;
+
+    /// Takes the job off the list. Only the first call counts. A job whose last handle goes without
+    /// this call ends as Stopped if a stop was requested, otherwise as Failed.
     void end(JobOutcome outcome);
 
 private:
     friend class JobList;
-    Job(JobList *list, JobId id);
-
-    QPointer<JobList> m_list;
-    JobId m_id = 0;
+    struct Listed;
+    std::shared_ptr<Listed> m_listed;
 };
+
+/// A time as people read it: "0:07", from one hour on "1:02:03". Negative counts as 0.
+QString elapsedText(qint64 milliseconds);

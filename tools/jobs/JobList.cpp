@@ -1,22 +1,63 @@
 #include "JobList.h"
 
+#include <QPointer>
+
 #include <algorithm>
 #include <utility>
 
-JobList::JobList(QObject *parent) : QObject(parent)
+using namespace Qt::StringLiterals;
+
+/// What the handles of one job share.
+struct Job::Listed {
+    QPointer<JobList> list;
+    JobId id;
+    std::stop_source stop;
+
+    Listed(JobList &jobs, JobId number, const std::stop_source &source)
+        : list(&jobs), id(number), stop(source)
+    {
+    }
+    Listed(const Listed &) = delete;
+    Listed &operator=(const Listed &) = delete;
+    ~Listed() { end(stop.stop_requested() ? JobOutcome::Stopped : JobOutcome::Failed); }
+
+    void end(JobOutcome outcome) const
+    {
+        if (list)
+            list->end(id, outcome);
+    }
+};
+
+std::stop_token Job::stopToken() const
 {
+    return m_listed ? m_listed->stop.get_token() : std::stop_token();
 }
 
-Job JobList::begin(const JobDescription &description, std::function<void()> stop)
+void Job::end(JobOutcome outcome)
 {
-    QElapsedTimer started = description.begun;
-    if (!started.isValid())
-        started.start();
+    if (m_listed)
+        m_listed->end(outcome);
+}
+
+QString elapsedText(qint64 milliseconds)
+{
+    const qint64 seconds = std::max<qint64>(milliseconds, 0) / 1000;
+    const auto padded = [](qint64 number) { return u"%1"_s.arg(number, 2, 10, QChar(u'0')); };
+    if (seconds < 3600)
+        return u"%1:%2"_s.arg(QString::number(seconds / 60), padded(seconds % 60));
+    return u"%1:%2:%3"_s.arg(QString::number(seconds / 3600), padded(seconds / 60 % 60),
+                             padded(seconds % 60));
+}
+
+Job JobList::begin(const JobDescription &description, const std::stop_source &stop)
+{
     const JobId id = ++m_lastId;
-    m_running.push_back({id, description, started, std::move(stop), false});
-    Q_EMIT jobStarted(id);
+    m_running.push_back({id, description, {}, stop});
+    m_running.back().started.start();
+    Job job;
+    job.m_listed = std::make_shared<Job::Listed>(*this, id, stop);
     Q_EMIT changed();
-    return Job(this, id);
+    return job;
 }
 
 const RunningJob *JobList::find(JobId id) const
@@ -27,21 +68,17 @@ const RunningJob *JobList::find(JobId id) const
 
 void JobList::stop(JobId id)
 {
-    const auto job = std::ranges::find(m_running, id, &RunningJob::id);
-    if (job == m_running.end() || !job->stop)
-        return;
-    job->stopRequested = true;
-    // A copy: a stop function may end its job, and with it the entry that holds the function.
-    const auto stopJob = job->stop;
-    stopJob();
+    if (const RunningJob *job = find(id)) {
+        std::stop_source stop = job->stop; // a copy: what reacts to it may end the job
+        stop.request_stop();
+    }
 }
 
 void JobList::stopAll()
 {
-    std::vector<JobId> ids;
-    std::ranges::transform(m_running, std::back_inserter(ids), &RunningJob::id);
-    for (const JobId id : ids)
-        stop(id);
+    const std::vector<RunningJob> running = m_running; // each may change the list
+    for (const RunningJob &job : running)
+        stop(job.id);
 }
 
 void JobList::end(JobId id, JobOutcome outcome)
@@ -53,11 +90,6 @@ void JobList::end(JobId id, JobOutcome outcome)
     m_running.erase(job);
     Q_EMIT jobEnded(ended, outcome);
     Q_EMIT changed();
-    QMetaObject::invokeMethod(this, &JobList::tellIfAllEnded, Qt::QueuedConnection);
-}
-
-void JobList::tellIfAllEnded()
-{
     if (isEmpty())
         Q_EMIT allEnded();
 }

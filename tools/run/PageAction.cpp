@@ -21,7 +21,7 @@ static QCoro::Task<> watch(QString page, QCoro::Task<> action)
     qWarning().noquote() << page + u": action abandoned: "_s + error.simplified();
 }
 
-void startPageAction(const QObject *page, QCoro::Task<> action)
+void watchPageAction(const QObject *page, QCoro::Task<> action)
 {
     watch(QString::fromLatin1(page->metaObject()->className()), std::move(action));
 }

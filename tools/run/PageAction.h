@@ -4,24 +4,25 @@
 
 class QObject;
 
-/// Starts a page's action from a button. An exception that leaves the action goes to the log with
-/// the page's class name; a dropped task would swallow it.
+/// Watches over a page's action, which a button has begun: an exception that leaves the action goes
+/// to the log with the page's class name. A task that is dropped would swallow it.
 ///
 ///     connect(ui->generateButton, &QPushButton::clicked, this,
-///             [this] { startPageAction(this, generate()); });
+///             [this] { watchPageAction(this, generateAction()); });
 ///
-///     QCoro::Task<> ZIPViewController::generate()
+///     QCoro::Task<> ZIPViewController::generateAction()
 ///     {
 ///         if (!verify())
 ///             co_return;
 ///         setStatus(false); // before the first await: a second press finds a disabled button
 ///         const QPointer<ZIPViewController> self(this);
-///         const Command command = buildCommand();
-///         const JobDescription description{objectName(), ui->titleLabel->text(), ...};
-///         const CommandResult result = co_await m_runner.run(command, description);
+///         const Command command = ...;
+///         Job job = m_jobs.begin({objectName(), ui->titleLabel->text(), ...});
+///
+///         const CommandResult result = co_await m_runner.run(command, job);
 ///         if (!self) // the page died meanwhile: touch no member, not even the runner
 ///             co_return;
-///         ...
+///         job.end(result.outcome()); // before the message, which may be shown for an hour
 ///         MiscTool::showAlert(...); // has an event loop of its own: the page may die in it
 ///         if (!self)
 ///             co_return;
@@ -31,7 +32,7 @@ class QObject;
 /// Rules that keep such a coroutine sound: check `self` after every await and every message box;
 /// take parameters by value; let no capturing lambda be a coroutine (the lambda dies at the first
 /// await, its captures with it); name values that need a braced list before the await expression,
-/// because g++ 12 cannot compile one inside it. What stands before the first await blocks.
+/// because g++ 12 cannot compile one inside it. Whatever is done before the first await blocks.
 ///
-/// `page` is only asked for its class name, at once.
-void startPageAction(const QObject *page, QCoro::Task<> action);
+/// Only the page's class name is used, and at once.
+void watchPageAction(const QObject *page, QCoro::Task<> action);

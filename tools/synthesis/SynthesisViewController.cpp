@@ -1,7 +1,7 @@
 #include "SynthesisViewController.h"
 
 #include "Chooser.h"
-#include "FormCheck.h"
+#include "JobList.h"
 #include "MiscTool.h"
 #include "NamedImage.h"
 #include "PageAction.h"
@@ -16,12 +16,13 @@ namespace
 {
 
 constexpr int usualRate = 175;
-constexpr qsizetype subjectLength = 60;
+constexpr qsizetype maxSubjectLength = 60;
 
 } // namespace
 
 SynthesisViewController::SynthesisViewController(JobList &jobs, QWidget *parent)
-    : QWidget(parent), ui(std::make_unique<Ui::SynthesisViewController>()), m_runner(jobs)
+    : QWidget(parent), ui(std::make_unique<Ui::SynthesisViewController>()), m_jobs(jobs),
+      m_runner(jobs)
 {
     ui->setupUi(this);
     ui->testButton->setIcon(namedImage(u"play"_s));
@@ -57,13 +58,13 @@ void SynthesisViewController::awakeFromNib()
 
 void SynthesisViewController::testAction()
 {
-    startPageAction(this, read(u"I love you"_s));
+    watchPageAction(this, read(u"I love you"_s));
 }
 
 void SynthesisViewController::readAction()
 {
     if (verify())
-        startPageAction(this, read(ui->textField->toPlainText()));
+        watchPageAction(this, read(ui->textField->toPlainText()));
 }
 
 void SynthesisViewController::resetAction()
@@ -74,7 +75,7 @@ void SynthesisViewController::resetAction()
 void SynthesisViewController::saveAction()
 {
     Chooser::chooseSaveFile(this, u"aiff"_s,
-                            [this](const QString &path) { startPageAction(this, save(path)); });
+                            [this](const QString &path) { watchPageAction(this, save(path)); });
 }
 
 bool SynthesisViewController::verify()
@@ -82,10 +83,26 @@ bool SynthesisViewController::verify()
     if (!ui->textField->document()->isEmpty())
         return true;
     const QPointer<SynthesisViewController> self(this);
-    FormCheck::refuse("TextNullAlert");
+    PageStatus::refuse("TextNullAlert");
     if (self)
         ui->textField->clearFocus();
     return false;
+}
+
+// The text always comes first, whatever it begins with.
+Command SynthesisViewController::speak(const QString &text) const
+{
+    return {.launchPath = u"/usr/bin/say"_s,
+            .arguments = {text, u"--voice="_s + ui->voicePopUp->currentText(),
+                          u"--rate="_s + QString::number(ui->rateSlider->value())}};
+}
+
+// The first words name the text well enough, which may be a whole book.
+Job SynthesisViewController::beginJob(const QString &text)
+{
+    return m_jobs.begin({.page = objectName(),
+                         .title = qtTrId("Speech Synthesis"),
+                         .subject = text.left(maxSubjectLength).simplified()});
 }
 
 QCoro::Task<> SynthesisViewController::read(QString text)
@@ -93,10 +110,13 @@ QCoro::Task<> SynthesisViewController::read(QString text)
     setStatus(false);
     ui->showInFolderButton->withdraw();
     const QPointer<SynthesisViewController> self(this);
-    const Command command = SpeechCommand::read(text, manner());
-    co_await m_runner.run(command, job(text));
-    if (self)
-        setStatus(true);
+    Job job = beginJob(text);
+
+    const CommandResult result = co_await m_runner.run(speak(text), job);
+    if (!self)
+        co_return;
+    job.end(result.outcome());
+    setStatus(true);
 }
 
 QCoro::Task<> SynthesisViewController::save(QString file)
@@ -105,29 +125,19 @@ QCoro::Task<> SynthesisViewController::save(QString file)
     ui->showInFolderButton->withdraw();
     const QPointer<SynthesisViewController> self(this);
     const QString text = ui->textField->toPlainText();
-    const Command command = SpeechCommand::save(text, manner(), file);
+    Command command = speak(text);
+    command.arguments << u"--output-file="_s + file;
+    Job job = beginJob(text);
 
-    const CommandResult result = co_await m_runner.run(command, job(text));
+    const CommandResult result = co_await m_runner.run(command, job);
     if (!self)
         co_return;
+    job.end(result.outcome());
     if (result.succeeded())
         ui->showInFolderButton->offer(file);
     MiscTool::showAlert(qtTrId(result.succeeded() ? "SaveSuc" : "SaveFail"), QString());
     if (self)
         setStatus(true);
-}
-
-SpeechCommand::Manner SynthesisViewController::manner() const
-{
-    return {.voice = ui->voicePopUp->currentText(), .rate = ui->rateSlider->value()};
-}
-
-// The first words name the text well enough, which may be a whole book.
-JobDescription SynthesisViewController::job(const QString &text) const
-{
-    return {.page = objectName(),
-            .title = qtTrId("Speech Synthesis"),
-            .subject = text.left(subjectLength).simplified()};
 }
 
 void SynthesisViewController::setStatus(bool idle)

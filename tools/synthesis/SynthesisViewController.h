@@ -1,11 +1,12 @@
 #pragma once
 
 #include "CommandRunner.h"
-#include "SpeechCommand.h"
 
 #include <QWidget>
 
 #include <memory>
+
+class JobList;
 
 namespace Ui
 {
@@ -18,11 +19,12 @@ class SynthesisViewController : public QWidget
     Q_OBJECT
 
 public:
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     explicit SynthesisViewController(JobList &jobs, QWidget *parent = nullptr);
     ~SynthesisViewController() override;
 
     void testAction(); ///< Speaks a fixed sentence with the chosen voice and rate.
-    void readAction();
+    void readAction(); ///< Speaks what the field holds, unless it is empty.
     void resetAction(); ///< Back to the usual rate; the voice stays.
     void saveAction(); ///< Saves what the field holds, even nothing.
 
@@ -37,10 +39,11 @@ private:
     void awakeFromNib();
     void connectButtons();
 
-    QCoro::Task<> save(QString file);
-    SpeechCommand::Manner manner() const;
-    JobDescription job(const QString &text) const;
+    QCoro::Task<> save(QString file); ///< A file at the path is replaced.
+    Command speak(const QString &text) const;
+    Job beginJob(const QString &text);
 
     std::unique_ptr<Ui::SynthesisViewController> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
 };

@@ -2,7 +2,7 @@
 
 #include "Chooser.h"
 #include "FileNames.h"
-#include "FormCheck.h"
+#include "JobList.h"
 #include "MiscTool.h"
 #include "PageAction.h"
 #include "PageStatus.h"
@@ -15,7 +15,7 @@
 using namespace Qt::StringLiterals;
 
 UNZIPViewController::UNZIPViewController(JobList &jobs, QWidget *parent)
-    : QWidget(parent), ui(std::make_unique<Ui::UNZIPViewController>()), m_runner(jobs)
+    : QWidget(parent), ui(std::make_unique<Ui::UNZIPViewController>()), m_jobs(jobs), m_runner(jobs)
 {
     ui->setupUi(this);
     connectButtons();
@@ -33,7 +33,7 @@ void UNZIPViewController::connectButtons()
     connect(ui->openButton, &QPushButton::clicked, this, &UNZIPViewController::openAction);
     connect(ui->clearButton, &QPushButton::clicked, this, &UNZIPViewController::clearAction);
     connect(ui->generateButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, generateAction()); });
+            [this] { watchPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
     ui->srcFolderField->takeDropsOf(*this);
 }
@@ -80,12 +80,12 @@ std::optional<QString> UNZIPViewController::destination() const
 bool UNZIPViewController::verify()
 {
     if (ui->srcFolderField->text().isEmpty())
-        return FormCheck::refuse("SrcFolderNull");
+        return PageStatus::refuse("SrcFolderNull");
     const std::optional<QString> folder = destination();
     if (!folder)
         return false;
     if (itemExists(*folder))
-        return FormCheck::refuse("OutputFolderExists");
+        return PageStatus::refuse("OutputFolderExists");
     return true;
 }
 
@@ -99,19 +99,16 @@ QCoro::Task<> UNZIPViewController::generateAction()
     const QString folder = destination().value_or(QString());
     QDir().mkpath(folder); // what cannot be made here makes unzip fail
     const Command command = UnzipCommand::extract(archive, folder);
+    Job job = m_jobs.begin({.page = objectName(), .title = qtTrId("Unzip"), .subject = archive});
 
-    const CommandResult result = co_await m_runner.run(command, job(archive));
+    const CommandResult result = co_await m_runner.run(command, job);
     if (!self || !result.couldStart())
         co_return;
+    job.end(result.outcome());
     ui->elapsedLabel->hold();
     MiscTool::showAlert(qtTrId(result.succeeded() ? "UnzipSuc" : "UnzipFail"), QString());
     if (self)
         setStatus(true);
-}
-
-JobDescription UNZIPViewController::job(const QString &subject) const
-{
-    return {.page = objectName(), .title = qtTrId("Unzip"), .subject = subject};
 }
 
 void UNZIPViewController::setStatus(bool idle)

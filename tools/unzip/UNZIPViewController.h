@@ -7,6 +7,8 @@
 
 #include <memory>
 
+class JobList;
+
 namespace Ui
 {
 class UNZIPViewController;
@@ -18,6 +20,7 @@ class UNZIPViewController : public QWidget
     Q_OBJECT
 
 public:
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     explicit UNZIPViewController(JobList &jobs, QWidget *parent = nullptr);
     ~UNZIPViewController() override;
 
@@ -25,7 +28,9 @@ public:
     void outputSelectAction();
     /// Shows the output folder, not the new folder in it, in the file manager. Never disabled.
     void openAction();
-    void clearAction();
+    void clearAction(); ///< Empties both fields.
+    /// Unpacks and ends after the message. If unzip cannot be started there is no message, and the
+    /// page stays busy. After a failure the new folder stays, with what is in it.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false). The two fields stay as they are.
@@ -40,9 +45,9 @@ private:
 
     /// None for a file name that is too short.
     std::optional<QString> destination() const;
-    JobDescription job(const QString &subject) const;
 
     std::unique_ptr<Ui::UNZIPViewController> ui;
+    JobList &m_jobs;
     CommandRunner m_runner;
     FileManager m_fileManager;
 };

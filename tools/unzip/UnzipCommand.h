@@ -2,7 +2,7 @@
 
 #include "Command.h"
 
-/// What the Unzip page asks of the system's programs. Everything here is free of side effects.
+/// How the Unzip page uses the system's unzip program. Everything here is free of side effects.
 namespace UnzipCommand
 {
 

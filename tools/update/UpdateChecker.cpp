@@ -175,10 +175,8 @@ Job UpdateChecker::beginJob() const
 {
     if (!m_jobs)
         return {};
-    // Not this object but its stop source is kept: the job may outlive the object by a moment.
     return m_jobs->begin(
-        {.page = m_page, .title = qtTrId("Update.Job"), .subject = fileNameOf(*m_offer)},
-        [stop = m_stop]() mutable { stop.request_stop(); });
+        {.page = m_page, .title = qtTrId("Update.Job"), .subject = fileNameOf(*m_offer)}, m_stop);
 }
 
 void UpdateChecker::stop()

@@ -89,9 +89,9 @@ UpdateCheckView::~UpdateCheckView() = default;
 void UpdateCheckView::connectButtons()
 {
     connect(ui->checkButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, m_checker.check()); });
+            [this] { watchPageAction(this, m_checker.check()); });
     connect(ui->downloadButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, m_checker.download()); });
+            [this] { watchPageAction(this, m_checker.download()); });
     connect(ui->stopButton, &QPushButton::clicked, &m_checker, &UpdateChecker::stop);
     connect(ui->skipButton, &QPushButton::clicked, this, [this] { m_checker.setSkipped(true); });
     connect(ui->unskipButton, &QPushButton::clicked, this, [this] { m_checker.setSkipped(false); });
@@ -140,7 +140,7 @@ void UpdateCheckView::showProgress()
 {
     BusyIndicator &bar = *ui->progressIndicator;
     if (m_checker.phase() == Phase::Downloading) {
-        bar.stopAnimation();
+        bar.setAnimating(false);
         bar.setRange(0, progressSteps);
         const qint64 done = m_checker.received() * progressSteps / m_checker.offer()->length;
         bar.setValue(static_cast<int>(done));

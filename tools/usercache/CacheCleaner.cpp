@@ -4,7 +4,6 @@
 #include "FolderSize.h"
 #include "MiscTool.h"
 #include "PathText.h"
-#include "SecurityScopedAccess.h"
 #include "StoredGrant.h"
 
 #include <QFile>

@@ -1,22 +1,69 @@
 #pragma once
 
-#include "CacheUpdate.h"
-
 #include <QUrl>
+#include <QtGlobal>
 
+#include <array>
+#include <bitset>
+#include <cstdint>
 #include <functional>
 #include <stop_token>
+#include <variant>
 
-/// Measures and deletes the ticked categories, and tells in which order the page is to follow. It
-/// knows no widget; it blocks, so it is used on a thread of its own, by one thread at a time.
+/// One kind of clutter in a home folder.
+struct CacheCategory {
+    const char *titleKey; ///< Key in the table of texts; a size follows the text directly.
+    const char *folder; ///< Relative to the home folder, without a slash at either end.
+};
+
+/// All kinds in the order in which they are shown, measured and cleaned. Logs and mail downloads
+/// are directly in the home folder, on purpose.
+inline constexpr std::array<CacheCategory, 5> cacheCategories{{
+    {QT_TRID_NOOP("Caches"), "Library/Caches"},
+    {QT_TRID_NOOP("Logs"), "Logs"},
+    {QT_TRID_NOOP("Downloads"), "Downloads"},
+    {QT_TRID_NOOP("Mail Download"), "Mail Downloads"},
+    {QT_TRID_NOOP("Trash"), ".Trash"},
+}};
+
+/// Place of a category in `cacheCategories`.
+using CacheCategoryIndex = std::size_t;
+
+/// Which categories take part, by their place in `cacheCategories`.
+using CacheSelection = std::bitset<cacheCategories.size()>;
+
+/// The stored grant was resolved again, because the page had no folder from it.
+struct GrantResolved {
+    QUrl bookmarkURL;
+};
+
+/// A ticked category was measured.
+struct FolderMeasured {
+    CacheCategoryIndex category;
+    std::int64_t bytes;
+};
+
+/// What is on the disk has changed: its figures, and the sizes shown before, are out of date.
+struct DiskChanged {
+};
+
+/// The page may be used again.
+struct CleanerIdle {
+};
+
+/// What a worker has for the page, in the order in which the page is to show it.
+using CacheUpdate = std::variant<GrantResolved, FolderMeasured, DiskChanged, CleanerIdle>;
+
+/// Measures and deletes the ticked categories, and reports in the order in which the page is to
+/// follow. It blocks, so it is used on a thread of its own, by one thread at a time.
 class CacheCleaner
 {
 public:
     using Report = std::function<void(const CacheUpdate &)>; ///< Called on the cleaner's thread.
 
-    /// `bookmarkURL` is the folder that the user granted; empty where the stored grant has yet to
-    /// be resolved. Once `stop` is requested, what is not deleted yet stays, what is not measured
-    /// to its end is not told, and no further category is begun.
+    /// `bookmarkURL` is the folder that the user granted; empty if the stored grant has yet to be
+    /// resolved. Once `stop` is requested, what is not deleted yet stays, what is not measured
+    /// to its end is not reported, and no further category is begun.
     CacheCleaner(const QUrl &bookmarkURL, CacheSelection ticked, Report report,
                  std::stop_token stop);
 
@@ -29,7 +76,7 @@ public:
     void cleanDisk();
 
     /// Where a category is measured. Empty, which has no size, for a base that is empty or "/":
-    /// what stands at the root of the file system is nobody's clutter.
+    /// what is at the root of the file system is not clutter.
     static QString measuredFolder(const QString &base, CacheCategoryIndex category);
 
 private:

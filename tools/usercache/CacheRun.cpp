@@ -4,9 +4,9 @@
 
 #include <utility>
 
-CacheRun::CacheRun(const Request &request, JobList &jobs, const JobDescription &job,
+CacheRun::CacheRun(const Request &request, JobList &jobs, const JobDescription &description,
                    std::shared_ptr<std::mutex> turn)
-    : QObject(&jobs), m_job(jobs.begin(job, [this] { stop(); }))
+    : QObject(&jobs)
 {
     m_worker = std::jthread([this, request, turn = std::move(turn)](const std::stop_token &stop) {
         {
@@ -15,19 +15,16 @@ CacheRun::CacheRun(const Request &request, JobList &jobs, const JobDescription &
         }
         QMetaObject::invokeMethod(this, &CacheRun::end, Qt::QueuedConnection);
     });
-}
-
-CacheRun::~CacheRun() = default;
-
-void CacheRun::stop()
-{
-    m_worker.request_stop();
+    m_job = jobs.begin(description, m_worker.get_stop_source());
 }
 
 void CacheRun::work(const Request &request, const std::stop_token &stop)
 {
-    const auto report = [this](const CacheUpdate &update) { post(update); };
-    CacheCleaner cleaner(request.bookmarkURL, request.ticked, report, stop);
+    const auto post = [this](const CacheUpdate &update) {
+        QMetaObject::invokeMethod(
+            this, [this, update] { Q_EMIT updated(update); }, Qt::QueuedConnection);
+    };
+    CacheCleaner cleaner(request.bookmarkURL, request.ticked, post, stop);
     switch (request.work) {
     case Work::Check:
         cleaner.checkDisk();
@@ -38,16 +35,9 @@ void CacheRun::work(const Request &request, const std::stop_token &stop)
     }
 }
 
-void CacheRun::post(const CacheUpdate &update)
-{
-    QMetaObject::invokeMethod(
-        this, [this, update] { Q_EMIT updated(update); }, Qt::QueuedConnection);
-}
-
 void CacheRun::end()
 {
     m_worker.join(); // posted as the thread's last act
-    m_job.end(m_worker.get_stop_token().stop_requested() ? JobOutcome::Stopped
-                                                         : JobOutcome::Succeeded);
+    m_job.end(m_job.stopToken().stop_requested() ? JobOutcome::Stopped : JobOutcome::Succeeded);
     deleteLater();
 }

@@ -11,9 +11,9 @@
 
 /// One check or clean on a thread of its own. It deletes itself when its thread has ended.
 ///
-/// It belongs to the list of jobs and not to the page: a page that is destroyed meanwhile does not
-/// wait for a folder half deleted, while the program does, because the run stays listed until its
-/// thread has ended. Made and used on the interface thread.
+/// The list of jobs owns it, not the page: a page that is destroyed meanwhile does not wait until a
+/// folder is deleted, but the program does, because the run stays listed until its thread has
+/// ended. Made and used on the interface thread.
 class CacheRun : public QObject
 {
     Q_OBJECT
@@ -28,20 +28,18 @@ public:
     };
 
     /// Starts at once, but works only while it holds `turn`: of the runs that share one, each
-    /// begins when the one before is through to its last update.
-    CacheRun(const Request &request, JobList &jobs, const JobDescription &job,
+    /// begins when the one before has made its last update.
+    CacheRun(const Request &request, JobList &jobs, const JobDescription &description,
              std::shared_ptr<std::mutex> turn);
-    ~CacheRun() override;
 
-    /// Asks the run to end where it stands; returns at once.
-    void stop();
+    /// Ends the run after what it is just doing; returns at once.
+    void stop() { m_worker.request_stop(); }
 
 Q_SIGNALS:
     void updated(const CacheUpdate &update); ///< On the interface thread, in the cleaner's order.
 
 private:
     void work(const Request &request, const std::stop_token &stop);
-    void post(const CacheUpdate &update);
     void end();
 
     Job m_job;

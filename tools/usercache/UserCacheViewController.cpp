@@ -1,7 +1,7 @@
 #include "UserCacheViewController.h"
 
 #include "Chooser.h"
-#include "DiskUsage.h"
+#include "JobList.h"
 #include "MiscTool.h"
 #include "NamedImage.h"
 #include "PageStatus.h"
@@ -11,6 +11,14 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+// The used share of the disk in whole percent, its fraction dropped: 999 used bytes of 1000 are 99.
+static int usedPercentage(std::int64_t total, std::int64_t free)
+{
+    // Wide enough for every size: the product would overflow 64 bits beyond 92 petabytes.
+    return total > 0 ? static_cast<int>(100.0L * static_cast<long double>(total - free) / total)
+                     : 0;
+}
 
 UserCacheViewController::UserCacheViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::UserCacheViewController>()), m_jobs(jobs)
@@ -42,9 +50,7 @@ void UserCacheViewController::awakeFromNib()
     ui->authorizeButton->setText(qtTrId("Authorize"));
     ui->operationBox->setTitle(qtTrId("Operation"));
     ui->progressIndicatorBox->setTitle(qtTrId("Progress"));
-    QSizePolicy policy = ui->progressIndicatorBox->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);
-    ui->progressIndicatorBox->setSizePolicy(policy);
+    PageStatus::keepSpaceWhenHidden(*ui->progressIndicatorBox);
     updateDiskUI();
 }
 
@@ -92,15 +98,16 @@ void UserCacheViewController::refuseGrant(const QString &message, const QString 
 
 void UserCacheViewController::updateDiskUI()
 {
-    const DiskUsage disk = DiskUsage::now();
-    const int percentage = disk.usedPercentage();
+    const std::int64_t total = MiscTool::getDiskTotalSize().value_or(0);
+    const std::int64_t free = MiscTool::getDiskAvailableSize().value_or(0);
+    const int percentage = usedPercentage(total, free);
     ui->totalLabel->setText(qtTrId("Total"));
     ui->freeLabel->setText(qtTrId("FreeDisk"));
-    ui->diskTotalSize->setText(MiscTool::convertBytes(static_cast<std::uint64_t>(disk.total)));
-    ui->diskFreeSize->setText(MiscTool::convertBytes(static_cast<std::uint64_t>(disk.free)));
+    ui->diskTotalSize->setText(MiscTool::convertBytes(static_cast<std::uint64_t>(total)));
+    ui->diskFreeSize->setText(MiscTool::convertBytes(static_cast<std::uint64_t>(free)));
     ui->diskLevelIndicatorBox->setTitle(QString::number(percentage) + u'%');
     ui->diskLevelIndicator->setValue(percentage);
-    for (CacheCategoryIndex category = 0; category < cacheCategoryCount; ++category)
+    for (CacheCategoryIndex category = 0; category < cacheCategories.size(); ++category)
         checkBoxes().at(category)->setText(qtTrId(cacheCategories.at(category).titleKey));
     ui->checkButton->setText(qtTrId("Check"));
     ui->cleanButton->setText(qtTrId("Clean"));
@@ -127,7 +134,9 @@ void UserCacheViewController::start(CacheRun::Work work)
     // what it would find.
     const CacheRun::Request request{
         .work = work, .bookmarkURL = m_bookmarkURL, .ticked = tickedCategories()};
-    auto *run = new CacheRun(request, m_jobs, job(), m_turn);
+    const JobDescription job{
+        .page = objectName(), .title = qtTrId("UserCache"), .subject = MiscTool::getUserHome()};
+    auto *run = new CacheRun(request, m_jobs, job, m_turn); // owned by the list
     m_newestRun = run;
     connect(run, &CacheRun::updated, this,
             [this, run](const CacheUpdate &update) { follow(update, run == m_newestRun); });
@@ -139,11 +148,6 @@ CacheSelection UserCacheViewController::tickedCategories() const
     for (CacheCategoryIndex category = 0; category < ticked.size(); ++category)
         ticked.set(category, checkBoxes().at(category)->checkState() == Qt::Checked);
     return ticked;
-}
-
-JobDescription UserCacheViewController::job() const
-{
-    return {.page = objectName(), .title = qtTrId("UserCache"), .subject = MiscTool::getUserHome()};
 }
 
 void UserCacheViewController::follow(const CacheUpdate &update, bool isNewest)
@@ -166,7 +170,7 @@ void UserCacheViewController::showSize(const FolderMeasured &measured)
     checkBoxes().at(measured.category)->setText(title + size);
 }
 
-std::array<QCheckBox *, cacheCategoryCount> UserCacheViewController::checkBoxes() const
+std::array<QCheckBox *, cacheCategories.size()> UserCacheViewController::checkBoxes() const
 {
     return {ui->cachesCheckBox, ui->logsCheckBox, ui->downloadsCheckBox, ui->mailDownloadCheckBox,
             ui->trashCheckBox};
@@ -184,8 +188,5 @@ void UserCacheViewController::setStatus(bool idle)
     ui->checkButton->setEnabled(idle);
     ui->cleanButton->setEnabled(idle);
     ui->progressIndicatorBox->setHidden(idle);
-    if (idle)
-        ui->progressIndicator->stopAnimation();
-    else
-        ui->progressIndicator->startAnimation();
+    ui->progressIndicator->setAnimating(!idle);
 }

@@ -25,12 +25,15 @@ class UserCacheViewController : public QWidget
     Q_OBJECT
 
 public:
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     explicit UserCacheViewController(JobList &jobs, QWidget *parent = nullptr);
     ~UserCacheViewController() override;
 
+    /// Lets the user choose the home folder, which is the grant. Another folder, or none, withdraws
+    /// the grant until the program starts anew.
     void authorizeAction();
-    void checkAction();
-    void cleanAction();
+    void checkAction(); ///< Measures the ticked folders.
+    void cleanAction(); ///< Deletes the ticked folders, without a question.
 
     /// Refreshes the disk's figures and puts back the plain texts of labels, check boxes, buttons.
     void updateDiskUI();
@@ -46,10 +49,9 @@ private:
 
     void start(CacheRun::Work work);
     CacheSelection tickedCategories() const;
-    JobDescription job() const;
     void follow(const CacheUpdate &update, bool isNewest);
     void showSize(const FolderMeasured &measured);
-    std::array<QCheckBox *, cacheCategoryCount> checkBoxes() const;
+    std::array<QCheckBox *, cacheCategories.size()> checkBoxes() const;
 
     std::unique_ptr<Ui::UserCacheViewController> ui;
     JobList &m_jobs;

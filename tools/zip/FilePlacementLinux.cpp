@@ -1,11 +1,12 @@
 #include "FilePlacement.h"
 
-#include "FileCopy.h"
+#include "FileNames.h"
 #include "UnpublishedFile.h"
 
 #include <QDebug>
+#include <QDir>
 #include <QFile>
-#include <QtConcurrentRun>
+#include <QFileInfo>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -13,50 +14,50 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-struct Place {
-    explicit Place(const QString &given) : path(QFile::encodeName(given))
-    {
-        const qsizetype slash = path.lastIndexOf('/');
-        folder = slash < 0 ? QByteArray(".") : path.left(slash + 1);
-        name = path.mid(slash + 1);
+constexpr std::size_t chunk = 1U << 20U; // between two looks at the stop token
+
+// Two spellings of one name give the same; two hard links of one file do not.
+QString entryOf(const QString &path)
+{
+    const QFileInfo item(path);
+    return QDir(item.path()).canonicalPath() + u'/' + item.fileName();
+}
+
+int copyBytes(int from, int to, const std::stop_token &stop)
+{
+    std::vector<char> buffer(chunk);
+    while (!stop.stop_requested()) {
+        const ssize_t count = read(from, buffer.data(), buffer.size());
+        if (count <= 0)
+            return count == 0 ? 0 : errno;
+        for (ssize_t done = 0; done < count;) {
+            const ssize_t written =
+                write(to, buffer.data() + done, static_cast<std::size_t>(count - done));
+            if (written < 0)
+                return errno;
+            done += written;
+        }
     }
-
-    QByteArray path;
-    QByteArray folder;
-    QByteArray name;
-};
-
-bool isSame(const struct stat &one, const struct stat &other)
-{
-    return one.st_dev == other.st_dev && one.st_ino == other.st_ino;
+    return ECANCELED;
 }
 
-// Two spellings of one name; two hard links of one file are not.
-bool isSameEntry(const Place &one, const Place &other)
+int copyInto(const UnpublishedFile &target, const QString &source, const std::stop_token &stop)
 {
-    struct stat first = {};
-    struct stat second = {};
-    return one.name == other.name && stat(one.folder.constData(), &first) == 0
-        && stat(other.folder.constData(), &second) == 0 && isSame(first, second);
-}
-
-int copyInto(const UnpublishedFile &target, const QByteArray &source, const std::stop_token &stop)
-{
-    if (target.error() != 0)
-        return target.error();
-    const FileDescriptor from(open(source.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    const FileDescriptor from(
+        open(QFile::encodeName(source).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat origin = {};
     if (!from || fstat(from.get(), &origin) != 0)
         return errno;
     if (!S_ISREG(origin.st_mode)) // a pipe would never end
         return EINVAL;
-    if (const int error = copyBytes(from.get(), target.descriptor(), stop); error != 0)
+    if (const int error = copyBytes(from.get(), target.descriptor(), stop))
         return error;
     // What the target's file system cannot keep is no reason to lose the content.
     [[maybe_unused]] const int mode = fchmod(target.descriptor(), origin.st_mode & 07777U);
@@ -68,70 +69,42 @@ int copyInto(const UnpublishedFile &target, const QByteArray &source, const std:
     return copy.st_size == origin.st_size ? 0 : EIO;
 }
 
-int copyTo(const Place &from, const Place &to, const std::stop_token &stop)
+int copyTo(const QString &from, const QString &to, const std::stop_token &stop)
 {
-    struct stat standing = {};
-    if (lstat(to.path.constData(), &standing) == 0)
+    if (itemExists(to))
         return EEXIST; // before gigabytes are copied for nothing
-    UnpublishedFile target(to.folder);
-    if (const int error = copyInto(target, from.path, stop); error != 0)
+    const QFileInfo place(to);
+    UnpublishedFile target(QFile::encodeName(place.path()));
+    if (target.error() != 0)
+        return target.error();
+    if (const int error = copyInto(target, from, stop))
         return error;
-    return stop.stop_requested() ? ECANCELED : target.publish(to.name);
+    return stop.stop_requested() ? ECANCELED : target.publish(QFile::encodeName(place.fileName()));
 }
 
-FilePlacement place(const Place &from, const Place &to, const std::stop_token &stop)
+int place(const QString &from, const QString &to, const std::stop_token &stop)
 {
-    struct stat source = {};
-    if (isSameEntry(from, to))
-        return lstat(from.path.constData(), &source) == 0
-            ? FilePlacement(FilePlacement::End::AlreadyThere, 0)
-            : FilePlacement(FilePlacement::End::NotPlaced, errno);
-    int error = ECANCELED;
-    if (!stop.stop_requested()) {
-        if (renameat2(AT_FDCWD, from.path.constData(), AT_FDCWD, to.path.constData(),
-                      RENAME_NOREPLACE)
-            == 0)
-            return {FilePlacement::End::Renamed, 0};
-        error = errno == EEXIST ? EEXIST : copyTo(from, to, stop);
-    }
+    if (entryOf(from) == entryOf(to))
+        return itemExists(from) ? 0 : ENOENT;
+    if (stop.stop_requested())
+        return ECANCELED;
+    if (renameat2(AT_FDCWD, QFile::encodeName(from).constData(), AT_FDCWD,
+                  QFile::encodeName(to).constData(), RENAME_NOREPLACE)
+        == 0)
+        return 0;
+    const int error = errno == EEXIST ? EEXIST : copyTo(from, to, stop);
     if (error != ECANCELED) // who stops a run loses nothing
-        unlink(from.path.constData());
-    return error == 0 ? FilePlacement(FilePlacement::End::Copied, 0)
-                      : FilePlacement(FilePlacement::End::NotPlaced, error);
-}
-
-FilePlacement placeAndLog(const QString &from, const QString &to, const std::stop_token &stop)
-{
-    const FilePlacement placement = place(Place(from), Place(to), stop);
-    if (!placement.succeeded())
-        qWarning().noquote() << to.simplified() + u": "_s + placement.description();
-    return placement;
+        QFile::remove(from);
+    return error;
 }
 
 } // namespace
 
-bool FilePlacement::wasStopped() const
+int placeFile(const QString &from, const QString &to, const std::stop_token &stop)
 {
-    return m_end == End::NotPlaced && m_error == ECANCELED;
-}
-
-QString FilePlacement::description() const
-{
-    switch (m_end) {
-    case End::Renamed:
-        return u"renamed into place"_s;
-    case End::Copied:
-        return u"copied into place"_s;
-    case End::AlreadyThere:
-        return u"already in its place"_s;
-    case End::NotPlaced:
-        return u"not placed: "_s + qt_error_string(m_error).simplified();
-    }
-    Q_UNREACHABLE();
-}
-
-QFuture<FilePlacement> placeFile(const QString &from, const QString &to,
-                                 const std::stop_token &stop)
-{
-    return QtConcurrent::run(placeAndLog, from, to, stop);
+    const int error = place(from, to, stop);
+    if (error != 0)
+        qWarning().noquote() << to.simplified() + u": not placed: "_s
+                + qt_error_string(error).simplified();
+    return error;
 }

@@ -1,9 +1,9 @@
 #include "ZIPViewController.h"
 
 #include "Chooser.h"
-#include "FilePlacement.h"
 #include "FileNames.h"
-#include "FormCheck.h"
+#include "FilePlacement.h"
+#include "JobList.h"
 #include "MiscTool.h"
 #include "PageAction.h"
 #include "PageStatus.h"
@@ -11,17 +11,22 @@
 #include "ui_ZIPViewController.h"
 
 #include <QPointer>
+#include <QtConcurrentRun>
+
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
 namespace
 {
 
-JobOutcome outcomeOf(const FilePlacement &placement)
+QCoro::Task<JobOutcome> place(QString archive, QString output, std::stop_token stop)
 {
-    if (placement.succeeded())
-        return JobOutcome::Succeeded;
-    return placement.wasStopped() ? JobOutcome::Stopped : JobOutcome::Failed;
+    const QString written = ZipCommand::writtenArchive(archive);
+    const int error = co_await QtConcurrent::run(placeFile, written, output, stop);
+    if (error == 0)
+        co_return JobOutcome::Succeeded;
+    co_return error == ECANCELED ? JobOutcome::Stopped : JobOutcome::Failed;
 }
 
 } // namespace
@@ -34,7 +39,7 @@ ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     connect(ui->outputButton, &QPushButton::clicked, this, &ZIPViewController::outputAction);
     connect(ui->clearButton, &QPushButton::clicked, this, &ZIPViewController::clearAction);
     connect(ui->generateButton, &QPushButton::clicked, this,
-            [this] { startPageAction(this, generateAction()); });
+            [this] { watchPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
     ui->srcFolderField->takeDropsOf(*this);
     ui->outputField->setSource(*ui->srcFolderField);
@@ -89,11 +94,11 @@ QString ZIPViewController::getCompressRatio() const
 bool ZIPViewController::verify()
 {
     if (ui->srcFolderField->text().isEmpty())
-        return FormCheck::refuse("SrcFolderNull");
+        return PageStatus::refuse("SrcFolderNull");
     if (ui->outputField->text().isEmpty())
-        return FormCheck::refuse("ZipFileNameNull");
+        return PageStatus::refuse("ZipFileNameNull");
     if (itemExists(ui->outputField->text()))
-        return FormCheck::refuse("ZipFileExist");
+        return PageStatus::refuse("ZipFileExist");
     return true;
 }
 
@@ -104,43 +109,31 @@ QCoro::Task<> ZIPViewController::generateAction()
     setStatus(false);
     ui->showInFolderButton->withdraw();
     const QPointer<ZIPViewController> self(this);
-    const QString output = ui->outputField->text();
+    const QString source = ui->srcFolderField->text();
+    const QString output = ui->outputField->text(); // the field may say something else later
     const QString archive = ZipCommand::temporaryArchive(MiscTool::getAppDocumentFolder(), output);
-    const Command command =
-        ZipCommand::pack(ui->srcFolderField->text(), archive, getCompressRatio());
+    const Command command = ZipCommand::pack(source, archive, getCompressRatio());
+    Job job = m_jobs.begin({.page = objectName(), .title = qtTrId("Zip"), .subject = source});
 
-    JobDescription whole = job(); // the form may say something else by the time it is placed
-    whole.begun.start();
-    JobDescription packing = whole;
-    packing.successIsNews = false;
-    const CommandResult result = co_await m_runner.run(command, packing);
-    if (!self || !result.couldStart())
+    const CommandResult packed = co_await m_runner.run(command, job);
+    if (!self || !packed.couldStart())
         co_return;
-    bool succeeded = result.succeeded();
-    bool isPlaced = false;
-    if (succeeded) {
-        std::stop_source stop; // for the user alone: a page that goes leaves the archive its way
-        Job placing = m_jobs.begin(whole, [stop]() mutable { stop.request_stop(); });
-        const FilePlacement placement =
-            co_await placeFile(ZipCommand::writtenArchive(archive), output, stop.get_token());
-        placing.end(outcomeOf(placement));
-        if (!self)
-            co_return;
-        isPlaced = placement.succeeded();
-        succeeded = !placement.wasStopped(); // no other failure of the placement is judged
-    }
+    JobOutcome outcome = packed.outcome();
+    if (packed.succeeded()) // a page that closes from here on does not stop it
+        outcome = co_await place(archive, output, job.stopToken());
+    job.end(outcome);
+    if (!self)
+        co_return;
+
     ui->elapsedLabel->hold();
-    MiscTool::showAlert(qtTrId(succeeded ? "ZipSuc" : "ZipFail"), QString());
+    // A placement that fails, unless it was stopped, is only logged.
+    const bool isPacked = packed.succeeded() && outcome != JobOutcome::Stopped;
+    MiscTool::showAlert(qtTrId(isPacked ? "ZipSuc" : "ZipFail"), QString());
     if (!self)
         co_return;
     setStatus(true);
-    if (isPlaced)
+    if (outcome == JobOutcome::Succeeded)
         ui->showInFolderButton->offer(output); // where the progress was
-}
-
-JobDescription ZIPViewController::job() const
-{
-    return {.page = objectName(), .title = qtTrId("Zip"), .subject = ui->srcFolderField->text()};
 }
 
 void ZIPViewController::setStatus(bool idle)

@@ -6,6 +6,8 @@
 
 #include <memory>
 
+class JobList;
+
 namespace Ui
 {
 class ZIPViewController;
@@ -17,12 +19,16 @@ class ZIPViewController : public QWidget
     Q_OBJECT
 
 public:
+    /// The list outlives the page: it keeps what is left of a run when the page goes.
     explicit ZIPViewController(JobList &jobs, QWidget *parent = nullptr);
     ~ZIPViewController() override;
 
     void srcSelectAction();
-    void outputAction();
-    void clearAction();
+    void outputAction(); ///< Chooses the file to write.
+    void clearAction(); ///< Back to empty fields and the level "Faster".
+    /// Packs as the form says, in the application's own folder, and then moves the archive to its
+    /// place. Ends after the message. If zip cannot be started there is no message, and the page
+    /// stays busy. A file at the output path is never replaced.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false).
@@ -34,8 +40,6 @@ public:
 
 private:
     void awakeFromNib();
-
-    JobDescription job() const;
 
     std::unique_ptr<Ui::ZIPViewController> ui;
     JobList &m_jobs;

@@ -2,7 +2,7 @@
 
 #include "Command.h"
 
-/// What the Zip page asks of the system's zip program. Everything here is free of side effects.
+/// How the Zip page uses the system's zip program. Everything here is free of side effects.
 namespace ZipCommand
 {
 

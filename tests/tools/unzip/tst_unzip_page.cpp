@@ -2,6 +2,7 @@
 // anything outside that folder.
 
 #include "Files.h"
+#include "JobList.h"
 #include "MessageBoxes.h"
 #include "PageControls.h"
 #include "SampleTree.h"

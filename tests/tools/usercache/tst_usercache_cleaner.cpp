@@ -4,15 +4,15 @@
 #include "CacheCleaner.h"
 #include "CacheRun.h"
 #include "JobList.h"
-#include "SecurityScopedAccess.h"
 #include "TestHome.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-class CleanerTest : public QObject
+class UserCacheCleanerTest : public QObject
 {
     Q_OBJECT
 
@@ -79,17 +79,19 @@ private Q_SLOTS:
         QVERIFY(TestHome::exists("Logs/a") && TestHome::exists(".Trash/b"));
     }
 
-    // Where the program ends without having asked, it still waits for the thread.
+    // Even if the program ends without a question, it waits for the thread.
     void listDestroyedWhileItRuns()
     {
         TestHome::grant();
         SampleTree::makeNested(TestHome::path() + "/Logs", 10, 50);
+        const auto threads = [] { return QDir(u"/proc/self/task"_s).count(); };
+        const auto before = threads();
         auto jobs = std::make_unique<JobList>();
         new CacheRun(cleanEverything, *jobs, {.page = {}, .title = u"Clean"_s},
                      std::make_shared<std::mutex>());
         jobs.reset();
         const SampleTree::Snapshot after = SampleTree::snapshot(TestHome::path());
-        QTest::qWait(20);
+        QTRY_COMPARE(threads(), before);
         QCOMPARE(SampleTree::difference(after, SampleTree::snapshot(TestHome::path())),
                  QList<QByteArray>());
         QVERIFY(TestHome::exists("Documents/c"));
@@ -121,5 +123,5 @@ private:
     QStringList m_updates;
 };
 
-QTEST_GUILESS_MAIN(CleanerTest)
+QTEST_GUILESS_MAIN(UserCacheCleanerTest)
 #include "tst_usercache_cleaner.moc"

@@ -174,7 +174,7 @@ private Q_SLOTS:
                 press(*m_page, "checkButton");
             isPressed = isPressed || isUsable;
         });
-        QTRY_VERIFY_WITH_TIMEOUT(isPressed && isIdle(), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(isPressed && isIdle(), timeout);
         QVERIFY(!TestHome::exists("Downloads") && TestHome::exists("Logs/c"));
     }
 
@@ -189,13 +189,13 @@ private Q_SLOTS:
         press(*m_page, "cleanButton");
         m_page.reset();
         QVERIFY(!m_jobs.isEmpty());
-        QTRY_VERIFY_WITH_TIMEOUT(m_jobs.isEmpty(), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(m_jobs.isEmpty(), timeout);
         QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
         QVERIFY(TestHome::exists("Documents/k"));
     }
 
 private:
-    static constexpr int patience = 30'000; ///< Milliseconds, on a machine that has much to do.
+    static constexpr int timeout = 30'000; ///< Milliseconds, on a machine that has much to do.
 
     void open()
     {
@@ -254,7 +254,7 @@ private:
         const JobDescription job = m_jobs.running().front().description;
         QCOMPARE(job.page, m_page->objectName());
         QCOMPARE(job.subject, MiscTool::getUserHome());
-        QTRY_VERIFY_WITH_TIMEOUT(isIdle(), patience);
+        QTRY_VERIFY_WITH_TIMEOUT(isIdle(), timeout);
         QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Succeeded);
     }
 

@@ -21,7 +21,7 @@ struct FormField {
     bool isLockedByARun = false;
 };
 
-/// A button that opens a chooser, what is typed there, and what stands in the form then.
+/// A button that opens a chooser, what is typed there, and what the form holds then.
 struct Choice {
     const char *button;
     QString typed;

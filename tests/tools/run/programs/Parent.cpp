@@ -9,10 +9,8 @@ int main(int argc, char *argv[])
 {
     QCoreApplication application(argc, argv);
     const QStringList arguments = application.arguments();
-    JobList jobs;
-    CommandRunner runner(jobs);
-    const Command command{arguments.value(1), arguments.mid(2)};
-    const JobDescription description{QStringLiteral("Parent"), QStringLiteral("parent")};
-    runner.run(command, description);
+    QObject keeper;
+    CommandRunner runner(keeper);
+    runner.run({arguments.value(1), arguments.mid(2)});
     return application.exec();
 }

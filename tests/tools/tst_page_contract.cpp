@@ -1,6 +1,7 @@
 // Every page that runs a program checks its form first, is busy while the program runs, tells the
 // end once, offers what was made, and takes its run along when it goes.
 
+#include "JobList.h"
 #include "MessageBoxes.h"
 #include "PageContracts.h"
 #include "PageControls.h"
@@ -9,6 +10,7 @@
 
 #include <QDir>
 #include <QPlainTextEdit>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 
 using namespace PageControls;
@@ -122,7 +124,6 @@ private Q_SLOTS:
             QTRY_COMPARE(m_boxes->texts, QStringList{m_contract.failure});
             QTRY_VERIFY(isIdle());
         } else {
-            QTest::qWait(50); // for a message that must not come
             QVERIFY(m_boxes->texts.isEmpty() && isBusy());
         }
         QVERIFY(!m_program->arguments());
@@ -133,8 +134,11 @@ private Q_SLOTS:
         m_program->hold();
         start();
         QTRY_VERIFY(m_program->arguments());
+        QSignalSpy ended(&m_jobs, &JobList::jobEnded);
         m_page.reset();
+        QVERIFY(!m_jobs.isEmpty()); // the program still runs
         QTRY_VERIFY(m_jobs.isEmpty());
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
         QVERIFY(m_boxes->texts.isEmpty());
     }
 

@@ -3,7 +3,7 @@
 
 #include "CommandRunner.h"
 #include "Files.h"
-#include "ProgramPath.h"
+#include "JobList.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -48,14 +48,14 @@ private Q_SLOTS:
     {
         m_runner.reset();
         QTRY_VERIFY(m_jobs.isEmpty());
-        QCoreApplication::processEvents(); // what is still to be told about it
     }
 
     void endsByItself()
     {
         QVERIFY(runToEnd(behaviour({u"exit"_s, u"0"_s})).succeeded());
-        QCOMPARE(runToEnd(behaviour({u"exit"_s, u"12"_s})).exitStatus(), 12);
-        QCOMPARE(runToEnd(behaviour({u"crash"_s})).end(), End::Killed);
+        QCOMPARE(runToEnd(behaviour({u"exit"_s, u"12"_s})).description(),
+                 u"exited with status 12"_s);
+        QCOMPARE(runToEnd(behaviour({u"crash"_s})).end, End::Killed);
     }
 
     void couldNotStart()
@@ -66,7 +66,7 @@ private Q_SLOTS:
              {Command{u"/nonexistent/zip"_s, {}}, Command{QString(), {}},
               Command{u"/etc/passwd"_s, {}}, Command{program, {QString(200 * 1024, u'a')}},
               Command{program, {u"exit"_s, nullInside}}}) {
-            const QFuture<CommandResult> future = m_runner->run(command, description);
+            const QFuture<CommandResult> future = m_runner->run(command, m_jobs.begin(description));
             QVERIFY(!future.isFinished());
             QTRY_VERIFY(future.isFinished());
             QVERIFY2(!future.result().couldStart(), qPrintable(command.launchPath));
@@ -81,7 +81,7 @@ private Q_SLOTS:
         Command command = behaviour({u"report"_s, path(u"pid"_s)});
         for (const QString &folder : {path(u"not\na folder"_s), QString()}) {
             command.workingDirectory = folder;
-            QCOMPARE(runToEnd(command).exitStatus(), 66);
+            QCOMPARE(runToEnd(command).description(), u"exited with status 66"_s);
         }
         QVERIFY(!told());
     }
@@ -128,7 +128,7 @@ private Q_SLOTS:
     {
         const auto early = start(u"sleep"_s);
         m_jobs.stopAll(); // before it runs
-        QTRY_VERIFY(early.isFinished() && early.result().end() == End::Cancelled);
+        QTRY_VERIFY(early.isFinished() && early.result().end == End::Cancelled);
         for (const auto &[child, needsKill] :
              {std::pair(u"sleep"_s, false), std::pair(u"ignore-term"_s, true),
               std::pair(u"grandchild"_s, true)}) { // which outlives the leader of the group
@@ -142,7 +142,7 @@ private Q_SLOTS:
             m_jobs.stopAll(); // a second request changes nothing
             QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 10000);
             QCOMPARE(time.elapsed() >= 3000, needsKill);
-            QCOMPARE(future.result().end(), End::Cancelled);
+            QCOMPARE(future.result().end, End::Cancelled);
             QTRY_VERIFY(!processRuns(pid()));
             QTRY_COMPARE(ended.size(), 1);
             QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
@@ -166,7 +166,7 @@ private Q_SLOTS:
         const auto future = start(u"ignore-term"_s);
         QTRY_VERIFY(told());
         jobs.reset();
-        QVERIFY(future.isFinished() && future.result().end() == End::OwnerGone);
+        QVERIFY(future.isFinished() && future.result().end == End::OwnerGone);
         QTRY_VERIFY(!processRuns(pid()));
     }
 
@@ -186,18 +186,19 @@ private Q_SLOTS:
 private:
     static Command behaviour(const QStringList &arguments)
     {
-        return {QStringLiteral(TOOLVANE_SOURCE_DIR "/tests/tools/common/programs/behaviour.sh"),
+        return {QStringLiteral(TOOLVANE_SOURCE_DIR "/tests/tools/run/programs/behaviour.sh"),
                 arguments};
     }
     CommandResult runToEnd(const Command &command)
     {
-        const QFuture<CommandResult> future = m_runner->run(command, description);
+        const QFuture<CommandResult> future = m_runner->run(command, m_jobs.begin(description));
         [&] { QTRY_VERIFY_WITH_TIMEOUT(future.isFinished(), 20000); }();
-        return future.isFinished() ? future.result() : CommandResult::couldNotStart(u"never"_s);
+        return future.isFinished() ? future.result()
+                                   : CommandResult{End::CouldNotStart, 0, u"never"_s};
     }
     QFuture<CommandResult> start(const QString &name)
     {
-        return m_runner->run(behaviour({name, path(u"pid"_s)}), description);
+        return m_runner->run(behaviour({name, path(u"pid"_s)}), m_jobs.begin(description));
     }
 
     QString path(const QString &name) const { return m_folder->filePath(name); }

@@ -1,8 +1,7 @@
-// The video page passes the chosen format's preset on, and a list of formats that is broken makes a
-// conversion fail, not the page. The speech page reads a text, or a sample of its own, with the
-// chosen voice and rate, and says nothing about how that ended.
+// The speech page reads a text, or a sample of its own, with the chosen voice and rate, and says
+// nothing about how that ended.
 
-#include "AVConvertViewController.h"
+#include "JobList.h"
 #include "MessageBoxes.h"
 #include "PageControls.h"
 #include "RecordedProgram.h"
@@ -11,12 +10,11 @@
 #include <QComboBox>
 #include <QPlainTextEdit>
 #include <QSlider>
-#include <QTemporaryDir>
 
 using namespace PageControls;
 using namespace Qt::StringLiterals;
 
-class MediaPagesTest : public QObject
+class SynthesisPageTest : public QObject
 {
     Q_OBJECT
 
@@ -27,32 +25,6 @@ private Q_SLOTS:
         m_page = std::make_unique<SynthesisViewController>(m_jobs);
         m_page->show();
         QVERIFY(QTest::qWaitForWindowActive(m_page.get()));
-    }
-
-    void passesThePresetOn()
-    {
-        const QByteArray list = "<plist><dict><key>b</key><string>PresetB</string><key>number</key>"
-                                "<integer>1</integer><key>a</key><string>PresetA</string></dict>"
-                                "</plist>";
-        for (const auto &[content, format, arguments] :
-             {std::tuple(list, u"b"_s, u"--preset|PresetB|--source|/a|--output|/b|-q"_s),
-              std::tuple(list, u"number"_s, u"--preset"_s),
-              std::tuple(QByteArray("<plist><array/></plist>"), QString(), u"--preset"_s)}) {
-            const QTemporaryDir folder;
-            const QString path = folder.filePath(u"list"_s);
-            Files::write(path, content);
-            RecordedProgram program("avconvert");
-            program.endWith(64);
-            AVConvertViewController page(m_jobs, nullptr, path);
-            page.show();
-            control<QComboBox>(page, "outputFormatPopUp").setCurrentText(format);
-            fill(page, "sourceField", u"/a"_s);
-            fill(page, "outputField", u"/b"_s);
-            press(page, "convertButton");
-            QTRY_COMPARE(m_boxes->texts, QStringList{u"Convert is failed."_s});
-            m_boxes->texts.clear();
-            QCOMPARE(program.arguments()->join(u'|'), arguments);
-        }
     }
 
     void nothingToRead()
@@ -102,5 +74,5 @@ private:
     std::unique_ptr<SynthesisViewController> m_page;
 };
 
-QTEST_MAIN(MediaPagesTest)
-#include "tst_media_pages.moc"
+QTEST_MAIN(SynthesisPageTest)
+#include "tst_synthesis_page.moc"

@@ -1,4 +1,4 @@
-#include "ChildSetup.h"
+#include "ChildProcess.h"
 
 #include <sys/prctl.h>
 #include <sysexits.h>
@@ -65,4 +65,15 @@ std::function<void()> childSetup(const std::optional<QByteArray> &workingDirecto
         if (workingDirectory && chdir(workingDirectory->constData()) != 0)
             refuse(complaint);
     };
+}
+
+void ProcessGroup::signal(int number) const
+{
+    if (m_leader > 1) // 0 and 1 would mean our own group, and everybody
+        kill(-m_leader, number);
+}
+
+bool ProcessGroup::hasMembers() const
+{
+    return m_leader > 1 && (kill(-m_leader, 0) == 0 || errno == EPERM);
 }

@@ -6,7 +6,6 @@
 #include "Files.h"
 #include "PageControls.h"
 #include "PathField.h"
-#include "RecentFolder.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -21,7 +20,7 @@
 using namespace Qt::StringLiterals;
 using PageControls::answerChooser;
 
-class PageWidgets : public QObject
+class PageWidgetsTest : public QObject
 {
     Q_OBJECT
 
@@ -37,7 +36,7 @@ private Q_SLOTS:
         m_window = std::make_unique<QWidget>();
         m_page = new QWidget(m_window.get());
         for (const QString &chooser : {u"fileChooser"_s, u"saveChooser"_s})
-            RecentFolder::remember(*m_page, chooser, m_folder->path());
+            QSettings().setValue(u"RecentFolders//"_s + chooser, m_folder->path());
         m_window->show();
         m_chosen.clear();
     }
@@ -200,7 +199,7 @@ private Q_SLOTS:
         QVERIFY(field.toolTip().contains(u"&lt;b&gt;bold"_s));
     }
 
-    // Also while its page is hidden, and until the page tells the end.
+    // Also while its page is hidden, and until the page holds it.
     void theTimeGoesOn()
     {
         QWidget page;
@@ -208,12 +207,15 @@ private Q_SLOTS:
         page.show();
         elapsed.setRunning(true);
         page.hide(); // another page is chosen
-        QTest::qWait(1100);
+        ElapsedLabel other; // whose run is younger
+        other.setRunning(true);
+        QTRY_VERIFY(other.text() != u"0:00"_s);
         page.show();
         QVERIFY(elapsed.isVisible() && elapsed.text() != u"0:00"_s);
         elapsed.hold();
         const QString held = elapsed.text();
-        QTest::qWait(1100);
+        other.setRunning(true); // from 0:00 to a time that was not held
+        QTRY_VERIFY(other.text() > held);
         QVERIFY(elapsed.isVisible() && elapsed.text() == held);
         elapsed.setRunning(false);
         QVERIFY(!elapsed.isVisible());
@@ -253,5 +255,5 @@ private:
     QStringList m_chosen;
 };
 
-QTEST_MAIN(PageWidgets)
+QTEST_MAIN(PageWidgetsTest)
 #include "tst_page_widgets.moc"

@@ -1,0 +1,46 @@
+#include "Command.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+JobOutcome CommandResult::outcome() const
+{
+    if (succeeded())
+        return JobOutcome::Succeeded;
+    const bool isStopped = end == End::Cancelled || end == End::OwnerGone;
+    return isStopped ? JobOutcome::Stopped : JobOutcome::Failed;
+}
+
+QString CommandResult::description() const
+{
+    switch (end) {
+    case End::CouldNotStart:
+        return u"could not start: %1"_s.arg(reason.simplified());
+    case End::Exited:
+        return u"exited with status %1"_s.arg(number);
+    case End::Killed:
+        return u"killed by signal %1"_s.arg(number);
+    case End::Cancelled:
+        return u"stopped on request"_s;
+    case End::OwnerGone:
+        return u"stopped because its owner is gone"_s;
+    }
+    Q_UNREACHABLE();
+}
+
+QString ownProgramsFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + "/../libexec/toolvane"_L1);
+}
+
+QString programPath(const QString &launchPath, const QString &folder)
+{
+    const QString name = launchPath.section(u'/', -1);
+    if (name.isEmpty())
+        return launchPath;
+    const QFileInfo own(folder + u'/' + name);
+    return own.isFile() && own.isExecutable() ? own.filePath() : launchPath;
+}
