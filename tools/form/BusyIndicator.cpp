@@ -1,7 +1,5 @@
 #include "BusyIndicator.h"
 
-#include <QEvent>
-
 BusyIndicator::BusyIndicator(QWidget *parent) : QProgressBar(parent)
 {
     setRange(0, 1); // a bar with an empty range is what the style animates
@@ -31,13 +29,4 @@ void BusyIndicator::stopAnimation()
     setRange(0, 1);
     reset();
     Q_EMIT animatingChanged(false);
-}
-
-// Fusion goes on animating a visible bar whose range is no longer empty, sixty repaints a second.
-// An update that is not accepted ends its animation.
-bool BusyIndicator::event(QEvent *event)
-{
-    if (event->type() == QEvent::StyleAnimationUpdate && !isAnimating())
-        return true;
-    return QProgressBar::event(event);
 }

@@ -20,7 +20,4 @@ public:
 
 Q_SIGNALS:
     void animatingChanged(bool animating); ///< Only on a change.
-
-protected:
-    bool event(QEvent *event) override;
 };
