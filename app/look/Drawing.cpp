@@ -60,15 +60,6 @@ void pill(QPainter &painter, const QRectF &rect, const QColor &color)
     panel(painter, rect, std::min(rect.width(), rect.height()) / 2, color);
 }
 
-void stroke(QPainter &painter, const QColor &color, std::initializer_list<QPointF> points)
-{
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(color, 1.8, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.drawPolyline(std::data(points), int(points.size()));
-    painter.restore();
-}
-
 // Where the piece of a busy bar begins and ends: it enters on one side and leaves on the other,
 // slower at both ends.
 std::pair<qreal, qreal> busyPiece(qreal phase)
@@ -124,22 +115,24 @@ void drawing::button(QPainter &painter, const QStyleOption &option)
 
 void drawing::checkMark(QPainter &painter, const QStyleOption &option)
 {
-    const QPalette &palette = option.palette;
-    const bool isChosen = option.state & (QStyle::State_On | QStyle::State_NoChange);
-    QColor edge = palette.color(isEnabled(option) ? QPalette::Dark : QPalette::Mid);
-    if (isEnabled(option) && (option.state & QStyle::State_MouseOver))
-        edge = palette.color(QPalette::Highlight);
+    const bool isChosen = option.state & QStyle::State_On;
+    const bool isHovered = isEnabled(option) && (option.state & QStyle::State_MouseOver);
+    const QColor accent = option.palette.color(QPalette::Highlight);
+    const auto idle = isEnabled(option) ? QPalette::Dark : QPalette::Mid;
     panel(painter, option.rect, checkRadius,
-          palette.color(isChosen ? QPalette::Highlight : QPalette::Base),
-          isChosen ? QColor() : edge, 1.2);
+          isChosen ? accent : option.palette.color(QPalette::Base),
+          isChosen || isHovered ? accent : option.palette.color(idle), 1.2);
+    if (!isChosen)
+        return;
     const QPointF middle = QRectF(option.rect).center();
-    const QColor ink = palette.color(QPalette::HighlightedText);
-    if (option.state & QStyle::State_On)
-        stroke(
-            painter, ink,
-            {middle + QPointF(-4.4, 0.4), middle + QPointF(-1.3, 3.4), middle + QPointF(4.4, -3)});
-    else if (option.state & QStyle::State_NoChange)
-        stroke(painter, ink, {middle - QPointF(4, 0), middle + QPointF(4, 0)});
+    const QPointF tick[] = {middle + QPointF(-4.4, 0.4), middle + QPointF(-1.3, 3.4),
+                            middle + QPointF(4.4, -3)};
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(QPalette::HighlightedText), 1.8, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(tick, 3);
+    painter.restore();
 }
 
 void drawing::ruledArea(QPainter &painter, const QStyleOption &option, QPalette::ColorRole ground)
@@ -190,13 +183,12 @@ void drawing::slider(QPainter &painter, const QStyleOptionSlider &option, const 
     option.upsideDown ? groove.setLeft(knob.center().x()) : groove.setRight(knob.center().x());
     pill(painter, groove, palette.color(QPalette::Highlight));
 
-    const bool hasFocus = option.state & QStyle::State_HasFocus;
-    const bool isHeld = option.activeSubControls & QStyle::SC_SliderHandle;
-    const bool isActive = isEnabled(option) && (hasFocus || isHeld);
+    const bool isActive =
+        option.state & QStyle::State_HasFocus || option.activeSubControls & QStyle::SC_SliderHandle;
     panel(painter, knob, knobSize / 2.0,
           palette.color(isEnabled(option) ? QPalette::Light : QPalette::Midlight),
           palette.color(isActive ? QPalette::Highlight : QPalette::Dark),
-          hasFocus ? ringWidth : 1.2);
+          isActive ? ringWidth : 1.2);
 }
 
 void drawing::scrollBar(QPainter &painter, const QStyleOptionSlider &option, const QRect &handle)

@@ -83,11 +83,25 @@ int layoutMargin(const QWidget *widget)
     return box->isFlat() ? 0 : innerGap;
 }
 
+QFont demiBold(QFont font)
+{
+    font.setWeight(QFont::DemiBold);
+    return font;
+}
+
 // Fusion renders an icon in the text colour of plain controls; on the accent it needs another.
 QIcon highlighted(const QIcon &icon, const QSize &size, const QPainter &painter)
 {
     return icon.isNull() ? icon
                          : icon.pixmap(size, painter.device()->devicePixelRatio(), QIcon::Selected);
+}
+
+QStyleOptionButton accented(QStyleOptionButton button, const QPainter &painter)
+{
+    button.palette.setBrush(QPalette::Button, button.palette.highlight());
+    button.palette.setBrush(QPalette::ButtonText, button.palette.highlightedText());
+    button.icon = highlighted(button.icon, button.iconSize, painter);
+    return button;
 }
 
 // How far a busy bar has come. Each paint of one leads to the next, so that a bar that is hidden or
@@ -151,13 +165,10 @@ void ToolvaneStyle::drawControl(ControlElement element, const QStyleOption *opti
     switch (element) {
     case CE_PushButton:
         if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option); button
-            && button->features & QStyleOptionButton::DefaultButton
-            && button->state & State_Enabled) {
-            QStyleOptionButton accented = *button;
-            accented.palette.setBrush(QPalette::Button, option->palette.highlight());
-            accented.palette.setBrush(QPalette::ButtonText, option->palette.highlightedText());
-            accented.icon = highlighted(button->icon, button->iconSize, *painter);
-            return QProxyStyle::drawControl(element, &accented, painter, widget);
+            && button->state & State_Enabled
+            && button->features & QStyleOptionButton::DefaultButton) {
+            const QStyleOptionButton chosen = accented(*button, *painter);
+            return QProxyStyle::drawControl(element, &chosen, painter, widget);
         }
         break;
     case CE_PushButtonBevel: // Qt shows neither pointer nor focus on a flat button
@@ -207,14 +218,11 @@ void ToolvaneStyle::drawComplexControl(ComplexControl control, const QStyleOptio
     if (control == CC_ScrollBar && slider)
         return drawing::scrollBar(*painter, *slider,
                                   subControlRect(control, option, SC_ScrollBarSlider, widget));
-    painter->save();
-    if (control == CC_GroupBox) {
-        QFont title = painter->font();
-        title.setWeight(QFont::DemiBold);
-        painter->setFont(title);
-    }
+    const QFont font = painter->font();
+    if (control == CC_GroupBox)
+        painter->setFont(demiBold(font));
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    painter->restore();
+    painter->setFont(font);
 }
 
 QRect ToolvaneStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
@@ -319,9 +327,6 @@ void ToolvaneStyle::polish(QWidget *widget)
     if (widget->objectName() != u"qt_msgbox_informativelabel")
         return;
     widget->setMinimumWidth(widget->fontMetrics().averageCharWidth() * messageColumns);
-    if (auto *headline = widget->parentWidget()->findChild<QLabel *>(u"qt_msgbox_label"_s)) {
-        QFont font = headline->font();
-        font.setWeight(QFont::DemiBold);
-        headline->setFont(font);
-    }
+    if (auto *headline = widget->parentWidget()->findChild<QLabel *>(u"qt_msgbox_label"_s))
+        headline->setFont(demiBold(headline->font()));
 }
