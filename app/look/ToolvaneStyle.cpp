@@ -23,6 +23,7 @@ constexpr int boxGap = 16;
 constexpr int innerGap = 12;
 constexpr int titleGap = 6; // between a card and its title
 constexpr int fieldPadding = 10;
+constexpr int iconSpacing = 4; // Fusion's
 constexpr int frameWidth = 3; // keeps contents clear of the rounded corners
 constexpr int minControlHeight = 32;
 constexpr int messageColumns = 48;
@@ -104,6 +105,16 @@ QStyleOptionButton accented(QStyleOptionButton button, const QPainter &painter)
     return button;
 }
 
+// From right to left, Fusion puts the text beside an icon at the left end of the label.
+QStyleOptionButton withoutSlack(QStyleOptionButton label)
+{
+    const QPoint center = label.rect.center();
+    const int text = label.fontMetrics.size(Qt::TextShowMnemonic, label.text).width();
+    label.rect.setWidth(label.iconSize.width() + (text > 0 ? text + iconSpacing : 0));
+    label.rect.moveCenter(center);
+    return label;
+}
+
 // How far a busy bar has come. Each paint of one leads to the next, so that a bar that is hidden or
 // finished costs nothing.
 qreal busyPhase(const QWidget *widget)
@@ -173,6 +184,13 @@ void ToolvaneStyle::drawControl(ControlElement element, const QStyleOption *opti
         break;
     case CE_PushButtonBevel: // Qt shows neither pointer nor focus on a flat button
         return drawing::button(*painter, *option);
+    case CE_PushButtonLabel:
+        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+            button && button->direction == Qt::RightToLeft && !button->icon.isNull()) {
+            const QStyleOptionButton label = withoutSlack(*button);
+            return QProxyStyle::drawControl(element, &label, painter, widget);
+        }
+        break;
     case CE_MenuItem:
         if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
             item && item->state & State_Selected) {
