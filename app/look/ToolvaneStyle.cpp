@@ -12,6 +12,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -115,6 +116,20 @@ QStyleOptionButton withoutSlack(QStyleOptionButton label)
     return label;
 }
 
+// What Fusion draws in the place of a push button or its label; nothing if it draws that as it is.
+std::optional<QStyleOptionButton> adaptedButton(QStyle::ControlElement element,
+                                                const QStyleOption *option, const QPainter &painter)
+{
+    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if (button && element == QStyle::CE_PushButton && button->state & QStyle::State_Enabled
+        && button->features & QStyleOptionButton::DefaultButton)
+        return accented(*button, painter);
+    if (button && element == QStyle::CE_PushButtonLabel && !button->icon.isNull()
+        && button->direction == Qt::RightToLeft)
+        return withoutSlack(*button);
+    return {};
+}
+
 // How far a busy bar has come. Each paint of one leads to the next, so that a bar that is hidden or
 // finished costs nothing.
 qreal busyPhase(const QWidget *widget)
@@ -173,24 +188,11 @@ void ToolvaneStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *
 void ToolvaneStyle::drawControl(ControlElement element, const QStyleOption *option,
                                 QPainter *painter, const QWidget *widget) const
 {
+    if (const auto button = adaptedButton(element, option, *painter))
+        return QProxyStyle::drawControl(element, &*button, painter, widget);
     switch (element) {
-    case CE_PushButton:
-        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option); button
-            && button->state & State_Enabled
-            && button->features & QStyleOptionButton::DefaultButton) {
-            const QStyleOptionButton chosen = accented(*button, *painter);
-            return QProxyStyle::drawControl(element, &chosen, painter, widget);
-        }
-        break;
     case CE_PushButtonBevel: // Qt shows neither pointer nor focus on a flat button
         return drawing::button(*painter, *option);
-    case CE_PushButtonLabel:
-        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
-            button && button->direction == Qt::RightToLeft && !button->icon.isNull()) {
-            const QStyleOptionButton label = withoutSlack(*button);
-            return QProxyStyle::drawControl(element, &label, painter, widget);
-        }
-        break;
     case CE_MenuItem:
         if (const auto *item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
             item && item->state & State_Selected) {
