@@ -2,6 +2,7 @@
 
 #include "FadingGradient.h"
 #include "HoverTableRowView.h"
+#include "Theme.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
@@ -43,6 +44,8 @@ HoverTableView::HoverTableView(QWidget *parent) : QListView(parent)
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
     viewport()->setBackgroundRole(QPalette::Window);
+    setAutoFillBackground(true); // below the scroll bar, too
+    setPalette(Theme::sidebarPalette(Theme::current()));
 }
 
 int HoverTableView::rowCount() const
@@ -82,6 +85,13 @@ void HoverTableView::insertRowViews()
                        new HoverTableRowView(index.data(ImageNameRole).toString(),
                                              index.data(Qt::DisplayRole).toString()));
     }
+}
+
+void HoverTableView::changeEvent(QEvent *event)
+{
+    QListView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) // its own ends here: an equal palette is no change
+        setPalette(Theme::sidebarPalette(Theme::current()));
 }
 
 void HoverTableView::paintEvent(QPaintEvent *event)

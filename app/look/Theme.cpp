@@ -14,14 +14,9 @@ namespace
 
 using Role = QPalette::ColorRole;
 
-struct RoleColor {
-    Role role;
-    QRgb color;
-};
-
 constexpr qreal titleScale = 1.5;
 
-constexpr RoleColor lightColors[] = {
+constexpr std::pair<Role, QRgb> lightColors[] = {
     {QPalette::Window, 0xf3f5f6},      {QPalette::WindowText, 0x1d2327},
     {QPalette::Base, 0xffffff},        {QPalette::AlternateBase, 0xf3f5f6},
     {QPalette::Text, 0x1d2327},        {QPalette::PlaceholderText, 0x667079},
@@ -34,7 +29,7 @@ constexpr RoleColor lightColors[] = {
     {QPalette::ToolTipBase, 0x2b3136}, {QPalette::ToolTipText, 0xf3f5f6},
 };
 
-constexpr RoleColor darkColors[] = {
+constexpr std::pair<Role, QRgb> darkColors[] = {
     {QPalette::Window, 0x1f2326},      {QPalette::WindowText, 0xe7eaec},
     {QPalette::Base, 0x1a1d20},        {QPalette::AlternateBase, 0x22272a},
     {QPalette::Text, 0xe7eaec},        {QPalette::PlaceholderText, 0x949da5},
@@ -52,56 +47,42 @@ constexpr QRgb sidebarDark = 0x7f868e;
 constexpr QRgb sidebarText = 0x0b0f12;
 constexpr QRgb sidebarMark = 0x053c47; // the accent, deep enough for the dark scheme's grey
 
-// The names of the widget classes that differ from the rest.
-constexpr char titleClass[] = "PageTitle";
-constexpr char sectionClass[] = "SectionTitle";
-constexpr char hintClass[] = "HintLabel";
-constexpr char sidebarClass[] = "HoverTableView";
-constexpr char menuClass[] = "QMenu"; // pop-up buttons' lists take theirs from here, too
-
 QColor mixed(const QColor &first, const QColor &second)
 {
     return QColor((first.red() + second.red()) / 2, (first.green() + second.green()) / 2,
                   (first.blue() + second.blue()) / 2);
 }
 
-// Disabled texts stand halfway between themselves and what they stand on.
+// A disabled text's colour is halfway between the usual one and its ground's.
 void dimDisabled(QPalette &palette)
 {
     const std::pair<Role, Role> textOnGround[] = {
         {QPalette::WindowText, QPalette::Window}, {QPalette::Text, QPalette::Base},
         {QPalette::ButtonText, QPalette::Button}, {QPalette::PlaceholderText, QPalette::Base},
         {QPalette::Link, QPalette::Window},       {QPalette::BrightText, QPalette::Window}};
-    for (const auto &[text, ground] : textOnGround) {
-        palette.setColor(
-            QPalette::Disabled, text,
-            mixed(palette.color(QPalette::Active, text), palette.color(QPalette::Active, ground)));
-    }
+    for (const auto &[text, ground] : textOnGround)
+        palette.setColor(QPalette::Disabled, text,
+                         mixed(palette.color(text), palette.color(ground)));
+    palette.setColor(QPalette::Disabled, QPalette::Base, palette.color(QPalette::Window));
     palette.setColor(QPalette::Disabled, QPalette::Highlight, palette.color(QPalette::Mid));
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText,
                      palette.color(QPalette::Disabled, QPalette::Text));
 }
 
-QPalette hintPalette(const QPalette &palette)
+// The palette with the colours of one role for other roles as well.
+QPalette withRole(QPalette palette, std::initializer_list<Role> roles, Role source)
 {
-    QPalette hint = palette;
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        hint.setColor(group, QPalette::WindowText, palette.color(group, QPalette::PlaceholderText));
-    return hint;
+        for (const Role role : roles)
+            palette.setColor(group, role, palette.color(group, source));
+    return palette;
 }
 
-// Qt paints the rows of a pop-up button's list as windows, on a list painted as a base.
-QPalette menuPalette(const QPalette &palette)
+// A heading's font is derived from the desktop's, which is in points or in pixels.
+QFont headingFont(qreal scale)
 {
-    QPalette menu = palette;
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        menu.setColor(group, QPalette::Window, palette.color(group, QPalette::Base));
-    return menu;
-}
-
-// A desktop gives its font in points or in pixels.
-QFont scaled(QFont font, qreal scale)
-{
+    QFont font = QApplication::font();
+    font.setWeight(QFont::DemiBold);
     if (font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * scale);
     else
@@ -109,15 +90,10 @@ QFont scaled(QFont font, qreal scale)
     return font;
 }
 
-// Class fonts are derived from the desktop's font, so they grow with it.
-void applyFonts()
+void applyHeadingFonts()
 {
-    QFont title = scaled(QApplication::font(), titleScale);
-    title.setWeight(QFont::DemiBold);
-    QApplication::setFont(title, titleClass);
-    QFont section = QApplication::font();
-    section.setWeight(QFont::DemiBold);
-    QApplication::setFont(section, sectionClass);
+    QApplication::setFont(headingFont(titleScale), "PageTitle");
+    QApplication::setFont(headingFont(1), "SectionTitle");
 }
 
 } // namespace
@@ -126,14 +102,14 @@ void Theme::install()
 {
     const Scheme desktop = schemeOf(QApplication::palette());
     QApplication::setStyle(new ToolvaneStyle);
-    applyFonts();
+    applyHeadingFonts();
     apply(desktop);
 }
 
 void Theme::setFont(const QFont &font)
 {
     QApplication::setFont(font);
-    applyFonts(); // a new font for all forgets those of classes
+    applyHeadingFonts(); // a new font for all forgets those of classes
 }
 
 void Theme::apply(Scheme scheme)
@@ -142,9 +118,11 @@ void Theme::apply(Scheme scheme)
     if (QApplication::palette() == chosen)
         return;
     QApplication::setPalette(chosen);
-    QApplication::setPalette(sidebarPalette(scheme), sidebarClass);
-    QApplication::setPalette(hintPalette(chosen), hintClass);
-    QApplication::setPalette(menuPalette(chosen), menuClass);
+    QApplication::setPalette(withRole(chosen, {QPalette::WindowText}, QPalette::PlaceholderText),
+                             "HintLabel");
+    // A menu lies above the window like a card. Lists of combo boxes take theirs from here, too.
+    QApplication::setPalette(withRole(chosen, {QPalette::Window, QPalette::Base}, QPalette::Light),
+                             "QMenu");
     QToolTip::setPalette(chosen); // tool tips keep the palette of their first showing otherwise
 }
 
@@ -164,22 +142,22 @@ Theme::Scheme Theme::schemeOf(const QPalette &palette)
 QPalette Theme::palette(Scheme scheme)
 {
     QPalette palette;
-    for (const RoleColor &entry : scheme == Scheme::Dark ? darkColors : lightColors)
-        palette.setColor(entry.role, QColor(entry.color));
+    for (const auto &[role, color] : scheme == Scheme::Dark ? darkColors : lightColors)
+        palette.setColor(role, QColor(color));
     dimDisabled(palette);
     return palette;
 }
 
 QPalette Theme::sidebarPalette(Scheme scheme)
 {
-    QPalette sidebar = palette(scheme);
-    const QColor ground(scheme == Scheme::Dark ? sidebarDark : sidebarLight);
+    const bool isDark = scheme == Scheme::Dark;
+    QPalette sidebar;
     for (const Role role : {QPalette::Window, QPalette::Base, QPalette::AlternateBase})
-        sidebar.setColor(role, ground);
+        sidebar.setColor(role, QColor(isDark ? sidebarDark : sidebarLight));
     for (const Role role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText})
         sidebar.setColor(role, QColor(sidebarText));
-    if (scheme == Scheme::Dark)
-        sidebar.setColor(QPalette::Highlight, QColor(sidebarMark));
+    sidebar.setColor(QPalette::Highlight,
+                     isDark ? QColor(sidebarMark) : palette(scheme).color(QPalette::Highlight));
     return sidebar;
 }

@@ -5,8 +5,8 @@
 class QFont;
 
 /// Toolvane's light and dark look: palettes, the proxy style, the fonts of titles. Interface thread
-/// only. Widgets set no colour and no font size of their own: classes that differ from the rest
-/// (the sidebar, titles, hints) get theirs here, by class name, so that a change reaches all.
+/// only. Widgets set no colour and no font size of their own: the label classes of util/widgets
+/// that differ (titles, hints) get theirs here, by class name, so that a change reaches all.
 class Theme
 {
 public:
@@ -18,8 +18,8 @@ public:
     /// once, after the application object is made and before the first widget.
     static void install();
 
-    /// Changes to the scheme; every open window follows at once. Whoever learns that the desktop's
-    /// preference changed calls this; the scheme that is already shown costs nothing.
+    /// Changes to the scheme; every open window follows at once. The scheme that is already shown
+    /// costs nothing.
     static void apply(Scheme scheme);
 
     /// Shows everything in this font; titles are derived from it. Open windows follow at once.
@@ -34,8 +34,9 @@ public:
     /// All roles of all groups. `Light` is the face of a card, `BrightText` what warns.
     static QPalette palette(Scheme scheme);
 
-    /// The sidebar's own: `Window` is the background of its rows, `Highlight` the colour of marks
-    /// on them. Its texts are dark in both schemes, because rows stay light under the pointer and
-    /// when selected.
+    /// What differs in a sidebar; the other roles remain those of the window. `Window` is the
+    /// background of its rows, `Highlight` the colour of marks on them. Its texts are dark in both
+    /// schemes, because rows stay light under the pointer and when selected. The sidebar sets this
+    /// palette itself, and again at each QEvent::PaletteChange.
     static QPalette sidebarPalette(Scheme scheme);
 };

@@ -1,11 +1,10 @@
 #pragma once
 
-#include "BusyAnimation.h"
-
 #include <QProxyStyle>
 
-/// Fusion with Toolvane's own drawing of what a page is made of. Draws from the palette alone, so
-/// light, dark and disabled need no word here. Interface thread only.
+/// Fusion, with shapes and sizes of our own for what makes a page: cards, fields, buttons, check
+/// marks, gauges, the accent and the focus. What is not overridden here is Fusion's. Interface
+/// thread only.
 class ToolvaneStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -29,11 +28,9 @@ public:
                     const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *data) const override;
-    using QProxyStyle::polish;
-    void polish(QWidget *widget) override;
     QIcon standardIcon(StandardPixmap standard, const QStyleOption *option,
                        const QWidget *widget) const override;
-
-private:
-    mutable BusyAnimation m_busy;
+    using QProxyStyle::polish;
+    /// Gives the two texts of a message box the weight and the width that they need.
+    void polish(QWidget *widget) override;
 };

@@ -131,7 +131,10 @@ private:
         Scenes::settle();
         Theme::apply(scheme); // what is shown already has to follow
         Scenes::settle();
-        application.window().tableView().rowView(2)->setMouseInside(true);
+        HoverTableView &sidebar = application.window().tableView();
+        QCOMPARE(sidebar.palette().color(QPalette::Window),
+                 Theme::sidebarPalette(scheme).color(QPalette::Window));
+        sidebar.rowView(2)->setMouseInside(true);
         QStringList found;
         Scenes::visit(application, [&](const QString &scene, QWidget &window) {
             found += unreadable(scene, window);
