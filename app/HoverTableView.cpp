@@ -1,6 +1,5 @@
 #include "HoverTableView.h"
 
-#include "FadingGradient.h"
 #include "HoverTableRowView.h"
 
 #include <QFocusEvent>
@@ -13,10 +12,10 @@
 namespace
 {
 
-constexpr int smallestRowHeight = 44;
+constexpr int minRowHeight = 44;
 constexpr int roomAroundText = 24;
 
-// The row views draw everything; the list only has to know how high a row is.
+// The row views draw everything; the list itself needs only the height of a row.
 class RowHeightDelegate : public QStyledItemDelegate
 {
 public:
@@ -52,7 +51,7 @@ int HoverTableView::rowCount() const
 
 int HoverTableView::rowHeight() const
 {
-    return qMax(smallestRowHeight, fontMetrics().height() + roomAroundText);
+    return qMax(minRowHeight, fontMetrics().height() + roomAroundText);
 }
 
 double HoverTableView::yPositionPastLastRow() const
@@ -113,7 +112,8 @@ void HoverTableView::drawGridInClipRect()
     QPainter painter(viewport());
     double y = yPositionPastLastRow() + rowHeight();
     while (y < viewport()->height()) {
-        FadingGradient::separator().draw(painter, QRectF(0, y, viewport()->width(), 1.0));
+        painter.fillRect(QRectF(0, y, viewport()->width(), 1.0),
+                         HoverTableRowView::separatorGradient());
         y += rowHeight();
     }
 }
@@ -144,8 +144,7 @@ void HoverTableView::focusOutEvent(QFocusEvent *event)
     setKeyboardIsHere(false);
 }
 
-// As long as no tool is chosen, the first arrow key chooses the row where the keyboard is, instead
-// of going past it.
+// As long as no tool is chosen, the first arrow key chooses the current row instead of the next.
 void HoverTableView::keyPressEvent(QKeyEvent *event)
 {
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;

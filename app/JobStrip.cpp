@@ -13,7 +13,7 @@ namespace
 {
 
 constexpr std::chrono::milliseconds untilShown = 300ms;
-constexpr std::size_t mostRows = 3;
+constexpr std::size_t maxVisibleRows = 3;
 
 } // namespace
 
@@ -45,7 +45,7 @@ QSize JobStrip::sizeHint() const
 {
     if (m_rows.empty())
         return {0, 0};
-    const auto shown = static_cast<int>(std::min(m_rows.size(), mostRows));
+    const auto shown = static_cast<int>(std::min(m_rows.size(), maxVisibleRows));
     return {m_rows.front()->sizeHint().width(), m_rows.front()->sizeHint().height() * shown};
 }
 
@@ -67,7 +67,7 @@ void JobStrip::removeEnded()
         if (m_jobs->find(row->id()))
             return false;
         row->hide();
-        row->deleteLater(); // its own button may be what ended the job
+        row->deleteLater(); // the job may have ended inside a click on its own button
         return true;
     });
 }

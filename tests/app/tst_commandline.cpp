@@ -1,8 +1,8 @@
 // Proves what the program prints and how it ends when no window is wanted, and in which language
 // and direction it speaks.
 
+#include "Application.h"
 #include "CommandLine.h"
-#include "Language.h"
 #include "Tool.h"
 
 #include <QApplication>
@@ -13,7 +13,7 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_CommandLine : public QObject
+class TestCommandLine : public QObject
 {
     Q_OBJECT
 
@@ -64,7 +64,7 @@ private Q_SLOTS:
               std::tuple(u"he_IL"_s, u"Cancel"_s, Qt::LeftToRight)}) {
             QLocale::setDefault(QLocale(locale));
             QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-            Language::install();
+            Application::prepare();
             const QString button = QCoreApplication::translate("QPlatformTheme", "Cancel");
             QCOMPARE(QGuiApplication::layoutDirection(), direction);
             const bool isEnglish = qtTrId("ShowInFolder") == "Show in Fol&der"_L1;
@@ -76,5 +76,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_CommandLine)
+QTEST_MAIN(TestCommandLine)
 #include "tst_commandline.moc"

@@ -2,11 +2,10 @@
 // windows, and with large fonts.
 
 #include "Application.h"
-#include "ElidedLabel.h"
+#include "ContainerBox.h"
 #include "HoverTableAppDelegate.h"
 #include "HoverTableRowView.h"
 #include "HoverTableView.h"
-#include "PageScroller.h"
 #include "Scenes.h"
 #include "Theme.h"
 

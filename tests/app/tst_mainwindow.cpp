@@ -37,7 +37,7 @@ void answer(MainWindow &window, QMessageBox::ButtonRole role)
 
 } // namespace
 
-class tst_MainWindow : public QObject
+class TestMainWindow : public QObject
 {
     Q_OBJECT
 
@@ -118,8 +118,13 @@ private Q_SLOTS:
             wasAbandoned = application.jobs().running().size() == 1;
             job.end(JobOutcome::Stopped);
         });
-        QTimer::singleShot(0, this, [] { MiscTool::showAlert(u"The run has ended."_s, {}); });
-        QTimer::singleShot(50, this, [] { ::raise(SIGTERM); });
+        QTimer::singleShot(0, this, [this] {
+            QTimer::singleShot(0, this, [] { // in the message's own loop
+                QVERIFY(QApplication::activeModalWidget());
+                ::raise(SIGTERM);
+            });
+            MiscTool::showAlert(u"The run has ended."_s, {});
+        });
         QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
         QCOMPARE(QApplication::exec(), 0);
         QVERIFY(wasAbandoned && !application.window().isVisible());
@@ -144,5 +149,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_MainWindow)
+QTEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

@@ -9,7 +9,6 @@
 #include "JobRow.h"
 #include "JobStrip.h"
 #include "PageControls.h"
-#include "RunningMark.h"
 
 #include <QApplication>
 #include <QEnterEvent>
@@ -60,7 +59,7 @@ QColor pixel(QWidget &widget, int x, int y)
 
 } // namespace
 
-class tst_Sidebar : public QObject
+class TestSidebar : public QObject
 {
     Q_OBJECT
 
@@ -204,5 +203,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_Sidebar)
+QTEST_MAIN(TestSidebar)
 #include "tst_sidebar.moc"
