@@ -30,7 +30,7 @@ Q_SIGNALS:
     void pageWanted(const QString &page); ///< The name of a page, as in JobDescription.
 
 private:
-    void follow(); ///< Makes the rows those of the list, and the strip visible or hidden.
+    void updateRows(); ///< Makes the rows those of the list, and the strip visible or hidden.
     void removeEnded();
     void addRows();
     void addRow(const RunningJob &job);
@@ -38,6 +38,6 @@ private:
 
     JobList *m_jobs = nullptr;
     std::vector<JobRow *> m_rows; ///< In the order of the list.
-    QTimer m_untilShown;
-    QTimer m_everySecond;
+    QTimer m_showTimer;
+    QTimer m_elapsedTimer;
 };

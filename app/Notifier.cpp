@@ -48,10 +48,10 @@ QString jobSummary(const JobDescription &job, JobOutcome outcome)
 Notifier::Notifier(JobList &jobs, const QWidget &window, QObject *parent)
     : QObject(parent), m_window(window)
 {
-    connect(&jobs, &JobList::jobEnded, this, &Notifier::tell);
+    connect(&jobs, &JobList::jobEnded, this, &Notifier::onJobEnded);
 }
 
-void Notifier::tell(const RunningJob &job, JobOutcome outcome)
+void Notifier::onJobEnded(const RunningJob &job, JobOutcome outcome)
 {
     if (isNews(job, outcome) && m_window.isVisible() && !QApplication::activeWindow())
         notify(job.description, outcome);

@@ -51,7 +51,7 @@ private:
         QString page;
     };
 
-    void tell(const RunningJob &job, JobOutcome outcome);
+    void onJobEnded(const RunningJob &job, JobOutcome outcome);
     void notify(const JobDescription &job, JobOutcome outcome);
     void connectToBus();
     void send(const Message &message, const QStringList &capabilities);

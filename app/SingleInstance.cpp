@@ -27,9 +27,8 @@ constexpr qsizetype maxTokenLength = 1024;
 
 constexpr auto busService = "org.freedesktop.DBus"_L1; // its interface, too
 constexpr auto busPath = "/org/freedesktop/DBus"_L1;
-constexpr uint doNotQueue = 4; // RequestName: its flag, and the answers that make us the owner
+constexpr uint doNotQueue = 4; // RequestName: a flag, and the reply for success
 constexpr uint isOwner = 1;
-constexpr uint wasOwner = 4;
 
 constexpr auto applicationName = "example.toolvane.toolvane"_L1;
 constexpr auto applicationPath = "/example/toolvane/toolvane"_L1;
@@ -113,10 +112,8 @@ bool SingleInstance::joinBus(const QDeadlineTimer &deadline)
 
 bool SingleInstance::takeName(const QDeadlineTimer &deadline) const
 {
-    const QVariantList reply =
-        answer(m_bus, callOfBus(u"RequestName"_s, {m_name, doNotQueue}), deadline).arguments();
-    const uint status = reply.value(0).toUInt(); // 0 for an error, which is a text
-    return status == isOwner || status == wasOwner;
+    const auto call = callOfBus(u"RequestName"_s, {m_name, doNotQueue});
+    return answer(m_bus, call, deadline).arguments() == QVariantList{isOwner};
 }
 
 bool SingleInstance::isShownByFirst(const StartRequest &request,

@@ -1,5 +1,5 @@
-// Proves that a run which ends behind the user's back is told to the desktop once, truthfully and
-// as plain text, and that only the desktop's own answer brings its page up.
+// Proves that a run which ends while its window is inactive is notified once, truthfully and as
+// plain text, and that only the answer of the server that showed it brings its page up.
 
 #include "Application.h"
 #include "ContainerBox.h"
@@ -18,7 +18,7 @@ namespace
 constexpr auto service = "org.freedesktop.Notifications"_L1;
 constexpr auto objectPath = "/org/freedesktop/Notifications"_L1;
 
-// What a desktop shows, in the words in which it was asked to.
+// Keeps what it was called to show.
 class NotificationServer : public QObject
 {
     Q_OBJECT
@@ -81,7 +81,7 @@ private Q_SLOTS:
         m_notifier = std::make_unique<Notifier>(*m_jobs, *m_window);
     }
 
-    void tellsHowARunEnded()
+    void showsHowARunEnded()
     {
         m_server.capabilities = {u"body"_s};
         run(*m_jobs, JobOutcome::Succeeded);
@@ -99,7 +99,7 @@ private Q_SLOTS:
         QCOMPARE(m_server.shown[1].actions.value(0), u"default"_s);
     }
 
-    void tellsNothingThatTheUserKnows()
+    void showsNothingThatTheUserHasSeen()
     {
         JobDescription firstStep = zipOfLetters;
         firstStep.successIsNews = false;

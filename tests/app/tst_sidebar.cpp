@@ -1,5 +1,5 @@
-// Proves that the sidebar draws as it must, swaps pages without losing them, and lists at its foot
-// what runs, whose rows lead to their pages and stop their runs, also by keyboard alone.
+// Proves that the sidebar draws as it must, swaps pages without losing them, and lists the running
+// jobs below its tools, whose rows lead to their pages and stop their runs, also by keyboard alone.
 
 #include "Application.h"
 #include "ContainerBox.h"
@@ -78,7 +78,7 @@ private Q_SLOTS:
         QTest::mouseClick(&window.row(5), Qt::LeftButton, Qt::ControlModifier);
         QTest::mouseClick(window.list().viewport(), Qt::LeftButton, {},
                           window.list().viewport()->rect().bottomLeft() + QPoint(9, -9));
-        QVERIFY(window.row(5).isSelected()); // no click chooses nothing
+        QVERIFY(window.row(5).isSelected()); // no click clears the selection
         window.tools().selectTool(zip);
         QCOMPARE(window.container().contentView(), page);
         QCOMPARE(PageControls::text(*page, "srcFolderField"), u"typed"_s);
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QTest::keyClick(&window.list(), Qt::Key_Down);
         QCOMPARE(window.container().contentView(), window.tools().viewItem(0));
         const QImage withRing = window.row(0).grab().toImage();
-        QTest::mousePress(&window.row(0), Qt::LeftButton); // the pointer needs none
+        QTest::mousePress(&window.row(0), Qt::LeftButton); // it clears the ring
         QVERIFY(withRing != window.row(0).grab().toImage());
     }
 

@@ -37,7 +37,7 @@ Program start(const QStringList &arguments, const QString &token = {})
     return program;
 }
 
-/// How a start ends, while this process lives on; -1 when it stays.
+/// The exit code of a start, waited for in the event loop; -1 if it keeps running or crashes.
 int ending(QProcess &program)
 {
     QSignalSpy finished(&program, &QProcess::finished);
@@ -45,7 +45,7 @@ int ending(QProcess &program)
     return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }
 
-/// A bus that accepts whoever comes and never says a word.
+/// A bus that accepts every connection and never answers.
 class SilentBus
 {
 public:
@@ -103,7 +103,7 @@ private Q_SLOTS:
         QCOMPARE(token, QString());
     }
 
-    // Anybody on the bus may call.
+    // Any program on the bus may call.
     void opensNothingButTools()
     {
         SingleInstance first;
@@ -175,7 +175,7 @@ private Q_SLOTS:
         });
         const Program next = start({u"zip"_s});
         QTRY_VERIFY_WITH_TIMEOUT(isAsked, 20000);
-        QCOMPARE(ending(*start({})), 0); // the next one hears it
+        QCOMPARE(ending(*start({})), 0); // the next one serves it
         QCOMPARE(next->state(), QProcess::Running);
         next->terminate();
         QVERIFY(next->waitForFinished());
@@ -196,7 +196,7 @@ private Q_SLOTS:
         next.serve([&](const StartRequest &) { return isHeard = true; });
         ::kill(static_cast<pid_t>(first->processId()), SIGCONT);
         QCOMPARE(ending(*start({})), 0);
-        QVERIFY(!isHeard); // nobody knows of the next one yet
+        QVERIFY(!isHeard); // the next one does not own the name
 
         first->kill();
         QVERIFY(first->waitForFinished());
