@@ -57,7 +57,9 @@ QSize ElidedLabel::minimumSizeHint() const
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    // QLabel keeps its size hint, so that a text that fits is laid out only once.
+    const bool fits = QLabel::sizeHint().width() <= width();
+    const QString shown = fits ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, width());
     const QString tip = shown == text() ? QString() : text();
     if (toolTip() != tip)
         setToolTip(tip);
