@@ -101,10 +101,7 @@ void HoverTableView::selectionChanged(const QItemSelection &selected,
                                       const QItemSelection &deselected)
 {
     QListView::selectionChanged(selected, deselected);
-    for (int row = 0; row < rowCount(); ++row) {
-        if (HoverTableRowView *view = rowView(row))
-            view->setSelected(selectionModel()->isRowSelected(row));
-    }
+    updateRowViews();
 }
 
 void HoverTableView::drawGridInClipRect()
@@ -128,7 +125,7 @@ QItemSelectionModel::SelectionFlags HoverTableView::selectionCommand(const QMode
 void HoverTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QListView::currentChanged(current, previous);
-    setKeyboardIsHere(m_keyboardIsHere);
+    updateRowViews();
 }
 
 void HoverTableView::focusInEvent(QFocusEvent *event)
@@ -164,8 +161,15 @@ void HoverTableView::mousePressEvent(QMouseEvent *event)
 void HoverTableView::setKeyboardIsHere(bool here)
 {
     m_keyboardIsHere = here;
+    updateRowViews();
+}
+
+void HoverTableView::updateRowViews()
+{
     for (int row = 0; row < rowCount(); ++row) {
-        if (HoverTableRowView *view = rowView(row))
-            view->setFocusRing(here && currentIndex().row() == row);
+        if (HoverTableRowView *view = rowView(row)) {
+            view->setSelected(selectionModel()->isRowSelected(row));
+            view->setFocusRing(m_keyboardIsHere && currentIndex().row() == row);
+        }
     }
 }

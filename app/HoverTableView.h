@@ -47,8 +47,9 @@ private:
     void insertRowViews();
     /// The separator lines below the last row.
     void drawGridInClipRect();
-    /// Shows the focus ring on the current row, or on no row.
     void setKeyboardIsHere(bool here);
+    /// Shows selection and focus ring in the rows as they are now.
+    void updateRowViews();
 
     bool m_keyboardIsHere = false; ///< The focus came by keyboard, not by the pointer.
 };

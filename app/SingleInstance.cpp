@@ -3,6 +3,7 @@
 #include "Tool.h"
 
 #include <QCryptographicHash>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDebug>
 #include <QDir>
@@ -101,13 +102,12 @@ bool SingleInstance::joinBus(const QDeadlineTimer &deadline)
         return false;
     m_bus = QDBusConnection::connectToPeer(
         address, u"SingleInstance %1"_s.arg(reinterpret_cast<quintptr>(this)));
-    if (answer(m_bus, callOfBus(u"Hello"_s), deadline).type() == QDBusMessage::ReplyMessage)
-        return true;
-    if (deadline.hasExpired()) { // the window's menu bar would hang on such a bus
+    const QDBusMessage reply = answer(m_bus, callOfBus(u"Hello"_s), deadline);
+    if (QDBusError(reply).type() == QDBusError::NoReply) { // the menu bar would hang on such a bus
         qWarning("The session bus gives no answer.");
         qputenv("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     }
-    return false;
+    return reply.type() == QDBusMessage::ReplyMessage;
 }
 
 bool SingleInstance::takeName(const QDeadlineTimer &deadline) const
