@@ -1,10 +1,18 @@
 #include "AppDelegate.h"
 
 #include "MiscTool.h"
-#include "ServerAddress.h"
 
 #include <QDesktopServices>
+#include <QSettings>
 #include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+// The user's settings first, then what was compiled in.
+static QString webSiteAddress()
+{
+    return QSettings().value("Addresses/WebSite"_L1, QLatin1String(TOOLVANE_WEB_SITE)).toString();
+}
 
 void AppDelegate::applicationDidFinishLaunching()
 {
@@ -14,5 +22,5 @@ void AppDelegate::applicationDidFinishLaunching()
 
 void AppDelegate::goWebsite()
 {
-    QDesktopServices::openUrl(QUrl(serverAddress(Server::WebSite)));
+    QDesktopServices::openUrl(QUrl(webSiteAddress()));
 }

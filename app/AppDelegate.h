@@ -7,7 +7,8 @@ class QAction;
 class QToolBar;
 class QWidget;
 
-/// The application's delegate: knows the windows and the main window's parts, owns none of them.
+/// The application's delegate. Its outlets are the windows and the main window's parts, set by
+/// MainWindow::connectOutlets() and Application; it owns none of them.
 class AppDelegate : public QObject
 {
     Q_OBJECT
@@ -24,8 +25,10 @@ public:
     /// Shows the main window and hides the login window: the tools need no login.
     void applicationDidFinishLaunching();
 
+    /// Always: hidden windows do not keep the program alive.
     static bool applicationShouldTerminateAfterLastWindowClosed() { return true; }
 
-    /// Opens the maker's web site in the user's browser.
+    /// Opens the maker's web site in the user's browser: the address in the settings
+    /// (`Addresses/WebSite`), else the one that was compiled in. Whether that works is not checked.
     void goWebsite();
 };

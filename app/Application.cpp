@@ -2,15 +2,18 @@
 
 #include "DB.h"
 #include "HoverTableAppDelegate.h"
-#include "Language.h"
 #include "LoginDelegate.h"
 #include "NamedImage.h"
 #include "Notifier.h"
-#include "StartRequest.h"
+#include "SingleInstance.h"
 #include "Tool.h"
 
 #include <QApplication>
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QTimer>
+#include <QTranslator>
 
 #include <chrono>
 
@@ -22,6 +25,34 @@ namespace
 
 constexpr auto windowIconDelay = 300ms;
 
+// Qt's own texts: file choosers, buttons of message boxes. Arabic windows are mirrored; an English
+// one is not, whatever the user's locale is.
+void installQtsTexts(const QLocale &language)
+{
+    // A start that only prints a text has no windows, and so no direction.
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        QGuiApplication::setLayoutDirection(language.textDirection());
+    auto *texts = new QTranslator(QCoreApplication::instance());
+    if (texts->load(language, u"qtbase"_s, u"_"_s,
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(texts);
+}
+
+// Everything is English if we have no table for the user's language: never a window in two
+// languages.
+void installTexts()
+{
+    auto *english = new QTranslator(QCoreApplication::instance());
+    if (english->load(u":/localisation/toolvane_en.qm"_s))
+        QCoreApplication::installTranslator(english);
+    auto *own = new QTranslator(QCoreApplication::instance());
+    if (!own->load(QLocale(), u"toolvane"_s, u"_"_s, u":/localisation"_s)
+        || own->filePath() == english->filePath())
+        return;
+    installQtsTexts(QLocale(QFileInfo(own->filePath()).baseName().section(u'_', 1)));
+    QCoreApplication::installTranslator(own); // the last is used first; English has what it lacks
+}
+
 } // namespace
 
 void Application::prepare()
@@ -31,7 +62,7 @@ void Application::prepare()
     QCoreApplication::setApplicationVersion(QLatin1String(TOOLVANE_VERSION));
     QGuiApplication::setApplicationDisplayName(u"Toolvane"_s);
     QGuiApplication::setDesktopFileName(u"toolvane"_s);
-    Language::install();
+    installTexts();
 }
 
 Application::Application()
@@ -63,8 +94,8 @@ void Application::start(const QString &page)
     DB::openConfiguredWebService();
     openPage(page);
     m_delegate.applicationDidFinishLaunching();
-    // A window's icon is drawn in every size that a window manager may ask for, which is work that
-    // nobody should wait for: the window comes first.
+    // A window's icon is drawn in every size that a window manager may want. The window comes
+    // first.
     QTimer::singleShot(windowIconDelay, qApp,
                        [] { QGuiApplication::setWindowIcon(namedImage(u"toolvane"_s)); });
 }

@@ -11,8 +11,9 @@ class LoginDelegate;
 class Notifier;
 struct StartRequest;
 
-/// Everything that the main interface description stands for, made and connected in the right
-/// order: the windows, the delegate, the sidebar with its pages, and the list of what runs.
+/// All objects of the running program, made and connected in the right order: the windows, the
+/// delegate, the sidebar with its pages, and the list of running jobs. It lives as long as the
+/// program. Interface thread only.
 class Application
 {
 public:
@@ -23,23 +24,24 @@ public:
     /// texts of the user's language. Call once, before any window is made.
     static void prepare();
 
-    /// Shows the window, with the page of the tool of this command name where there is one.
+    /// Shows the window, with a tool's page if the argument is its command name.
     void start(const QString &page = {});
-    /// Does what a later start of the program asks for: the window comes to the front. A name of no
-    /// tool opens no page. False, and nothing is done, when the window is closed already.
+    /// Brings the window to the front for a later start of the program, and opens the page if its
+    /// name is a tool's. Returns false and does nothing if the window is closed already.
     bool open(const StartRequest &request);
 
+    // Parts for `main()` and for tests; owned by this object.
     MainWindow &window() { return m_window; }
     HoverTableAppDelegate &tools() { return *m_tools; }
     JobList &jobs() { return m_jobs; }
     AppDelegate &delegate() { return m_delegate; }
 
 private:
-    /// The window is closed for good, while runs come to their end.
+    /// The window is closed for good, and the program only waits for its runs to end.
     bool isQuitting() const { return !m_window.isVisible(); }
     void openPage(const QString &commandName);
 
-    JobList m_jobs;
+    JobList m_jobs; ///< First: the pages end their jobs when they are destroyed.
     AppDelegate m_delegate;
     MainWindow m_window;
     std::unique_ptr<LoginDelegate> m_loginWindow;

@@ -30,7 +30,7 @@ CommandLine::CommandLine(const QStringList &arguments)
     parser.setApplicationDescription(qtTrId("CommandLine.Description"));
     parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions); // as Qt's own are
     parser.addPositionalArgument(u"PAGE"_s, qtTrId("CommandLine.Page").arg(pages), u"[PAGE]"_s);
-    // Qt's own two would speak English wherever Qt has no texts.
+    // Qt's own two would be English in languages that Qt has no texts for.
     const QCommandLineOption help({u"h"_s, u"help"_s}, qtTrId("CommandLine.Help"));
     const QCommandLineOption version({u"v"_s, u"version"_s}, qtTrId("CommandLine.Version"));
     parser.addOptions({help, version});

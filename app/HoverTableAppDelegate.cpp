@@ -1,11 +1,10 @@
 #include "HoverTableAppDelegate.h"
 
 #include "ContainerBox.h"
-#include "ElidedLabel.h"
 #include "HoverTableRowView.h"
 #include "HoverTableView.h"
 #include "JobList.h"
-#include "JobSummary.h"
+#include "Notifier.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -14,7 +13,7 @@
 #include <algorithm>
 #include <utility>
 
-// What a font asks for, which stays; what it is matched with may be a little less each time.
+// The requested size, which stays the same; the size of the matched font may shrink each time.
 static qreal pointSize(const QFont &font)
 {
     return font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
@@ -29,7 +28,7 @@ HoverTableAppDelegate::HoverTableAppDelegate(const QList<Tool> &tools, JobList &
         m_naviItems += getNaviItem(qtTrId(tool.nameKey), QString::fromLatin1(tool.imageName));
     for (const Tool &tool : tools) {
         QWidget *page = tool.makePage(jobs, appDelegate.container);
-        page->hide(); // a child of a window that is yet to be shown would appear with it
+        page->hide(); // it would appear together with its window
         m_viewItems += page;
     }
     m_tableView.setModel(this);
@@ -94,7 +93,7 @@ QVariant HoverTableAppDelegate::data(const QModelIndex &index, int role) const
         return item.name;
     case HoverTableView::ImageNameRole:
         return item.icon;
-    case Qt::AccessibleDescriptionRole: // the mark on the row is nothing that a screen reader finds
+    case Qt::AccessibleDescriptionRole: // screen readers do not find the dot on the row
         return isRunning(index.row()) ? qtTrId("Sidebar.Running") : QString();
     default:
         return {};
@@ -123,7 +122,7 @@ bool HoverTableAppDelegate::isRunning(int row) const
     });
 }
 
-// A screen reader hears of it wherever its user is.
+// A screen reader announces it on whichever page its user is.
 void HoverTableAppDelegate::announceEnd(const RunningJob &job, JobOutcome outcome)
 {
     const qsizetype row = rowOf(job.description.page);

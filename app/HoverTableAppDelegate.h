@@ -23,6 +23,8 @@ public:
         QString name; ///< Text shown to the user.
     };
 
+    /// Makes all pages, hidden, as children of the delegate's container. List, delegate and view
+    /// must outlive this object.
     HoverTableAppDelegate(const QList<Tool> &tools, JobList &jobs, AppDelegate &appDelegate,
                           HoverTableView &tableView, QObject *parent = nullptr);
 
@@ -32,14 +34,16 @@ public:
 
     int numberOfRowsInTableView() const { return static_cast<int>(m_naviItems.size()); }
     NaviItem objectValueForTableColumn(int row) const { return m_naviItems.at(row); }
+    /// Makes the selected row's name bold and shows its page.
     void tableViewSelectionDidChange();
 
+    /// The page of a row, owned by the container.
     QWidget *viewItem(int row) const { return m_viewItems.at(row); }
-    void selectTool(int row);
-    /// Chooses the tool whose page has this name (its class name, as in JobDescription::page).
-    /// False, and nothing happens, where no tool has such a page.
+    void selectTool(int row); ///< As if the user had clicked it.
+    /// Selects the tool whose page has this name: its class name, as in JobDescription::page.
+    /// Returns false and does nothing if no tool has such a page.
     bool showPage(const QString &page);
-    /// Destroys the pages for good, and with each the runs that it still has.
+    /// Destroys the pages for good, which ends their runs. No row leads to a page after that.
     void closePages();
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -49,6 +53,7 @@ private:
     qsizetype rowOf(const QString &page) const; ///< -1 for a page of no tool.
     void showRunningJobs();
     bool isRunning(int row) const;
+    /// Lets screen readers say how a run ended.
     void announceEnd(const RunningJob &job, JobOutcome outcome);
 
     AppDelegate &m_appDelegate;

@@ -1,13 +1,14 @@
 #include "HoverTableRowView.h"
 
-#include "ElidedLabel.h"
-#include "FadingGradient.h"
 #include "IconView.h"
-#include "RunningMark.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QLinearGradient>
 #include <QPainter>
+#include <QStyle>
+
+#include <utility>
 
 namespace
 {
@@ -15,11 +16,13 @@ namespace
 constexpr int iconSize = 22;
 constexpr int sideMargin = 18;
 constexpr int gap = 12;
+constexpr int markDiameter = 8;
 constexpr double separatorHeight = 1.0;
 constexpr double selectionInset = 5.5;
 constexpr double selectionRadius = 10.0;
 constexpr double focusRingInset = 4;
 constexpr double focusRingWidth = 2;
+constexpr float separatorShade = 0.8F;
 constexpr float selectionStroke = 0.72F; // shades of grey, 1 is white
 constexpr float selectionFill = 0.82F;
 
@@ -28,7 +31,63 @@ QColor grey(float white)
     return QColor::fromRgbF(white, white, white);
 }
 
+// In from the left and out to the right of whatever is filled with it.
+QLinearGradient fadingGradient(const QColor &color)
+{
+    QColor transparent = color;
+    transparent.setAlpha(0);
+    QLinearGradient gradient(0, 0, 1, 0);
+    gradient.setCoordinateMode(QGradient::ObjectMode);
+    gradient.setStops({{0.0, transparent}, {0.35, color}, {0.65, color}, {1.0, transparent}});
+    return gradient;
+}
+
 } // namespace
+
+ElidedLabel::ElidedLabel(const QString &text, QWidget *parent) : QLabel(text, parent)
+{
+    setTextFormat(Qt::PlainText);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {fontMetrics().height(), QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    // QLabel keeps its size hint, so that a text that fits is laid out only once.
+    const bool fits = QLabel::sizeHint().width() <= width();
+    const QString shown = fits ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, width());
+    const QString tip = shown == text() ? QString() : text();
+    if (toolTip() != tip)
+        setToolTip(tip);
+    style()->drawItemText(&painter, rect(), Qt::AlignVCenter | Qt::AlignLeading, palette(),
+                          isEnabled(), shown, foregroundRole());
+}
+
+RunningMark::RunningMark(QWidget *parent) : QWidget(parent)
+{
+    const QString text = qtTrId("Sidebar.Running");
+    setAccessibleName(text);
+    setToolTip(text);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+QSize RunningMark::sizeHint() const
+{
+    return {markDiameter, markDiameter};
+}
+
+void RunningMark::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Highlight));
+    painter.drawEllipse(rect());
+}
 
 HoverTableRowView::HoverTableRowView(const QString &imageName, const QString &name, QWidget *parent)
     : QWidget(parent), m_imageView(new IconView(this)), m_textField(new ElidedLabel(name, this)),
@@ -51,26 +110,20 @@ HoverTableRowView::HoverTableRowView(const QString &imageName, const QString &na
 
 void HoverTableRowView::setMouseInside(bool inside)
 {
-    if (m_mouseInside == inside)
-        return;
-    m_mouseInside = inside;
-    update();
+    if (std::exchange(m_mouseInside, inside) != inside)
+        update();
 }
 
 void HoverTableRowView::setSelected(bool selected)
 {
-    if (m_selected == selected)
-        return;
-    m_selected = selected;
-    update();
+    if (std::exchange(m_selected, selected) != selected)
+        update();
 }
 
 void HoverTableRowView::setFocusRing(bool shown)
 {
-    if (m_focusRing == shown)
-        return;
-    m_focusRing = shown;
-    update();
+    if (std::exchange(m_focusRing, shown) != shown)
+        update();
 }
 
 void HoverTableRowView::setSelectionHighlightStyle(SelectionHighlightStyle style)
@@ -89,7 +142,13 @@ QRectF HoverTableRowView::separatorRect() const
     return QRectF(0, height() - separatorHeight, width(), separatorHeight);
 }
 
-// The name has a font of its own, bold where it is selected, and so inherits none.
+const QGradient &HoverTableRowView::separatorGradient()
+{
+    static const QLinearGradient gradient = fadingGradient(grey(separatorShade));
+    return gradient;
+}
+
+// The name has a font of its own, bold while it is selected, and so does not inherit the row's.
 void HoverTableRowView::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
@@ -136,7 +195,7 @@ void HoverTableRowView::drawBackgroundInRect(QPainter &painter) const
 {
     painter.fillRect(rect(), palette().color(QPalette::Window));
     if (m_mouseInside)
-        FadingGradient(Qt::white).draw(painter, rect());
+        painter.fillRect(rect(), fadingGradient(Qt::white));
 }
 
 void HoverTableRowView::drawSelectionInRect(QPainter &painter) const
@@ -145,21 +204,23 @@ void HoverTableRowView::drawSelectionInRect(QPainter &painter) const
         return;
     painter.setPen(grey(selectionStroke));
     painter.setBrush(grey(selectionFill));
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(selectionInset, selectionInset, -selectionInset, -selectionInset),
-        selectionRadius, selectionRadius);
+    drawInset(painter, selectionInset);
 }
 
 void HoverTableRowView::drawSeparatorInRect(QPainter &painter) const
 {
-    FadingGradient::separator().draw(painter, separatorRect());
+    painter.fillRect(separatorRect(), separatorGradient());
 }
 
 void HoverTableRowView::drawFocusRing(QPainter &painter) const
 {
     painter.setPen(QPen(palette().color(QPalette::Highlight), focusRingWidth));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(
-        QRectF(rect()).adjusted(focusRingInset, focusRingInset, -focusRingInset, -focusRingInset),
-        selectionRadius, selectionRadius);
+    drawInset(painter, focusRingInset);
+}
+
+void HoverTableRowView::drawInset(QPainter &painter, double inset) const
+{
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), selectionRadius,
+                            selectionRadius);
 }

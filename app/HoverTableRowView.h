@@ -1,10 +1,39 @@
 #pragma once
 
+#include <QLabel>
 #include <QWidget>
 
-class ElidedLabel;
 class IconView;
-class RunningMark;
+class QGradient;
+
+/// One line of plain text. If it does not fit, it ends with "…" and the whole text is its tool tip.
+class ElidedLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit ElidedLabel(const QString &text, QWidget *parent = nullptr);
+
+    QSize minimumSizeHint() const override; ///< One character wide.
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+/// The small dot at the end of a sidebar row whose page is running something.
+class RunningMark : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Says what it means in its tool tip, and to screen readers.
+    explicit RunningMark(QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
 
 /// One row of the sidebar: icon, name, a band of light while the pointer is over it, a rounded
 /// selection and a separator line at its bottom. The pointer is followed whether or not the window
@@ -14,27 +43,34 @@ class HoverTableRowView : public QWidget
     Q_OBJECT
 
 public:
+    /// None draws no selection at all.
     enum class SelectionHighlightStyle { None = -1, Regular = 0 };
 
+    /// Takes the name of one of the application's own images, and the text to show.
     HoverTableRowView(const QString &imageName, const QString &name, QWidget *parent = nullptr);
 
+    /// The pointer is over the row, whether or not the window is active.
     bool mouseInside() const { return m_mouseInside; }
-    /// Draws the row anew only when the value changes.
     void setMouseInside(bool inside);
 
     bool isSelected() const { return m_selected; }
     void setSelected(bool selected);
     void setSelectionHighlightStyle(SelectionHighlightStyle style);
 
-    /// Shows that the keyboard is at this row.
+    /// For the row that the keyboard is at; the pointer needs no ring.
     void setFocusRing(bool shown);
 
-    /// Says on the row that its page is at work.
+    /// Shows the dot: the page of this row is running something.
     void setRunning(bool running);
 
     /// The line at the bottom of the row, one pixel high.
     QRectF separatorRect() const;
 
+    /// The one gradient of all separator lines, made on first use: it fades in from the left and
+    /// out to the right of whatever it fills.
+    static const QGradient &separatorGradient();
+
+    /// The name; owned by the row.
     ElidedLabel *textField() const { return m_textField; }
 
 protected:
@@ -49,6 +85,7 @@ private:
     void drawSelectionInRect(QPainter &painter) const;
     void drawSeparatorInRect(QPainter &painter) const;
     void drawFocusRing(QPainter &painter) const;
+    void drawInset(QPainter &painter, double inset) const;
 
     IconView *m_imageView;
     ElidedLabel *m_textField;

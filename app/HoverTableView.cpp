@@ -1,6 +1,5 @@
 #include "HoverTableView.h"
 
-#include "FadingGradient.h"
 #include "HoverTableRowView.h"
 #include "Theme.h"
 
@@ -14,10 +13,10 @@
 namespace
 {
 
-constexpr int smallestRowHeight = 44;
+constexpr int minRowHeight = 44;
 constexpr int roomAroundText = 24;
 
-// The row views draw everything; the list only has to know how high a row is.
+// The row views draw everything; the list itself needs only the height of a row.
 class RowHeightDelegate : public QStyledItemDelegate
 {
 public:
@@ -55,7 +54,7 @@ int HoverTableView::rowCount() const
 
 int HoverTableView::rowHeight() const
 {
-    return qMax(smallestRowHeight, fontMetrics().height() + roomAroundText);
+    return qMax(minRowHeight, fontMetrics().height() + roomAroundText);
 }
 
 double HoverTableView::yPositionPastLastRow() const
@@ -112,10 +111,7 @@ void HoverTableView::selectionChanged(const QItemSelection &selected,
                                       const QItemSelection &deselected)
 {
     QListView::selectionChanged(selected, deselected);
-    for (int row = 0; row < rowCount(); ++row) {
-        if (HoverTableRowView *view = rowView(row))
-            view->setSelected(selectionModel()->isRowSelected(row));
-    }
+    updateRowViews();
 }
 
 void HoverTableView::drawGridInClipRect()
@@ -123,7 +119,8 @@ void HoverTableView::drawGridInClipRect()
     QPainter painter(viewport());
     double y = yPositionPastLastRow() + rowHeight();
     while (y < viewport()->height()) {
-        FadingGradient::separator().draw(painter, QRectF(0, y, viewport()->width(), 1.0));
+        painter.fillRect(QRectF(0, y, viewport()->width(), 1.0),
+                         HoverTableRowView::separatorGradient());
         y += rowHeight();
     }
 }
@@ -138,7 +135,7 @@ QItemSelectionModel::SelectionFlags HoverTableView::selectionCommand(const QMode
 void HoverTableView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
     QListView::currentChanged(current, previous);
-    setKeyboardIsHere(m_keyboardIsHere);
+    updateRowViews();
 }
 
 void HoverTableView::focusInEvent(QFocusEvent *event)
@@ -154,8 +151,7 @@ void HoverTableView::focusOutEvent(QFocusEvent *event)
     setKeyboardIsHere(false);
 }
 
-// As long as no tool is chosen, the first arrow key chooses the row where the keyboard is, instead
-// of going past it.
+// As long as no tool is chosen, the first arrow key chooses the current row instead of the next.
 void HoverTableView::keyPressEvent(QKeyEvent *event)
 {
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
@@ -175,8 +171,15 @@ void HoverTableView::mousePressEvent(QMouseEvent *event)
 void HoverTableView::setKeyboardIsHere(bool here)
 {
     m_keyboardIsHere = here;
+    updateRowViews();
+}
+
+void HoverTableView::updateRowViews()
+{
     for (int row = 0; row < rowCount(); ++row) {
-        if (HoverTableRowView *view = rowView(row))
-            view->setFocusRing(here && currentIndex().row() == row);
+        if (HoverTableRowView *view = rowView(row)) {
+            view->setSelected(selectionModel()->isRowSelected(row));
+            view->setFocusRing(m_keyboardIsHere && currentIndex().row() == row);
+        }
     }
 }

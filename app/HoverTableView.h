@@ -4,7 +4,7 @@
 
 class HoverTableRowView;
 
-/// The sidebar's list. Each row is a HoverTableRowView that stands over the model's index, so that
+/// The sidebar's list. Each row is a HoverTableRowView placed over the model's index, so that
 /// selection, keyboard and accessibility are those of any list; below the last row the list draws
 /// separator lines where the bottoms of further rows would be.
 class HoverTableView : public QListView
@@ -12,7 +12,7 @@ class HoverTableView : public QListView
     Q_OBJECT
 
 public:
-    /// What the model tells of a row beside its name (Qt::DisplayRole).
+    /// Roles of the model, beside the row's name (Qt::DisplayRole).
     enum Role {
         ImageNameRole = Qt::UserRole ///< Name of one of the application's own images.
     };
@@ -21,10 +21,11 @@ public:
 
     /// Bottom edge of the last row in the viewport's coordinates; 0 without rows.
     double yPositionPastLastRow() const;
-    int rowHeight() const;
-    /// None where the list has no such row.
+    int rowHeight() const; ///< In pixels; grows with the font.
+    /// Null if the list has no such row.
     HoverTableRowView *rowView(int row) const;
 
+    /// Makes the row views. The rows of the model must not change afterwards.
     void setModel(QAbstractItemModel *model) override;
 
 protected:
@@ -36,6 +37,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    /// Every click selects a row or nothing changes: a page is always shown.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
     void selectionChanged(const QItemSelection &selected,
@@ -44,8 +46,11 @@ protected:
 private:
     int rowCount() const;
     void insertRowViews();
+    /// The separator lines below the last row.
     void drawGridInClipRect();
     void setKeyboardIsHere(bool here);
+    /// Shows selection and focus ring in the rows as they are now.
+    void updateRowViews();
 
-    bool m_keyboardIsHere = false; ///< The pointer needs no focus ring.
+    bool m_keyboardIsHere = false; ///< The focus came by keyboard, not by the pointer.
 };

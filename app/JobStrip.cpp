@@ -12,8 +12,8 @@ using namespace std::chrono_literals;
 namespace
 {
 
-constexpr std::chrono::milliseconds untilShown = 300ms;
-constexpr std::size_t mostRows = 3;
+constexpr std::chrono::milliseconds showDelay = 300ms;
+constexpr std::size_t maxVisibleRows = 3;
 
 } // namespace
 
@@ -28,35 +28,35 @@ JobStrip::JobStrip(QWidget *parent) : QScrollArea(parent)
     auto *layout = new QVBoxLayout(widget());
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    m_untilShown.setSingleShot(true);
-    connect(&m_untilShown, &QTimer::timeout, this, &JobStrip::follow);
-    m_everySecond.setInterval(1s);
-    connect(&m_everySecond, &QTimer::timeout, this, &JobStrip::showElapsed);
+    m_showTimer.setSingleShot(true);
+    connect(&m_showTimer, &QTimer::timeout, this, &JobStrip::updateRows);
+    m_elapsedTimer.setInterval(1s);
+    connect(&m_elapsedTimer, &QTimer::timeout, this, &JobStrip::showElapsed);
 }
 
 void JobStrip::setJobs(JobList &jobs)
 {
     m_jobs = &jobs;
-    connect(&jobs, &JobList::changed, this, &JobStrip::follow);
-    follow();
+    connect(&jobs, &JobList::changed, this, &JobStrip::updateRows);
+    updateRows();
 }
 
 QSize JobStrip::sizeHint() const
 {
     if (m_rows.empty())
         return {0, 0};
-    const auto shown = static_cast<int>(std::min(m_rows.size(), mostRows));
+    const auto shown = static_cast<int>(std::min(m_rows.size(), maxVisibleRows));
     return {m_rows.front()->sizeHint().width(), m_rows.front()->sizeHint().height() * shown};
 }
 
-void JobStrip::follow()
+void JobStrip::updateRows()
 {
     removeEnded();
     addRows();
-    if (!m_rows.empty() && !m_everySecond.isActive())
-        m_everySecond.start();
+    if (!m_rows.empty() && !m_elapsedTimer.isActive())
+        m_elapsedTimer.start();
     if (m_rows.empty())
-        m_everySecond.stop();
+        m_elapsedTimer.stop();
     updateGeometry();
     setVisible(!m_rows.empty());
 }
@@ -67,7 +67,7 @@ void JobStrip::removeEnded()
         if (m_jobs->find(row->id()))
             return false;
         row->hide();
-        row->deleteLater(); // its own button may be what ended the job
+        row->deleteLater(); // the job may have ended inside a click on its own button
         return true;
     });
 }
@@ -75,13 +75,13 @@ void JobStrip::removeEnded()
 void JobStrip::addRows()
 {
     for (const RunningJob &job : m_jobs->running()) {
-        const auto left = untilShown - std::chrono::milliseconds(job.started.elapsed());
+        const auto left = showDelay - std::chrono::milliseconds(job.started.elapsed());
         if (std::ranges::find(m_rows, job.id, &JobRow::id) != m_rows.end())
             continue;
         if (left.count() <= 0)
             addRow(job);
-        else if (!m_untilShown.isActive())
-            m_untilShown.start(left); // later ones are younger
+        else if (!m_showTimer.isActive())
+            m_showTimer.start(left); // later ones are younger
     }
 }
 

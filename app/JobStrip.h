@@ -9,9 +9,9 @@
 
 class JobRow;
 
-/// The strip at the bottom of the main window's sidebar that lists what runs. It is there only
-/// while something runs, takes its room from the empty end of the list of tools, so that no page
-/// moves, and scrolls from the fourth row on. A run that ends at once is never shown: it would only
+/// The strip below the sidebar's list that shows the running jobs. It is visible only while
+/// something runs, takes its room from the empty end of the list of tools, so that no page moves,
+/// and scrolls from the fourth row on. A job is shown after 300 ms: shorter ones would only
 /// flicker.
 class JobStrip : public QScrollArea
 {
@@ -23,14 +23,14 @@ public:
     /// Shows what this list holds. Called once; the list must outlive the strip.
     void setJobs(JobList &jobs);
 
-    QSize sizeHint() const override;
+    QSize sizeHint() const override; ///< Of three rows at most; empty without jobs.
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
 Q_SIGNALS:
     void pageWanted(const QString &page); ///< The name of a page, as in JobDescription.
 
 private:
-    void follow();
+    void updateRows(); ///< Makes the rows those of the list, and the strip visible or hidden.
     void removeEnded();
     void addRows();
     void addRow(const RunningJob &job);
@@ -38,6 +38,6 @@ private:
 
     JobList *m_jobs = nullptr;
     std::vector<JobRow *> m_rows; ///< In the order of the list.
-    QTimer m_untilShown;
-    QTimer m_everySecond;
+    QTimer m_showTimer;
+    QTimer m_elapsedTimer;
 };

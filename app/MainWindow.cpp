@@ -3,17 +3,19 @@
 #include "AboutViewController.h"
 #include "AppDelegate.h"
 #include "HoverTableAppDelegate.h"
+#include "IconView.h"
 #include "JobList.h"
 #include "LoginDelegate.h"
 #include "MiscTool.h"
 #include "Mnemonics.h"
 #include "NamedImage.h"
 #include "RecordWindow.h"
-#include "ToolbarTitle.h"
+#include "SectionTitle.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -25,6 +27,26 @@ namespace
 {
 
 constexpr auto geometryKey = "MainWindow/Geometry"_L1;
+constexpr int titleIconSize = 24;
+constexpr int titleMargin = 14;
+
+// The application's icon and name. It shows the action's text, but is not a button: there is
+// nothing to press.
+QWidget *makeToolbarTitle(const QAction *item, QWidget *parent)
+{
+    auto *title = new QWidget(parent);
+    auto *icon = new IconView(title);
+    icon->setImageName(u"toolvane"_s);
+    icon->setFixedSize(titleIconSize, titleIconSize);
+    auto *name = new SectionTitle(title);
+    name->setText(item->text());
+    QObject::connect(item, &QAction::changed, name, [item, name] { name->setText(item->text()); });
+    auto *layout = new QHBoxLayout(title);
+    layout->setContentsMargins(titleMargin, 0, titleMargin, 0);
+    layout->addWidget(icon);
+    layout->addWidget(name);
+    return title;
+}
 
 } // namespace
 
@@ -44,10 +66,10 @@ MainWindow::~MainWindow() = default;
 void MainWindow::fillToolbar()
 {
     ui->websiteItem->setIcon(namedImage(u"website"_s));
-    // A tool button has no letter: Qt takes the mark away, and leaves "(W)".
+    // A tool button has no mnemonic: Qt removes the mark, and would leave "(W)".
     ui->websiteItem->setIconText(Mnemonics::withoutMark(ui->websiteItem->text()));
     ui->aboutItem->setIcon(namedImage(u"about"_s));
-    ui->toolbar->addWidget(new ToolbarTitle(ui->appNameItem, ui->toolbar));
+    ui->toolbar->addWidget(makeToolbarTitle(ui->appNameItem, ui->toolbar));
     auto *spacer = new QWidget(ui->toolbar);
     spacer->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     ui->toolbar->addWidget(spacer);
@@ -59,7 +81,7 @@ void MainWindow::showAbout()
 {
     if (!m_about)
         m_about = new AboutViewController(ui->container);
-    ui->tableView->clearSelection(); // the page that is shown is none of the list's
+    ui->tableView->clearSelection(); // this page is not in the list
     ui->container->setContentView(m_about);
 }
 
@@ -86,7 +108,7 @@ void MainWindow::connectTools(HoverTableAppDelegate &tools)
 void MainWindow::connectRecords(LoginDelegate &login)
 {
     connect(ui->loginItem, &QAction::triggered, &login, [&login] { MiscTool::showWindow(&login); });
-    // What is open belongs to whoever was logged in before.
+    // Open record windows belong to the user who was logged in before.
     connect(&login, &LoginDelegate::loggedIn, this, [this] { RecordWindow::closeOf(*this); });
     const auto opens = [this](const QAction *item, RecordWindow::Page page) {
         connect(item, &QAction::triggered, this, [this, page] { RecordWindow::open(page, *this); });
@@ -103,7 +125,7 @@ HoverTableView &MainWindow::tableView() const
 
 void MainWindow::comeToFront(const QString &activationToken)
 {
-    // Qt takes the token from there, and from the environment, with the request that follows.
+    // Qt reads the token from the environment with the request that follows.
     if (!activationToken.isEmpty() && QGuiApplication::platformName().startsWith("wayland"_L1))
         qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
     setWindowState(windowState() & ~Qt::WindowMinimized);
@@ -135,7 +157,7 @@ void MainWindow::askBeforeClosing()
     question->setDefaultButton(stay);
     question->setEscapeButton(stay);
     connect(quit, &QPushButton::clicked, this, &MainWindow::quitWithoutFinishing);
-    // Once the last run has ended there is nothing left to ask.
+    // After the last run there is nothing left to decide.
     connect(&m_jobs, &JobList::allEnded, question, &QWidget::close);
     Mnemonics::keepUnique(question);
     question->open();
@@ -147,7 +169,7 @@ void MainWindow::quit()
         return quitWithoutFinishing();
     QSettings().setValue(geometryKey, saveGeometry());
     hide();
-    QCoreApplication::quit(); // a message that is shown is no reason to stay
+    QCoreApplication::quit(); // even while a message is open
 }
 
 void MainWindow::quitWithoutFinishing()

@@ -1,7 +1,5 @@
 #include "Notifier.h"
 
-#include "JobSummary.h"
-
 #include <QApplication>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -18,7 +16,7 @@ namespace
 
 constexpr auto service = "org.freedesktop.Notifications"_L1; // its interface, too
 constexpr auto objectPath = "/org/freedesktop/Notifications"_L1;
-constexpr int usualTime = -1; // as long as the server shows any notification
+constexpr int defaultTimeout = -1; // the server's own
 
 QDBusMessage callOf(const QString &method)
 {
@@ -33,13 +31,26 @@ bool isNews(const RunningJob &job, JobOutcome outcome)
 
 } // namespace
 
+QString jobSummary(const JobDescription &job, JobOutcome outcome)
+{
+    switch (outcome) {
+    case JobOutcome::Succeeded:
+        return qtTrId("Notice.Succeeded").arg(job.title);
+    case JobOutcome::Failed:
+        return qtTrId("Notice.Failed").arg(job.title);
+    case JobOutcome::Stopped:
+        return qtTrId("Notice.Stopped").arg(job.title);
+    }
+    Q_UNREACHABLE();
+}
+
 Notifier::Notifier(JobList &jobs, const QWidget &window, QObject *parent)
     : QObject(parent), m_window(window)
 {
-    connect(&jobs, &JobList::jobEnded, this, &Notifier::tell);
+    connect(&jobs, &JobList::jobEnded, this, &Notifier::onJobEnded);
 }
 
-void Notifier::tell(const RunningJob &job, JobOutcome outcome)
+void Notifier::onJobEnded(const RunningJob &job, JobOutcome outcome)
 {
     if (isNews(job, outcome) && m_window.isVisible() && !QApplication::activeWindow())
         notify(job.description, outcome);
@@ -55,12 +66,12 @@ void Notifier::notify(const JobDescription &job, JobOutcome outcome)
             [this, message](QDBusPendingCallWatcher *watcher) {
                 watcher->deleteLater();
                 const QDBusPendingReply<QStringList> reply = *watcher;
-                if (reply.isValid()) // else nobody is there to show anything
+                if (reply.isValid()) // else no server runs
                     send(message, reply.value());
             });
 }
 
-// No sender is named: Qt would wait for the bus to tell who that is. shownBySender() looks instead.
+// No sender is named: Qt would wait for the bus to look it up. shownBySender() checks it instead.
 void Notifier::connectToBus()
 {
     if (m_bus)
@@ -85,7 +96,7 @@ void Notifier::send(const Message &message, const QStringList &capabilities)
     const QVariantMap hints{{u"desktop-entry"_s, u"toolvane"_s}};
     QDBusMessage call = callOf(u"Notify"_s);
     call << u"Toolvane"_s << 0U << u"toolvane"_s << message.summary << body << actions << hints
-         << usualTime;
+         << defaultTimeout;
     auto *sent = new QDBusPendingCallWatcher(m_bus->asyncCall(call), this);
     connect(sent, &QDBusPendingCallWatcher::finished, this,
             [this, page = message.page](QDBusPendingCallWatcher *watcher) {
@@ -96,7 +107,7 @@ void Notifier::send(const Message &message, const QStringList &capabilities)
             });
 }
 
-// Anybody on the bus may send these signals; only who showed the notification is believed.
+// Any program on the bus may send these signals. Those of the server that showed it count.
 Notifier::Shown *Notifier::shownBySender(uint id)
 {
     const auto found = m_shown.find({message().service(), id});

@@ -12,26 +12,30 @@
 
 class QWidget;
 
-/// Tells the desktop how a run ended, in a notification that leads back to the run's page.
+/// How a run ended, in one short sentence: "Zip is finished".
+QString jobSummary(const JobDescription &job, JobOutcome outcome);
+
+/// Shows how a run ended in a desktop notification that leads back to the run's page.
 ///
-/// Speaks to `org.freedesktop.Notifications` of the session bus (freedesktop.org, Desktop
-/// Notifications 1.2), never waits for an answer, and stays silent where there is no such server.
+/// Calls `org.freedesktop.Notifications` on the session bus (freedesktop.org, Desktop Notifications
+/// 1.2), never waits for an answer, and does nothing if no such server runs.
 /// The bus is not touched before the first notification. Interface thread only.
 class Notifier : public QObject, protected QDBusContext
 {
     Q_OBJECT
 
 public:
-    /// Tells of the runs of this list that end while none of our windows is active, except those
-    /// that the user stopped. Once the window is hidden, which ends the program, nothing is told.
+    /// Notifies of the runs of this list that end while none of our windows is active, except those
+    /// that the user stopped, and of none after the window is hidden, which ends the program. List
+    /// and window must outlive the notifier.
     Notifier(JobList &jobs, const QWidget &window, QObject *parent = nullptr);
 
 Q_SIGNALS:
-    /// The user chose a notification. The token, where the desktop gave one, allows the window to
-    /// come to the front.
+    /// The user chose a notification. The activation token lets the window come to the front; it is
+    /// empty if the desktop gave none.
     void pageWanted(const QString &page, const QString &activationToken);
 
-private Q_SLOTS: // called by the bus, for signals of anybody who calls itself a server
+private Q_SLOTS: // called for signals of any program on the bus
     void onActivationToken(uint id, const QString &token);
     void onActionInvoked(uint id, const QString &action);
     void onNotificationClosed(uint id, uint reason);
@@ -47,7 +51,7 @@ private:
         QString page;
     };
 
-    void tell(const RunningJob &job, JobOutcome outcome);
+    void onJobEnded(const RunningJob &job, JobOutcome outcome);
     void notify(const JobDescription &job, JobOutcome outcome);
     void connectToBus();
     void send(const Message &message, const QStringList &capabilities);
@@ -55,5 +59,5 @@ private:
 
     const QWidget &m_window;
     std::optional<QDBusConnection> m_bus;
-    QHash<std::pair<QString, uint>, Shown> m_shown; ///< By the server's own name on the bus and id.
+    QHash<std::pair<QString, uint>, Shown> m_shown; ///< By the server's unique bus name and id.
 };

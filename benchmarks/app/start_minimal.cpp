@@ -1,4 +1,4 @@
-// The least that a Qt program with a window can be: what starting is measured against.
+// The least that a Qt program with a window can be, for comparison.
 
 #include "FirstPaint.h"
 

@@ -1,7 +1,9 @@
-// The program as it starts for a user, up to its first painted window.
+// The program as it starts for a user, up to its first painted window. If there is a session bus,
+// it takes its name there as well.
 
 #include "Application.h"
 #include "FirstPaint.h"
+#include "SingleInstance.h"
 #include "Theme.h"
 
 #include <QApplication>
@@ -10,6 +12,9 @@ int main(int argc, char *argv[])
 {
     QApplication qt(argc, argv);
     Application::prepare();
+    SingleInstance instance;
+    if (instance.passOn({}))
+        qFatal("Toolvane runs already");
     Theme::install();
     Application application;
     const FirstPaint end(application.window());

@@ -30,13 +30,13 @@ private:
     PseudoTexts m_pseudo;
 };
 
-/// Before the first test: what they show makes a record database.
+/// Call it before the first test. What the scenes show creates a record database.
 void prepare();
 
 /// Class and name of a widget, for a message.
 QString described(const QWidget &widget);
 
-/// What is visible in a window, the window itself excepted.
+/// The visible widgets of a window, without the window itself.
 QList<QWidget *> shownIn(const QWidget &window);
 
 using Look = std::function<void(const QString &scene, QWidget &window)>;
@@ -45,7 +45,7 @@ using Look = std::function<void(const QString &scene, QWidget &window)>;
 /// while it is shown.
 void visit(Application &application, const Look &look);
 
-/// Waits until what was asked for is laid out.
+/// Waits until pending layouts are done.
 void settle();
 
 } // namespace Scenes

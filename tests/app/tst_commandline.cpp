@@ -1,8 +1,8 @@
-// Proves what the program prints and how it ends when no window is wanted, and in which language
-// and direction it speaks.
+// Proves what the program prints and how it ends when no window is wanted, and that language and
+// direction are those of the user if there are texts for them.
 
+#include "Application.h"
 #include "CommandLine.h"
-#include "Language.h"
 #include "Tool.h"
 
 #include <QApplication>
@@ -13,12 +13,12 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_CommandLine : public QObject
+class TestCommandLine : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    // The two that ask for a text do so without a screen.
+    // The two that print a text work without a screen.
     void ends()
     {
         const QString pages = u"video, cache, speech, zip, unzip, dmg, iso, update."_s;
@@ -34,7 +34,8 @@ private Q_SLOTS:
                 environment.insert(u"QT_QPA_PLATFORM"_s, u"none at all"_s);
             environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
             if (arguments == u"-v")
-                environment.insert(u"LANGUAGE"_s, u"ar"_s); // from right to left, if there were
+                environment.insert(u"LANGUAGE"_s,
+                                   u"ar"_s); // would set a direction if there were windows
             program.setProcessEnvironment(environment);
             program.start(QStringLiteral(TOOLVANE_BUILD_DIR "/bin/toolvane"),
                           arguments.split(u' '));
@@ -55,16 +56,16 @@ private Q_SLOTS:
         QVERIFY(CommandLine({u"toolvane"_s}).page().isEmpty());
     }
 
-    void speaks()
+    void followsTheLanguage()
     {
-        // The last has no table of ours: all English, Qt's own button too.
+        // We have no table for the last: everything is English, Qt's own button too.
         for (const auto &[locale, cancel, direction] :
              {std::tuple(u"de_AT"_s, u"Abbrechen"_s, Qt::LeftToRight),
               std::tuple(u"ar_EG"_s, u"ألغِ"_s, Qt::RightToLeft),
               std::tuple(u"he_IL"_s, u"Cancel"_s, Qt::LeftToRight)}) {
             QLocale::setDefault(QLocale(locale));
             QGuiApplication::setLayoutDirection(Qt::LeftToRight);
-            Language::install();
+            Application::prepare();
             const QString button = QCoreApplication::translate("QPlatformTheme", "Cancel");
             QCOMPARE(QGuiApplication::layoutDirection(), direction);
             const bool isEnglish = qtTrId("ShowInFolder") == "Show in Fol&der"_L1;
@@ -76,5 +77,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_CommandLine)
+QTEST_MAIN(TestCommandLine)
 #include "tst_commandline.moc"

@@ -2,11 +2,10 @@
 // windows, and with large fonts.
 
 #include "Application.h"
-#include "ElidedLabel.h"
+#include "ContainerBox.h"
 #include "HoverTableAppDelegate.h"
 #include "HoverTableRowView.h"
 #include "HoverTableView.h"
-#include "PageScroller.h"
 #include "Scenes.h"
 #include "Theme.h"
 
@@ -35,7 +34,7 @@ bool popUpFits(const QComboBox &popUp)
         && popUp.fontMetrics().height() <= field.height();
 }
 
-// Long file names may be shortened, and say the whole in a tool tip.
+// Long names may be shortened: the whole text is in a tool tip then.
 bool fits(const QWidget &widget)
 {
     const QSize size = widget.size();
@@ -55,7 +54,7 @@ bool fits(const QWidget &widget)
     return true;
 }
 
-// Rooms that overlap are texts that lie upon each other.
+// Widgets of one layout that overlap would show one text on top of another.
 bool overlapsASibling(const QWidget &widget)
 {
     const QLayout *layout = widget.parentWidget() ? widget.parentWidget()->layout() : nullptr;

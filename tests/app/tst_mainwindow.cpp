@@ -6,13 +6,18 @@
 #include "TerminationSignals.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
+#include <QDesktopServices>
 #include <QMessageBox>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 
 #include <csignal>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -37,9 +42,12 @@ void answer(MainWindow &window, QMessageBox::ButtonRole role)
 
 } // namespace
 
-class tst_MainWindow : public QObject
+class TestMainWindow : public QObject
 {
     Q_OBJECT
+
+public Q_SLOTS:
+    void noteUrl(const QUrl &url) { m_opened = url; }
 
 private Q_SLOTS:
     void initTestCase() { Application::prepare(); }
@@ -70,6 +78,23 @@ private Q_SLOTS:
             QVERIFY2(application.tools().viewItem(row)->isVisible(),
                      qPrintable(QString::number(row)));
         }
+    }
+
+    void opensTheWebSiteOfTheSettings()
+    {
+        Application application;
+        const auto open = [&] {
+            application.window().findChild<QAction *>(u"websiteItem"_s)->trigger();
+            return std::exchange(m_opened, {});
+        };
+        QDesktopServices::setUrlHandler(u"test"_s, this, "noteUrl");
+        QDesktopServices::setUrlHandler(u"https"_s, this, "noteUrl");
+        QCOMPARE(open().scheme(), u"https"_s); // the one that was compiled in
+        QSettings().setValue(u"Addresses/WebSite"_s, u"test://ours/"_s);
+        QCOMPARE(open(), QUrl(u"test://ours/"_s));
+        QSettings().remove(u"Addresses/WebSite"_s);
+        QDesktopServices::unsetUrlHandler(u"test"_s);
+        QDesktopServices::unsetUrlHandler(u"https"_s);
     }
 
     void remembersPlaceAndSize()
@@ -118,8 +143,13 @@ private Q_SLOTS:
             wasAbandoned = application.jobs().running().size() == 1;
             job.end(JobOutcome::Stopped);
         });
-        QTimer::singleShot(0, this, [] { MiscTool::showAlert(u"The run has ended."_s, {}); });
-        QTimer::singleShot(50, this, [] { ::raise(SIGTERM); });
+        QTimer::singleShot(0, this, [this] {
+            QTimer::singleShot(0, this, [] { // in the message's own loop
+                QVERIFY(QApplication::activeModalWidget());
+                ::raise(SIGTERM);
+            });
+            MiscTool::showAlert(u"The run has ended."_s, {});
+        });
         QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
         QCOMPARE(QApplication::exec(), 0);
         QVERIFY(wasAbandoned && !application.window().isVisible());
@@ -142,7 +172,10 @@ private Q_SLOTS:
         job.end(JobOutcome::Stopped);
         QTRY_COMPARE(allEnded.size(), 1);
     }
+
+private:
+    QUrl m_opened;
 };
 
-QTEST_MAIN(tst_MainWindow)
+QTEST_MAIN(TestMainWindow)
 #include "tst_mainwindow.moc"

@@ -1,5 +1,5 @@
-// Proves that the sidebar draws as it must, swaps pages without losing them, and lists at its foot
-// what runs, whose rows lead to their pages and stop their runs, also by keyboard alone.
+// Proves that the sidebar draws as it must, swaps pages without losing them, and lists the running
+// jobs below its tools, whose rows lead to their pages and stop their runs, also by keyboard alone.
 
 #include "Application.h"
 #include "ContainerBox.h"
@@ -9,7 +9,6 @@
 #include "JobRow.h"
 #include "JobStrip.h"
 #include "PageControls.h"
-#include "RunningMark.h"
 
 #include <QApplication>
 #include <QEnterEvent>
@@ -57,7 +56,7 @@ QColor pixel(QWidget &widget, int x, int y)
 
 } // namespace
 
-class tst_Sidebar : public QObject
+class TestSidebar : public QObject
 {
     Q_OBJECT
 
@@ -76,7 +75,7 @@ private Q_SLOTS:
         QTest::mouseClick(&window.row(5), Qt::LeftButton, Qt::ControlModifier);
         QTest::mouseClick(window.list().viewport(), Qt::LeftButton, {},
                           window.list().viewport()->rect().bottomLeft() + QPoint(9, -9));
-        QVERIFY(window.row(5).isSelected()); // no click chooses nothing
+        QVERIFY(window.row(5).isSelected()); // no click clears the selection
         window.tools().selectTool(zip);
         QCOMPARE(window.container().contentView(), page);
         QCOMPARE(PageControls::text(*page, "srcFolderField"), u"typed"_s);
@@ -89,7 +88,7 @@ private Q_SLOTS:
         QTest::keyClick(&window.list(), Qt::Key_Down);
         QCOMPARE(window.container().contentView(), window.tools().viewItem(0));
         const QImage withRing = window.row(0).grab().toImage();
-        QTest::mousePress(&window.row(0), Qt::LeftButton); // the pointer needs none
+        QTest::mousePress(&window.row(0), Qt::LeftButton); // it clears the ring
         QVERIFY(withRing != window.row(0).grab().toImage());
     }
 
@@ -199,5 +198,5 @@ private Q_SLOTS:
     }
 };
 
-QTEST_MAIN(tst_Sidebar)
+QTEST_MAIN(TestSidebar)
 #include "tst_sidebar.moc"

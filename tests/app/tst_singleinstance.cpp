@@ -1,16 +1,18 @@
 // Proves that a second start turns to the first one's window, and that no first one that is dead,
-// hung or about to end keeps it from coming up.
+// hung or about to end, and no bus, keeps it from coming up.
 
 #include "Application.h"
 #include "HoverTableView.h"
+#include "SessionBus.h"
 #include "SingleInstance.h"
 
-#include <QDir>
+#include <QDBusMessage>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTest>
 
-#include <sys/stat.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <memory>
@@ -22,6 +24,9 @@ namespace
 
 using Program = std::unique_ptr<QProcess>;
 
+constexpr auto objectPath = "/example/toolvane/toolvane"_L1;
+constexpr auto interfaceName = "org.freedesktop.Application"_L1;
+
 Program start(const QStringList &arguments, const QString &token = {})
 {
     auto program = std::make_unique<QProcess>();
@@ -32,7 +37,7 @@ Program start(const QStringList &arguments, const QString &token = {})
     return program;
 }
 
-/// How a start ends, while this process lives on; -1 when it stays.
+/// The exit code of a start, waited for in the event loop; -1 if it keeps running or crashes.
 int ending(QProcess &program)
 {
     QSignalSpy finished(&program, &QProcess::finished);
@@ -40,41 +45,28 @@ int ending(QProcess &program)
     return ended && program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }
 
-QDir runtimeFolder()
+/// A bus that accepts every connection and never answers.
+class SilentBus
 {
-    return QDir(qEnvironmentVariable("XDG_RUNTIME_DIR"));
-}
+public:
+    explicit SilentBus(const QByteArray &path) : m_socket(socket(AF_UNIX, SOCK_STREAM, 0))
+    {
+        sockaddr_un address = {};
+        address.sun_family = AF_UNIX;
+        qstrncpy(address.sun_path, path.constData(), sizeof address.sun_path);
+        QCOMPARE(::bind(m_socket, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+        QCOMPARE(::listen(m_socket, 5), 0);
+    }
+    ~SilentBus() { ::close(m_socket); }
+    Q_DISABLE_COPY_MOVE(SilentBus)
 
-QString socketPath()
-{
-    const QStringList sockets =
-        runtimeFolder().entryList({u"toolvane-*.socket"_s}, QDir::System | QDir::Files);
-    return sockets.size() == 1 ? runtimeFolder().filePath(sockets.first()) : QString();
-}
-
-/// Whether whatever listens there answers this packet with anything but a closed connection.
-bool isAnswered(const QByteArray &packet)
-{
-    const auto script = uR"(import socket, sys
-peer = socket.socket(socket.AF_UNIX, socket.SOCK_SEQPACKET)
-peer.connect(sys.argv[1])
-peer.send(bytes.fromhex(sys.argv[2]))
-try:
-    print(len(peer.recv(1)))
-except ConnectionResetError:
-    print(0))"_s;
-    QProcess peer;
-    peer.start(u"env"_s,
-               {u"-u"_s, u"LD_PRELOAD"_s, u"python3"_s, u"-c"_s, script, socketPath(),
-                QString::fromLatin1(packet.toHex())});
-    if (ending(peer) != 0)
-        QTest::qFail("the packet was not heard", __FILE__, __LINE__);
-    return peer.readAllStandardOutput() == "1\n";
-}
+private:
+    int m_socket;
+};
 
 } // namespace
 
-class tst_SingleInstance : public QObject
+class TestSingleInstance : public QObject
 {
     Q_OBJECT
 
@@ -82,15 +74,18 @@ private Q_SLOTS:
     void initTestCase()
     {
         QVERIFY2(qEnvironmentVariableIsSet("TOOLVANE_TEST_SANDBOX"), "needs folders of its own");
+        QVERIFY(m_bus.connect(u"stranger"_s).isConnected());
         Application::prepare();
     }
-    void cleanup() { QCOMPARE(runtimeFolder().entryList({u"*.socket"_s}, QDir::System).size(), 0); }
+
+    void init() { qputenv("DBUS_SESSION_BUS_ADDRESS", m_bus.address().toUtf8()); }
+
+    void cleanup() { QTRY_COMPARE(instances(), QStringList()); }
+
     void secondStartOpensItsPageInTheFirst()
     {
         SingleInstance first;
         QVERIFY(!first.passOn({}));
-        QCOMPARE(QFile::permissions(socketPath()) & ~(QFile::ReadUser | QFile::WriteUser),
-                 QFile::ReadOwner | QFile::WriteOwner);
         Application application;
         QString token;
         application.start(u"iso"_s);
@@ -108,40 +103,64 @@ private Q_SLOTS:
         QCOMPARE(token, QString());
     }
 
-    void hearsOnlyWhatIsWellFormed()
+    // Any program on the bus may call.
+    void opensNothingButTools()
     {
         SingleInstance first;
         QVERIFY(!first.passOn({}));
-        Application application;
-        application.start(u"zip"_s);
-        first.serve([&](const StartRequest &request) { return application.open(request); });
-        const QByteArray mark("toolvane-start-1\0", 17);
-        QVERIFY(!isAnswered("unzip"));
-        QVERIFY(!isAnswered(mark + "unzip"));
-        QVERIFY(!isAnswered(mark + "unzip" + QByteArray(20'000, '\0')));
-        QVERIFY(
-            isAnswered(mark + QByteArray("../none\0\0", 9))); // heard, but there is no such page
-        QCOMPARE(application.window().tableView().currentIndex().row(), 3);
-        QVERIFY(isAnswered(mark + QByteArray("unzip\0\0", 7)));
-        QCOMPARE(application.window().tableView().currentIndex().row(), 4);
+        QList<StartRequest> requests;
+        first.serve([&](const StartRequest &request) {
+            requests += request;
+            return true;
+        });
+        const QVariantMap withToken{{u"activation-token"_s, u"token"_s}};
+        QVERIFY(!isAnswered(u"Open"_s, {QStringList(u"file:///"_s), withToken}));
+        QVERIFY(!isAnswered(u"ActivateAction"_s, {u"unzip"_s}));
+        QVERIFY(!isAnswered(u"Activate"_s, {u"unzip"_s}));
+        QVERIFY(!isAnswered(u"deleteLater"_s, {}));
+        QCOMPARE(requests.size(), 0);
+        const QVariantList none;
+        const QVariantMap wrongToken{{u"activation-token"_s, QVariantList{withToken}}};
+        QVERIFY(isAnswered(u"ActivateAction"_s, {u"../none"_s, none, wrongToken}));
+        QVERIFY(isAnswered(u"ActivateAction"_s, {QString(1'000'000, u'x'), none, withToken}));
+        QVERIFY(isAnswered(u"ActivateAction"_s, {u"unzip"_s, none, withToken}));
+        QCOMPARE(requests.size(), 3);
+        QCOMPARE(requests[0].page + requests[0].activationToken + requests[1].page, QString());
+        QCOMPARE(requests[2].page + requests[2].activationToken, u"unziptoken"_s);
     }
 
-    void standsAloneWithoutAFolderOfTheUser()
+    void isAProgramOfItsOwnWithoutABus()
     {
-        const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
-        const QByteArray missing = before + "/none";
-        const QByteArray openToOthers = before + "/open";
-        const QByteArray tooLongForASocket = before + '/' + QByteArray(90, 'x');
-        QCOMPARE(::mkdir(openToOthers.constData(), 0750), 0);
-        QCOMPARE(::mkdir(tooLongForASocket.constData(), 0700), 0);
-        for (const QByteArray &folder : {missing, openToOthers, tooLongForASocket}) {
-            qputenv("XDG_RUNTIME_DIR", folder);
+        const QByteArray path = qgetenv("TMPDIR") + "/silent";
+        const SilentBus silent(path);
+        for (const QByteArray &address : {QByteArray(), QByteArray("unix:path=/none"),
+                                          QByteArray("no address"), "unix:path=" + path}) {
+            qputenv("DBUS_SESSION_BUS_ADDRESS", address);
+            QElapsedTimer clock;
+            clock.start();
             SingleInstance alone;
             QVERIFY(!alone.passOn({}));
             alone.serve([](const StartRequest &) { return true; });
-            QCOMPARE(socketPath(), QString());
+            QVERIFY2(clock.elapsed() < 6000, qPrintable(QString::number(clock.elapsed())));
         }
-        qputenv("XDG_RUNTIME_DIR", before);
+        QVERIFY(!qgetenv("DBUS_SESSION_BUS_ADDRESS").contains(path)); // nor does Qt wait for it
+    }
+
+    void otherSettingsAreAnotherProgram()
+    {
+        SingleInstance first;
+        QVERIFY(!first.passOn({}));
+        bool isHeard = false;
+        first.serve([&](const StartRequest &) { return isHeard = true; });
+        const QByteArray settings = qgetenv("XDG_CONFIG_HOME");
+        qputenv("XDG_CONFIG_HOME", settings + "/other");
+        const Program other = start({u"zip"_s});
+        qputenv("XDG_CONFIG_HOME", settings);
+        QTRY_COMPARE_WITH_TIMEOUT(instances().size(), 2, 20000);
+        QCOMPARE(other->state(), QProcess::Running);
+        QVERIFY(!isHeard);
+        other->kill();
+        QVERIFY(other->waitForFinished());
     }
 
     void takesThePlaceOfOneThatEnds()
@@ -156,17 +175,16 @@ private Q_SLOTS:
         });
         const Program next = start({u"zip"_s});
         QTRY_VERIFY_WITH_TIMEOUT(isAsked, 20000);
-        QCOMPARE(ending(*start({})), 0); // the next one hears it
+        QCOMPARE(ending(*start({})), 0); // the next one serves it
         QCOMPARE(next->state(), QProcess::Running);
         next->terminate();
         QVERIFY(next->waitForFinished());
-        QFile::remove(socketPath());
     }
 
     void aHungFirstIsLeftAloneAndAKilledOneReplaced()
     {
         const Program first = start({u"zip"_s});
-        QTRY_VERIFY_WITH_TIMEOUT(!socketPath().isEmpty(), 20000);
+        QTRY_COMPARE_WITH_TIMEOUT(instances().size(), 1, 20000);
         QCOMPARE(ending(*start({})), 0); // it serves
         ::kill(static_cast<pid_t>(first->processId()), SIGSTOP);
         SingleInstance next;
@@ -178,18 +196,41 @@ private Q_SLOTS:
         next.serve([&](const StartRequest &) { return isHeard = true; });
         ::kill(static_cast<pid_t>(first->processId()), SIGCONT);
         QCOMPARE(ending(*start({})), 0);
-        QVERIFY(!isHeard); // nobody knows of the next one yet
+        QVERIFY(!isHeard); // the next one does not own the name
 
         first->kill();
         QVERIFY(first->waitForFinished());
-        QVERIFY(!socketPath().isEmpty()); // it could not tidy up
         SingleInstance heir;
         QVERIFY(!heir.passOn({}));
         heir.serve([&](const StartRequest &) { return isHeard = true; });
         QCOMPARE(ending(*start({})), 0);
         QVERIFY(isHeard);
     }
+
+private:
+    QStringList instances() const
+    {
+        QStringList names =
+            QDBusConnection(u"stranger"_s)
+                .call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
+                                                     u"org.freedesktop.DBus"_s, u"ListNames"_s))
+                .arguments()
+                .value(0)
+                .toStringList();
+        names.removeIf([](const QString &name) { return !name.startsWith("example.toolvane"_L1); });
+        return names;
+    }
+    bool isAnswered(const QString &method, const QVariantList &arguments) const
+    {
+        auto call =
+            QDBusMessage::createMethodCall(instances().value(0), objectPath, interfaceName, method);
+        call.setArguments(arguments);
+        const auto reply = QDBusConnection(u"stranger"_s).call(call, QDBus::BlockWithGui);
+        return reply.type() == QDBusMessage::ReplyMessage;
+    }
+
+    SessionBus m_bus;
 };
 
-QTEST_MAIN(tst_SingleInstance)
+QTEST_MAIN(TestSingleInstance)
 #include "tst_singleinstance.moc"
