@@ -10,7 +10,7 @@
 #include "Mnemonics.h"
 #include "NamedImage.h"
 #include "RecordWindow.h"
-#include "SectionTitle.h"
+#include "ThemedLabels.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
