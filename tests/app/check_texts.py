@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that every text that the program looks up stands in each table, and that every text of a
+"""Checks that every text that the program looks up is in each table, and that every text of a
 table is looked up somewhere.
 
 usage: check_texts.py SOURCE-FOLDER
@@ -18,7 +18,7 @@ LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 def keys_in_code(root):
     """The literals of each call that takes a key; a choice between two keys names both."""
     for folder in ("app", "tools", "users", "util"):
-        for path in (root / folder).rglob("*.cpp"):
+        for path in [*(root / folder).rglob("*.cpp"), *(root / folder).rglob("*.h")]:
             for arguments in CALL.findall(path.read_text()):
                 yield from LITERAL.findall(arguments)
 
