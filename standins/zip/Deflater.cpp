@@ -8,7 +8,7 @@ namespace
 // Measured so that the archives are no larger than those of `zip -1`, and 1 % larger at most than
 // those of `zip -9`.
 constexpr int fastestWhole = 1;
-constexpr int smallestWhole = 6;
+constexpr int smallestWhole = 7;
 constexpr int fastestPiece = 1;
 constexpr int smallestPiece = 9;
 
