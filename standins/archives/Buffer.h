@@ -10,9 +10,13 @@ class Buffer
 public:
     Buffer() = default;
     explicit Buffer(std::size_t size)
-        : m_bytes(std::make_unique_for_overwrite<char[]>(size)), m_size(size) { }
+        : m_bytes(std::make_unique_for_overwrite<char[]>(size)), m_size(size)
+    {
+    }
     Buffer(Buffer &&other) noexcept
-        : m_bytes(std::move(other.m_bytes)), m_size(std::exchange(other.m_size, 0)) { }
+        : m_bytes(std::move(other.m_bytes)), m_size(std::exchange(other.m_size, 0))
+    {
+    }
     Buffer &operator=(Buffer &&other) noexcept
     {
         m_bytes = std::move(other.m_bytes);

@@ -44,16 +44,21 @@ std::string readText(const ArchiveFile &file, std::uint64_t offset, std::size_t 
     return text;
 }
 
-// Where its last record starts. The comment after it may be cut, or longer than it says.
+// Where its last record starts: the one whose comment fills the rest of the file, as a comment may
+// hold what looks like one; if there is none, the last.
 std::uint64_t findEnd(const ArchiveFile &file)
 {
     const std::size_t size = std::min<std::uint64_t>(file.size, endSize + maxCommentSize);
     const std::string tail = readText(file, file.size - size, size);
-    const auto position = size < endSize ? std::string::npos
-                                         : tail.rfind("PK\5\6", size - endSize);
-    if (position == std::string::npos)
+    constexpr auto none = std::string::npos;
+    const auto last = size < endSize ? none : tail.rfind("PK\5\6", size - endSize);
+    if (last == none)
         failAs(NoArchive, file.path, "Not a zip archive, or not the whole of one");
-    return file.size - size + position;
+    auto position = last;
+    while (position != none
+           && position + endSize + numberAt<std::uint16_t>(tail, position + 20) != size)
+        position = position == 0 ? none : tail.rfind("PK\5\6", position - 1);
+    return file.size - size + (position == none ? last : position);
 }
 
 // The record that replaces the short one, if there is one.
@@ -145,8 +150,8 @@ std::optional<CentralDirectory::Item> takeItem(std::string_view &rest)
                                 .header = numberAt<std::uint32_t>(rest, 42),
                                 .crc = numberAt<std::uint32_t>(rest, 16),
                                 .method = numberAt<std::uint16_t>(rest, 10)};
-    item.isUnknownKind = (flags & (isEncrypted | isPatch | isMasked)) != 0
-        || numberAt<std::uint16_t>(rest, 34) != 0;
+    item.isUnknownKind =
+        (flags & (isEncrypted | isPatch | isMasked)) != 0 || numberAt<std::uint16_t>(rest, 34) != 0;
     if (!takeLongValues(item, rest.substr(headerSize + nameSize, extraSize)))
         return std::nullopt;
     rest.remove_prefix(size);

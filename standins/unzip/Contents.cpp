@@ -37,8 +37,8 @@ Zip openZip(const ArchiveFile &file, std::uint64_t shift)
     zip_error_t error;
     zip_error_init(&error);
     FILE *stream = ::fdopen(::dup(file.descriptor), "rb");
-    zip_source_t *source = zip_source_filep_create(
-        stream, shift, static_cast<zip_int64_t>(file.size - shift), &error);
+    zip_source_t *source =
+        zip_source_filep_create(stream, shift, static_cast<zip_int64_t>(file.size - shift), &error);
     zip_t *zip = source ? zip_open_from_source(source, ZIP_RDONLY, &error) : nullptr;
     if (zip)
         return Zip(zip);
@@ -114,8 +114,8 @@ std::time_t EntryReader::time() const
 {
     constexpr zip_uint16_t universalTime = 'U' | 'T' << 8;
     zip_uint16_t size = 0;
-    const zip_uint8_t *field = zip_file_extra_field_get_by_id(m_zip, m_index, universalTime, 0,
-                                                              &size, ZIP_FL_CENTRAL);
+    const zip_uint8_t *field =
+        zip_file_extra_field_get_by_id(m_zip, m_index, universalTime, 0, &size, ZIP_FL_CENTRAL);
     if (!field || size < 5 || !(field[0] & 1))
         return m_stat.mtime;
     const std::string_view bytes(reinterpret_cast<const char *>(field), size);

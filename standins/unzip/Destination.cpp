@@ -27,11 +27,9 @@ FileDescriptor openBelow(int folder, const std::string &path, int flags, mode_t 
     open_how how = {};
     how.flags = static_cast<std::uint64_t>(flags | O_CLOEXEC);
     how.mode = mode;
-    how.resolve =
-        RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS | RESOLVE_NO_XDEV;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS | RESOLVE_NO_XDEV;
     const char *name = path.empty() ? "." : path.c_str();
-    return FileDescriptor(
-        static_cast<int>(::syscall(SYS_openat2, folder, name, &how, sizeof how)));
+    return FileDescriptor(static_cast<int>(::syscall(SYS_openat2, folder, name, &how, sizeof how)));
 }
 
 void allowDeepFolders()

@@ -53,9 +53,8 @@ bool EntryData::inflateWhole(std::string_view packed, std::size_t size)
         throw std::bad_alloc();
     std::size_t used = 0;
     std::size_t made = 0;
-    const auto result =
-        libdeflate_deflate_decompress_ex(m_decompressor.get(), packed.data(), packed.size(),
-                                         m_bytes.data(), size, &used, &made);
+    const auto result = libdeflate_deflate_decompress_ex(
+        m_decompressor.get(), packed.data(), packed.size(), m_bytes.data(), size, &used, &made);
     return result == LIBDEFLATE_SUCCESS && used == packed.size() && made == size;
 }
 

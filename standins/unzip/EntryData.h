@@ -12,7 +12,8 @@
 #include <optional>
 #include <string_view>
 
-// Gives the bytes of entries, stored or deflated, and checks every one of them: one for each thread.
+// Gives the bytes of entries, stored or deflated, and checks every one of them: one for each
+// thread.
 class EntryData
 {
 public:

@@ -11,9 +11,9 @@
 #include <string_view>
 
 // Decides whether a symbolic link of an archive leads to a place below the destination, whether
-// that exists or not. Links lead through each other: ".." after one of them may go anywhere, so only
-// what passes none before its last ".." counts as inside. Every link that was found inside leads on
-// from a place inside, so following several stays inside as well.
+// that exists or not. Links lead through each other: ".." after one of them may go anywhere, so
+// only what passes none before its last ".." counts as inside. Every link that was found inside
+// leads on from a place inside, so following several stays inside as well.
 class LinkTargets
 {
 public:

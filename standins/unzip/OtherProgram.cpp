@@ -39,17 +39,20 @@ int unpackWithOtherProgram(const ArchiveFile &file, const Contents &contents,
                            archive::Report &report)
 {
     if (report.status() != 0 || !isHarmless(file, contents, destination, report))
-        failAs(Damaged, file.path, "It needs another program, which could be led out of the folder");
+        failAs(Damaged, file.path,
+               "It needs another program, which could be led out of the folder");
     const UnzipStatus reason = contents.isEncrypted ? PasswordNeeded : MethodUnknown;
     try {
-        standin::Child unzip({.program = "unzip",
-                              .package = "unzip",
-                              .arguments = {"-q",
-                                            "/proc/self/fd/" + std::to_string(file.descriptor),
-                                            "-d", folder},
-                              .passed = {file.descriptor}});
+        standin::Child unzip(
+            {.program = "unzip",
+             .package = "unzip",
+             .arguments = {"-q", "/proc/self/fd/" + std::to_string(file.descriptor), "-d", folder},
+             .passed = {file.descriptor}});
         const standin::ChildEnd end = unzip.wait();
-        return end.status == noTerminal || end.signal != 0 ? reason : end.status;
+        const int status = end.status == noTerminal || end.signal != 0 ? reason : end.status;
+        if (status != 0) // it is silent about some
+            report.leftOut(status, file.path, "unzip did not unpack all of it");
+        return status;
     } catch (const standin::Failure &failure) {
         failAs(reason, file.path, failure.what());
     }

@@ -15,8 +15,8 @@
 #include <cstring>
 #include <functional>
 #include <optional>
-#include <utility>
 #include <unordered_set>
+#include <utility>
 
 using standin::FileDescriptor;
 
@@ -79,9 +79,7 @@ void Unpacker::makeFolders()
         }
         if (!isFolder)
             taken.insert(entry.path);
-        auto &list = isFolder                          ? m_folders
-            : entry.kind == Contents::Kind::Link ? m_links
-                                                       : m_files;
+        auto &list = isFolder ? m_folders : entry.kind == Contents::Kind::Link ? m_links : m_files;
         list.push_back(&entry);
     }
 }

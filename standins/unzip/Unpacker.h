@@ -17,7 +17,9 @@ class Unpacker
 public:
     Unpacker(const ArchiveFile &file, const Contents &contents, Destination &destination,
              archive::Report &report)
-        : m_file(file), m_contents(contents), m_destination(destination), m_report(report) { }
+        : m_file(file), m_contents(contents), m_destination(destination), m_report(report)
+    {
+    }
 
     void unpack();
 

@@ -5,8 +5,8 @@
 #include "Destination.h"
 #include "OtherProgram.h"
 #include "Program.h"
-#include "UnzipStatus.h"
 #include "Unpacker.h"
+#include "UnzipStatus.h"
 
 #include <fcntl.h>
 #include <malloc.h>

@@ -14,7 +14,8 @@ public:
     bool take(std::size_t amount)
     {
         std::unique_lock lock(m_mutex);
-        m_changed.wait(lock, [&] { return m_isClosed || m_used == 0 || m_used + amount <= m_limit; });
+        m_changed.wait(lock,
+                       [&] { return m_isClosed || m_used == 0 || m_used + amount <= m_limit; });
         m_used += amount;
         return !m_isClosed;
     }

@@ -54,8 +54,7 @@ z_stream &Deflater::stream()
     }
     auto stream = std::make_unique<z_stream>();
     const int level = m_level == Level::Fastest ? fastestPiece : smallestPiece;
-    if (deflateInit2(stream.get(), level, Z_DEFLATED, rawDeflate, MAX_MEM_LEVEL,
-                     Z_DEFAULT_STRATEGY)
+    if (deflateInit2(stream.get(), level, Z_DEFLATED, rawDeflate, MAX_MEM_LEVEL, Z_DEFAULT_STRATEGY)
         != Z_OK)
         throw std::bad_alloc();
     m_stream.reset(stream.release());

@@ -40,7 +40,8 @@ Piece LargeFile::read(Buffer &buffer)
     piece.bytes = {bytes, static_cast<std::size_t>(count)};
     m_position += piece.bytes.size();
     piece.isLast = piece.bytes.size() < wanted || m_position == m_size;
-    m_before = piece.bytes.substr(piece.bytes.size() - std::min(piece.bytes.size(), dictionarySize));
+    m_before =
+        piece.bytes.substr(piece.bytes.size() - std::min(piece.bytes.size(), dictionarySize));
     return piece;
 }
 

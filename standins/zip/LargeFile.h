@@ -19,7 +19,8 @@ struct Piece {
 };
 
 // Reads a file piece by piece, never further than to the size that it had when it was opened. One
-// that changes meanwhile gives some of the bytes that it had, in order; one that shrinks ends early.
+// that changes meanwhile gives some of the bytes that it had, in order; one that shrinks ends
+// early.
 class LargeFile
 {
 public:
@@ -28,15 +29,17 @@ public:
     static constexpr std::size_t bufferSize = dictionarySize + pieceSize;
 
     LargeFile(std::string name, standin::FileDescriptor file, std::uint64_t size)
-        : m_name(std::move(name)), m_file(std::move(file)), m_size(size) { }
+        : m_name(std::move(name)), m_file(std::move(file)), m_size(size)
+    {
+    }
 
     const std::string &name() const { return m_name; } // in the archive
 
     // The buffer has bufferSize bytes. To be called until the last piece.
     Piece read(Buffer &buffer);
 
-    // Reads once more from the start, for a file that did not get smaller. The number of bytes, 0 at
-    // the end, -1 with errno. Independent of read().
+    // Reads once more from the start, for a file that did not get smaller. The number of bytes, 0
+    // at the end, -1 with errno. Independent of read().
     ssize_t readAgain(std::span<char> bytes, std::uint64_t offset) const;
 
 private:

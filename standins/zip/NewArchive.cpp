@@ -152,8 +152,7 @@ int NewArchive::rename() const
         return errorOf(::linkat(AT_FDCWD, ownDescriptorPath(m_file).c_str(), AT_FDCWD, target,
                                 AT_SYMLINK_FOLLOW));
     const char *temporary = m_temporaryPath.c_str();
-    const int error =
-        errorOf(::renameat2(AT_FDCWD, temporary, AT_FDCWD, target, RENAME_NOREPLACE));
+    const int error = errorOf(::renameat2(AT_FDCWD, temporary, AT_FDCWD, target, RENAME_NOREPLACE));
     if (error != EINVAL && error != ENOSYS)
         return error;
     if (!FileDescriptor(::open(target, O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0600)).isOpen())

@@ -18,7 +18,9 @@ public:
     static constexpr std::size_t maxSmallSize = LargeFile::pieceSize;
 
     TurnSource(FolderWalk &walk, Budget &budget, archive::Report &report)
-        : m_walk(walk), m_budget(budget), m_report(report) { }
+        : m_walk(walk), m_budget(budget), m_report(report)
+    {
+    }
 
     // None when all is handed out or the budget is closed. A piece of a large file is read into the
     // buffer: pieces follow each other, so nobody else could read meanwhile. Waits while too much
