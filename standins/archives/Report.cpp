@@ -17,6 +17,8 @@ constexpr int maxLines = 200;
 
 void Report::print(const std::string &text) const
 {
+    if (!m_areShown)
+        return;
     const std::string line = standin::printable(m_program + ": " + text) + '\n';
     [[maybe_unused]] const auto written = ::write(STDERR_FILENO, line.data(), line.size());
 }

@@ -12,7 +12,12 @@ namespace archive
 class Report
 {
 public:
-    explicit Report(std::string program) : m_program(std::move(program)) { }
+    enum class Lines { Shown, Hidden };
+
+    explicit Report(std::string program, Lines lines = Lines::Shown)
+        : m_program(std::move(program)), m_areShown(lines == Lines::Shown)
+    {
+    }
 
     // "program: name: reason". Only the first lines are shown, so that a hostile archive cannot
     // fill a log; finish() says how many more there were.
@@ -28,6 +33,7 @@ private:
     void print(const std::string &text) const;
 
     const std::string m_program;
+    const bool m_areShown;
     mutable std::mutex m_mutex;
     int m_status = 0;
     int m_lines = 0;
