@@ -95,9 +95,9 @@ std::span<const Contents::Entry *const> Unpacker::takeFiles()
 
 void Unpacker::unpackFiles()
 {
-    const auto isLarge = [](const Entry *file) { return file->size >= largeSize; };
-    std::ranges::stable_partition(m_files, isLarge);
-    m_largeCount = std::ranges::count_if(m_files, isLarge);
+    const auto rest = std::stable_partition(
+        m_files.begin(), m_files.end(), [](const Entry *file) { return file->size >= largeSize; });
+    m_largeCount = static_cast<std::size_t>(rest - m_files.begin());
     const auto work = [this] {
         EntryData data(m_file);
         for (auto files = takeFiles(); !files.empty(); files = takeFiles()) {
