@@ -9,6 +9,9 @@
 #include <memory>
 #include <string_view>
 
+// Memory of one that waits to be written, beside its name and its bytes.
+constexpr std::size_t turnOverhead = 512;
+
 // One piece of work, in the order of the archive: a folder, a whole file, or a piece of a large
 // file.
 struct Turn {

@@ -1,6 +1,7 @@
 #include "TurnQueue.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace
 {
@@ -32,8 +33,12 @@ void TurnQueue::write(const Waiting &turn)
 // Numbers are given once, so nobody else comes with the one that is being written.
 void TurnQueue::put(std::uint64_t number, PackedTurn packed, std::size_t reserved)
 {
-    if (!isTurnOf(number))
+    if (!isTurnOf(number)) {
         keep(packed);
+        const std::size_t kept = packed.bytes.size() + packed.item.name.size() + turnOverhead;
+        if (kept < reserved)
+            m_budget.giveBack(reserved - std::exchange(reserved, kept));
+    }
     std::unique_lock lock(m_mutex);
     Waiting turn{std::move(packed), reserved};
     if (number != m_next) {

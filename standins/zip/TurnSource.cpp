@@ -10,12 +10,10 @@
 namespace
 {
 
-constexpr std::size_t overhead = 512; // of a turn that waits to be written
-
 std::size_t memoryFor(const Turn &turn)
 {
     const auto size = static_cast<std::uint64_t>(turn.item.status.st_size);
-    const std::size_t names = overhead + turn.item.name.size();
+    const std::size_t names = turnOverhead + turn.item.name.size();
     if (turn.large)
         return names + LargeFile::pieceSize;
     if (!turn.item.folder)
