@@ -1,12 +1,10 @@
 #include "CentralDirectory.h"
 
 #include "LittleEndian.h"
+#include "System.h"
 #include "UnzipStatus.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <optional>
 
 using archive::numberAt;
@@ -150,8 +148,8 @@ std::optional<CentralDirectory::Item> takeItem(std::string_view &rest)
                                 .header = numberAt<std::uint32_t>(rest, 42),
                                 .crc = numberAt<std::uint32_t>(rest, 16),
                                 .method = numberAt<std::uint16_t>(rest, 10)};
-    item.isUnknownKind =
-        (flags & (isEncrypted | isPatch | isMasked)) != 0 || numberAt<std::uint16_t>(rest, 34) != 0;
+    item.isEncrypted = (flags & (isEncrypted | isMasked)) != 0;
+    item.isUnknown = (flags & isPatch) != 0 || numberAt<std::uint16_t>(rest, 34) != 0;
     if (!takeLongValues(item, rest.substr(headerSize + nameSize, extraSize)))
         return std::nullopt;
     rest.remove_prefix(size);
@@ -162,16 +160,9 @@ std::optional<CentralDirectory::Item> takeItem(std::string_view &rest)
 
 void ArchiveFile::read(std::uint64_t offset, char *bytes, std::size_t count) const
 {
-    while (count > 0) {
-        const ssize_t got = ::pread(descriptor, bytes, count, static_cast<off_t>(offset));
-        if (got == 0 || (got < 0 && errno != EINTR))
-            failAs(Damaged, path, "The archive cannot be read to its end");
-        if (got > 0) {
-            bytes += got;
-            offset += static_cast<std::uint64_t>(got);
-            count -= static_cast<std::size_t>(got);
-        }
-    }
+    const ssize_t got = archive::readFully(descriptor, {bytes, count}, offset);
+    if (got < 0 || static_cast<std::size_t>(got) < count)
+        failAs(Damaged, path, "The archive cannot be read to its end");
 }
 
 CentralDirectory CentralDirectory::read(const ArchiveFile &file)

@@ -28,7 +28,8 @@ struct CentralDirectory {
         std::uint64_t data = 0; // see LocalHeaders.h
         std::uint32_t crc = 0;
         std::uint16_t method = 0;
-        bool isUnknownKind = false; // encrypted, a patch or in another volume
+        bool isEncrypted = false;
+        bool isUnknown = false; // a patch, or in another volume
         bool isSound = false; // see LocalHeaders.h
     };
 

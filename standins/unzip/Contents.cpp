@@ -125,7 +125,8 @@ std::time_t EntryReader::time() const
 std::optional<Contents::Kind> EntryReader::kind(std::string_view name) const
 {
     const mode_t type = unixMode() & S_IFMT;
-    if (name.ends_with('/') || type == S_IFDIR || (isDos() && (m_attributes & dosFolder) != 0))
+    const bool isDosFolder = isDos() && (m_attributes & dosFolder) != 0 && m_item.size == 0;
+    if (name.ends_with('/') || type == S_IFDIR || isDosFolder)
         return Contents::Kind::Folder;
     if (type == S_IFLNK)
         return Contents::Kind::Link;
@@ -184,8 +185,9 @@ void Collector::add(EntryReader &reader, const CentralDirectory::Item &item)
     } else if (!isNew(*path, *kind)) {
         m_report.leftOut(SomethingLeftOut, name, "Another entry has this name");
     } else {
-        const bool isEncrypted = reader.isEncrypted() || item.isUnknownKind;
-        const bool isKnown = item.method == ZIP_CM_STORE || item.method == ZIP_CM_DEFLATE;
+        const bool isEncrypted = reader.isEncrypted() || item.isEncrypted;
+        const bool isKnown =
+            !item.isUnknown && (item.method == ZIP_CM_STORE || item.method == ZIP_CM_DEFLATE);
         m_contents.isEncrypted = m_contents.isEncrypted || isEncrypted;
         m_contents.hasUnknownMethod = m_contents.hasUnknownMethod || !isKnown;
         m_contents.entries.push_back({.path = *path,

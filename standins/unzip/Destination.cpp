@@ -2,10 +2,10 @@
 
 #include "EntryName.h"
 #include "Failure.h"
+#include "System.h"
 
 #include <fcntl.h>
 #include <linux/openat2.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <sys/syscall.h>
@@ -32,27 +32,11 @@ FileDescriptor openBelow(int folder, const std::string &path, int flags, mode_t 
     return FileDescriptor(static_cast<int>(::syscall(SYS_openat2, folder, name, &how, sizeof how)));
 }
 
-void allowDeepFolders()
-{
-    rlimit limit;
-    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
-        limit.rlim_cur = limit.rlim_max;
-        ::setrlimit(RLIMIT_NOFILE, &limit);
-    }
-}
-
-mode_t currentMask()
-{
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return mask;
-}
-
 } // namespace
 
-Destination::Destination(const std::string &path) : m_mask(currentMask())
+Destination::Destination(const std::string &path) : m_mask(archive::currentMask())
 {
-    allowDeepFolders();
+    archive::allowDeepFolders();
     if (::mkdir(path.c_str(), 0777) != 0 && errno != EEXIST)
         standin::failWithError(path, errno);
     m_root = FileDescriptor(::open(path.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));

@@ -3,6 +3,7 @@
 #include "EntryName.h"
 #include "LinkTargets.h"
 #include "ProcessorThreads.h"
+#include "System.h"
 #include "UnzipStatus.h"
 
 #include <fcntl.h>
@@ -26,11 +27,6 @@ namespace
 constexpr std::uint64_t largeSize = 4 << 20; // such files go first, so that none is left at the end
 constexpr std::size_t filesAtATime = 16; // neighbours, mostly of one folder
 
-bool isLackOfRoom(int error)
-{
-    return error == ENOSPC || error == EDQUOT || error == EFBIG;
-}
-
 void writeFully(const FileDescriptor &file, std::string_view bytes, const Contents::Entry &entry)
 {
     while (!bytes.empty()) {
@@ -46,7 +42,7 @@ void writeFully(const FileDescriptor &file, std::string_view bytes, const Conten
 
 void Unpacker::leaveOut(const Entry &entry, int error)
 {
-    if (isLackOfRoom(error))
+    if (archive::isLackOfRoom(error))
         failAs(NoRoom, entry.path, std::strerror(error));
     if (error == ELOOP || error == EXDEV)
         m_report.leftOut(SomethingLeftOut, entry.path, "A link in the folder leads elsewhere");
@@ -66,6 +62,8 @@ void Unpacker::unpack()
 void Unpacker::makeFolders()
 {
     std::unordered_set<std::string_view> taken;
+    EntryData data(m_file);
+    const auto ignore = [](std::string_view) {}; // some programs pack no bytes as a few
     for (const Entry &entry : m_contents.entries) {
         const bool isFolder = entry.kind == Contents::Kind::Folder;
         const std::string_view folder = isFolder ? entry.path : entryname::folderOf(entry.path);
@@ -79,6 +77,8 @@ void Unpacker::makeFolders()
         }
         if (!isFolder)
             taken.insert(entry.path);
+        else if (entry.size > 0 || !data.readPieces(entry, ignore))
+            m_report.leftOut(Damaged, entry.path, "A folder with data");
         auto &list = isFolder ? m_folders : entry.kind == Contents::Kind::Link ? m_links : m_files;
         list.push_back(&entry);
     }

@@ -1,5 +1,6 @@
 #include "ArchiveWriter.h"
 
+#include "System.h"
 #include "ZipStatus.h"
 
 #include <libdeflate.h>
@@ -124,7 +125,7 @@ void ArchiveWriter::copyList()
     const Buffer buffer(copySize);
     for (std::uint64_t position = 0; position < m_earlierSize;) {
         const ssize_t count =
-            readFully(m_earlierList.number(), {buffer.data(), buffer.size()}, position);
+            archive::readFully(m_earlierList.number(), {buffer.data(), buffer.size()}, position);
         if (count <= 0)
             failAs(NoRoom, m_archive.target(), std::strerror(errno));
         append({buffer.data(), static_cast<std::size_t>(count)});

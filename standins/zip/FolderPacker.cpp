@@ -3,6 +3,7 @@
 #include "ArchiveWriter.h"
 #include "Budget.h"
 #include "FolderWalk.h"
+#include "NewArchive.h"
 #include "Packer.h"
 #include "ProcessorThreads.h"
 #include "TurnQueue.h"
@@ -27,14 +28,13 @@ std::size_t memoryForTurns(unsigned threads)
 
 } // namespace
 
-void packCurrentFolder(const std::string &target, Level level, archive::Report &report,
-                       NewArchive::Temporary temporary)
+void packCurrentFolder(const std::string &target, Level level, archive::Report &report)
 {
     ::mallopt(M_MMAP_THRESHOLD, 128 * 1024); // fixed, so that larger buffers go back at once
     FolderWalk walk(report);
     Budget budget(memoryForTurns(archive::processorCount()));
     TurnSource source(walk, budget, report);
-    NewArchive archive(target, temporary);
+    NewArchive archive(target);
     walk.passOver(archive.status());
     ArchiveWriter writer(archive);
     TurnQueue queue(writer, budget);

@@ -1,9 +1,9 @@
 #include "FolderWalk.h"
 
+#include "System.h"
 #include "ZipStatus.h"
 
 #include <fcntl.h>
-#include <sys/resource.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -16,15 +16,6 @@ namespace
 
 constexpr std::size_t maxLevels = 4000; // each keeps a descriptor and some 8 KiB
 constexpr std::size_t maxNameLength = 65535; // of the format
-
-void allowDeepFolders()
-{
-    rlimit limit;
-    if (::getrlimit(RLIMIT_NOFILE, &limit) == 0) {
-        limit.rlim_cur = limit.rlim_max;
-        ::setrlimit(RLIMIT_NOFILE, &limit);
-    }
-}
 
 OpenFolder openFolder(int parent, const char *leaf)
 {
@@ -44,7 +35,7 @@ bool isDots(std::string_view name)
 
 FolderWalk::FolderWalk(archive::Report &report) : m_report(report)
 {
-    allowDeepFolders();
+    archive::allowDeepFolders();
     open(AT_FDCWD, ".", std::nullopt);
 }
 

@@ -1,26 +1,9 @@
 #include "LargeFile.h"
 
-#include <unistd.h>
+#include "System.h"
 
 #include <algorithm>
 #include <cerrno>
-
-ssize_t readFully(int file, std::span<char> bytes, std::uint64_t offset)
-{
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-        const ssize_t count = ::pread(file, bytes.data() + done, bytes.size() - done,
-                                      static_cast<off_t>(offset + done));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return -1;
-        if (count == 0)
-            break;
-        done += static_cast<std::size_t>(count);
-    }
-    return static_cast<ssize_t>(done);
-}
 
 Piece LargeFile::read(Buffer &buffer)
 {
@@ -31,7 +14,7 @@ Piece LargeFile::read(Buffer &buffer)
     Piece piece{.dictionary = {bytes - m_before.size(), m_before.size()},
                 .isFirst = m_position == 0};
 
-    const ssize_t count = readFully(m_file.number(), {bytes, wanted}, m_position);
+    const ssize_t count = archive::readFully(m_file.number(), {bytes, wanted}, m_position);
     if (count < 0) {
         piece.error = errno;
         piece.isLast = true;
@@ -47,5 +30,5 @@ Piece LargeFile::read(Buffer &buffer)
 
 ssize_t LargeFile::readAgain(std::span<char> bytes, std::uint64_t offset) const
 {
-    return readFully(m_file.number(), bytes, offset);
+    return archive::readFully(m_file.number(), bytes, offset);
 }

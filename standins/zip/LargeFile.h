@@ -49,6 +49,3 @@ private:
     std::uint64_t m_position = 0;
     std::string m_before; // the end of the last piece as it was read, whatever the file holds now
 };
-
-// Reads until the bytes are filled or the file ends. The number of bytes, -1 with errno.
-ssize_t readFully(int file, std::span<char> bytes, std::uint64_t offset);

@@ -1,6 +1,7 @@
 #include "NewArchive.h"
 
 #include "EndOnSignal.h"
+#include "System.h"
 #include "ZipStatus.h"
 
 #include <fcntl.h>
@@ -29,18 +30,6 @@ std::string ownDescriptorPath(const FileDescriptor &file)
     return "/proc/self/fd/" + std::to_string(file.number());
 }
 
-mode_t modeOfNewFiles()
-{
-    const mode_t mask = ::umask(0);
-    ::umask(mask);
-    return 0666 & ~mask;
-}
-
-bool isLackOfRoom(int error)
-{
-    return error == ENOSPC || error == EDQUOT || error == EFBIG;
-}
-
 } // namespace
 
 NewArchive::NewArchive(const std::string &target, Temporary temporary)
@@ -62,7 +51,7 @@ NewArchive::~NewArchive()
 
 void NewArchive::failToCreate(int error) const
 {
-    failAs(isLackOfRoom(error) ? NoRoom : CannotCreate, m_target, std::strerror(error));
+    failAs(archive::isLackOfRoom(error) ? NoRoom : CannotCreate, m_target, std::strerror(error));
 }
 
 // Any refusal means "not on this file system"; a real fault comes back when openNamed() tries.
@@ -129,7 +118,8 @@ void NewArchive::publish(std::uint64_t size)
 {
     if (::ftruncate(m_file.number(), static_cast<off_t>(size)) != 0)
         failToCreate(errno);
-    if (::fchmod(m_file.number(), modeOfNewFiles()) != 0 && errno != EPERM) // EPERM: no modes there
+    if (::fchmod(m_file.number(), 0666 & ~archive::currentMask()) != 0
+        && errno != EPERM) // EPERM: no modes there
         failToCreate(errno);
     const standin::EndingHeldBack held;
     const int error = rename();

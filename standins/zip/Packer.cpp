@@ -1,5 +1,6 @@
 #include "Packer.h"
 
+#include "System.h"
 #include "TurnSource.h"
 #include "ZipStatus.h"
 
@@ -55,7 +56,7 @@ PackedTurn Packer::packSmall(FoundItem item, const standin::FileDescriptor &file
     m_output.require(TurnSource::maxSmallSize);
     const auto size = static_cast<std::size_t>(item.status.st_size);
     const std::size_t limit = size > 0 ? size : TurnSource::maxSmallSize + 1;
-    const ssize_t count = readFully(file.number(), {m_input.data(), limit}, 0);
+    const ssize_t count = archive::readFully(file.number(), {m_input.data(), limit}, 0);
     if (count < 0)
         return lost(std::move(item), errno);
     const std::string_view bytes{m_input.data(), static_cast<std::size_t>(count)};
@@ -72,7 +73,7 @@ PackedTurn Packer::packSmall(FoundItem item, const standin::FileDescriptor &file
 PackedTurn Packer::packBig(FoundItem item, const standin::FileDescriptor &file)
 {
     Buffer input(static_cast<std::size_t>(item.status.st_size));
-    const ssize_t count = readFully(file.number(), {input.data(), input.size()}, 0);
+    const ssize_t count = archive::readFully(file.number(), {input.data(), input.size()}, 0);
     if (count < 0)
         return lost(std::move(item), errno);
     const std::string_view bytes{input.data(), static_cast<std::size_t>(count)};

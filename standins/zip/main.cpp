@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <new>
 #include <optional>
@@ -46,6 +47,8 @@ bool exists(const std::string &path)
 [[noreturn]] void update(const std::string &path, const std::string &level)
 {
     const std::string archive = path.starts_with('-') ? "./" + path : path;
+    for (int signal : {SIGPIPE, SIGXFSZ}) // which are ignored here, and would stay so
+        std::signal(signal, SIG_DFL);
     ::execl("/usr/bin/zip", "zip", "-r", archive.c_str(), ".", level.c_str(), "-q", nullptr);
     failAs(CannotCreate, path,
            "It exists, and zip, which could update it, cannot be started: "

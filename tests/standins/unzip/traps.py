@@ -155,7 +155,8 @@ TRAPS = {
         "<HHQ", 1, 8, 1 << 62)), GOOD, Entry(b"y", size=0xFFFFFFFF, extra=struct.pack(
             "<HHQ", 1, 8, 1 << 62)), left={}),
     "other local name": Trap.of(3, Entry(b"x", local_name=b"y"), GOOD),
-    "folder with data": Trap.of(0, Entry(b"d/", b"", packed=b"\3\0", method=DEFLATE, mode=FOLDER),
+    "folder with data": Trap.of(3, Entry(b"d/", mode=FOLDER), GOOD, left=ALL | {b"d": None}),
+    "folder with packed nothing": Trap.of(0, Entry(b"d/", b"", packed=b"\3\0", method=DEFLATE, mode=FOLDER),
                                 GOOD, left=ALL | {b"d": None}),
     # Structure
     "one data, two entries": Trap.of(12, GOOD, Entry(b"good", b"good", offset=0), left={}),
@@ -182,7 +183,8 @@ TRAPS = {
     "encrypted and device": Trap.of(3, Entry(b"x", flags=ENCRYPTED, packed=b"p" * 16),
                                     Entry(b"f", b"", mode=stat.S_IFIFO), left={}),
     "volumes": Trap.of(81, GOOD, volume=1, left={}),
-    "other volume": Trap.of(3, Entry(b"x", volume=2), Entry(b"/y"), left={}),
+    "other volume": Trap.of(0, Entry(b"x", volume=2), GOOD, left=ALL | {b"x": b"data"}),
+    "other volume and above": Trap.of(3, Entry(b"x", volume=2), Entry(b"/y"), left={}),
 }
 
 

@@ -134,6 +134,24 @@ class Zip(Trial):
         self.assertEqual(len(end.stderr.splitlines()), 5)
         self.assertEqual({entry[0] for entry in entries(self.archive)},
                          {b"a/", b"a/b/", b"a/other/", b"a/file"})
+        self.accept(self.archive)
+
+    def test_depth_has_no_limit_but_descriptors(self):
+        before = os.getcwd()
+        self.addCleanup(os.chdir, before)
+        os.chdir(self.folder)
+        for _ in range(300):
+            os.mkdir("n" * 100)
+            os.chdir("n" * 100)
+        Path("file").write_text("at the bottom")
+        os.chdir(before)
+        self.assertEqual(self.pack().returncode, 0)
+        target = self.around / "unpacked"
+        self.assertEqual(run(PROGRAMS / "unzip", "-q", self.archive, "-d", target).returncode, 0)
+        os.chdir(target)
+        for _ in range(300):
+            os.chdir("n" * 100)
+        self.assertEqual(Path("file").read_text(), "at the bottom")
 
     def test_statuses(self):
         self.assertEqual(self.pack().returncode, 12)
@@ -167,6 +185,7 @@ class Zip(Trial):
         self.assertEqual(end.returncode, 18, end.stderr)
         self.assertEqual(len(end.stderr.splitlines()), 2)
         self.assertEqual({entry[0] for entry in entries(self.archive)}, {b"fine", b"shut/"})
+        self.accept(self.archive)
 
     def test_an_archive_that_exists_is_updated(self):
         for name in ("older", "newer"):
