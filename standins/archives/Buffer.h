@@ -4,7 +4,7 @@
 #include <memory>
 #include <utility>
 
-// Memory for bytes that are about to be read or made; they are not set before.
+/// Memory for bytes that are about to be read or made; they are not set before.
 class Buffer
 {
 public:
@@ -27,11 +27,11 @@ public:
     char *data() const { return m_bytes.get(); }
     std::size_t size() const { return m_size; }
 
-    // Makes room for so many bytes; what was in it is lost if it has to grow.
+    /// Makes room for so many bytes; what was in it is lost if it has to grow.
     void require(std::size_t size)
     {
         if (size > m_size) {
-            *this = Buffer(); // first, so that there is one at a time
+            *this = Buffer(); ///< first, so that there is one at a time
             *this = Buffer(size);
         }
     }

@@ -8,6 +8,7 @@
 namespace archive
 {
 
+/// Appends the number as it stands in archives: the lowest byte first.
 template <class Number>
 void append(std::string &bytes, Number number)
 {
@@ -15,7 +16,7 @@ void append(std::string &bytes, Number number)
         bytes += static_cast<char>(static_cast<std::uint64_t>(number) >> (8 * i));
 }
 
-// The caller has checked that the bytes are there.
+/// The caller has checked that the bytes are there.
 template <class Number>
 Number numberAt(std::string_view bytes, std::size_t offset)
 {

@@ -12,8 +12,21 @@ namespace archive
 
 namespace
 {
+
 constexpr int maxLines = 200;
+constexpr std::size_t maxNameLength = 500; // on both sides of what is left out
+
+std::string shortened(std::string_view name)
+{
+    if (name.empty())
+        return "(no name)";
+    if (name.size() <= 2 * maxNameLength)
+        return std::string(name);
+    return std::string(name.substr(0, maxNameLength)) + "..."
+        + std::string(name.substr(name.size() - maxNameLength));
 }
+
+} // namespace
 
 void Report::print(const std::string &text) const
 {
@@ -28,7 +41,7 @@ void Report::leftOut(int status, std::string_view name, std::string_view reason)
     const std::scoped_lock lock(m_mutex);
     m_status = std::max(m_status, status);
     if (++m_lines <= maxLines)
-        print(std::string(name.empty() ? "(no name)" : name) + ": " + std::string(reason));
+        print(shortened(name) + ": " + std::string(reason));
 }
 
 void Report::leftOut(int status, std::string_view name, int error)

@@ -7,11 +7,12 @@
 namespace archive
 {
 
-// What a run leaves out, as lines on standard error, and the exit status that follows from it. For
-// use by several threads.
+/// What a run leaves out, as lines on standard error, and the exit status that follows from it. For
+/// use by several threads.
 class Report
 {
 public:
+    /// Hidden ones are for the fuzzer, which would print millions.
     enum class Lines { Shown, Hidden };
 
     explicit Report(std::string program, Lines lines = Lines::Shown)
@@ -19,14 +20,15 @@ public:
     {
     }
 
-    // "program: name: reason". Only the first lines are shown, so that a hostile archive cannot
-    // fill a log; finish() says how many more there were.
+    /// "program: name: reason". Only the first lines are shown, so that a hostile archive cannot
+    /// fill a log; finish() says how many more there were.
     void leftOut(int status, std::string_view name, std::string_view reason);
+    /// The same with the system's words for an errno value.
     void leftOut(int status, std::string_view name, int error);
 
     void finish();
 
-    // The highest of the statuses so far, 0 if nothing was left out.
+    /// The highest of the statuses so far, 0 if nothing was left out.
     int status() const;
 
 private:

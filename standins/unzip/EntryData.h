@@ -12,22 +12,23 @@
 #include <optional>
 #include <string_view>
 
-// Gives the bytes of entries, stored or deflated, and checks every one of them: one for each
-// thread.
+/// Gives the bytes of entries, stored or deflated, and checks every one of them: one for each
+/// thread.
 class EntryData
 {
 public:
+    /// The file must outlive it.
     explicit EntryData(const ArchiveFile &file) : m_file(file) { }
 
-    // Whether both forms of it fit into the memory that a thread may use.
+    /// Whether both forms of it fit into the memory that a thread may use.
     static bool isSmall(const Contents::Entry &entry);
 
-    // All bytes of a small entry, which stay until the next call. None if the entry does not keep
-    // its size or checksum.
+    /// All bytes of a small entry, which stay until the next call. None if the entry does not keep
+    /// its size or checksum.
     std::optional<std::string_view> readWhole(const Contents::Entry &entry);
 
-    // Hands the bytes of any entry to the sink piece by piece, never more than its size. False if
-    // the entry does not keep its size or checksum, which shows at the end only.
+    /// Hands the bytes of any entry to the sink piece by piece, never more than its size. False if
+    /// the entry does not keep its size or checksum, which shows at the end only.
     using Sink = std::function<void(std::string_view)>;
     bool readPieces(const Contents::Entry &entry, const Sink &sink);
 

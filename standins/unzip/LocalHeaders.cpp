@@ -33,7 +33,7 @@ Range readHeader(CentralDirectory::Item &item, const ArchiveFile &file, std::uin
     }
     item.data = item.header + size;
     if (size > room || item.packedSize > room - size)
-        failAs(PartsOverlap, std::string(item.name), "Its data reach into the archive's directory");
+        failAs(PartsOverlap, file.path, "An entry reaches into the archive's directory");
     return {item.header, item.data + item.packedSize};
 }
 

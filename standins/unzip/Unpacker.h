@@ -10,8 +10,8 @@
 #include <span>
 #include <vector>
 
-// Unpacks what an archive holds: folders, then files on all processors, then links, and last the
-// folders' times and modes, which the rest would change. Fails with NoRoom if the disk is full.
+/// Unpacks what an archive holds: folders, then files on all processors, then links, and last the
+/// folders' times and modes, which the rest would change. Fails with NoRoom if the disk is full.
 class Unpacker
 {
 public:
@@ -21,6 +21,7 @@ public:
     {
     }
 
+    /// To be called once.
     void unpack();
 
 private:
@@ -42,7 +43,7 @@ private:
     std::vector<const Entry *> m_links;
     std::vector<const Entry *> m_folders;
     std::mutex m_mutex;
-    std::size_t m_next = 0; // of the files
-    std::size_t m_largeCount = 0; // of them, at the front
+    std::size_t m_next = 0; ///< of the files
+    std::size_t m_largeCount = 0; ///< of them, at the front
     std::atomic<bool> m_isStopped = false;
 };

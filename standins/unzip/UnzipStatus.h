@@ -4,7 +4,7 @@
 
 #include <string>
 
-// The exit statuses of `unzip` that mean the same here.
+/// The exit statuses of `unzip` that mean the same here.
 enum UnzipStatus {
     SomethingLeftOut = 1,
     Damaged = 3,
@@ -16,6 +16,7 @@ enum UnzipStatus {
     PasswordNeeded = 82,
 };
 
+/// Ends the run with this status and the line "unzip: path: why".
 [[noreturn]] inline void failAs(UnzipStatus status, const std::string &path, const std::string &why)
 {
     throw standin::Failure(static_cast<standin::ExitStatus>(status), path + ": " + why);

@@ -109,15 +109,17 @@ void ArchiveWriter::storeAgain(const LargeFile &file)
 
 void ArchiveWriter::list(const format::Entry &entry)
 {
-    m_list += format::centralHeader(entry);
+    const std::string header = format::centralHeader(entry);
     ++m_count;
-    if (m_list.size() < maxList)
+    if (m_list.size() + header.size() <= maxList) {
+        m_list += header;
         return;
+    }
     if (!m_earlierList.isOpen())
         m_earlierList = m_archive.scratchFile();
     NewArchive::write(m_earlierList, m_earlierSize, m_list, m_archive.target());
     m_earlierSize += m_list.size();
-    m_list.clear();
+    m_list = header;
 }
 
 void ArchiveWriter::copyList()

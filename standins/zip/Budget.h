@@ -4,13 +4,13 @@
 #include <cstddef>
 #include <mutex>
 
-// Memory that all work in progress may have together.
+/// Memory that all work in progress may have together.
 class Budget
 {
 public:
     explicit Budget(std::size_t limit) : m_limit(limit) { }
 
-    // Waits until there is enough left; who is alone gets any amount. False once it is closed.
+    /// Waits until there is enough left; who is alone gets any amount. False once it is closed.
     bool take(std::size_t amount)
     {
         std::unique_lock lock(m_mutex);

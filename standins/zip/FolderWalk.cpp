@@ -14,7 +14,7 @@
 namespace
 {
 
-constexpr std::size_t maxLevels = 4000; // each keeps a descriptor and some 8 KiB
+constexpr std::size_t maxLevels = 1000; // each keeps a descriptor and some 16 KiB
 constexpr std::size_t maxNameLength = 65535; // of the format
 
 OpenFolder openFolder(int parent, const char *leaf)

@@ -5,16 +5,16 @@
 #include "Report.h"
 #include "Turn.h"
 
-// Reads and packs one turn after the other; one for each thread.
+/// Reads and packs one turn after the other; one for each thread.
 class Packer
 {
 public:
     Packer(Level level, archive::Report &report) : m_deflater(level), m_report(report) { }
 
-    // Where a piece of a large file is read to, before its turn is packed.
+    /// Where a piece of a large file is read to, before its turn is packed.
     Buffer &input() { return m_input; }
 
-    // The result's bytes may lie in buffers of the packer's until it packs the next.
+    /// The result's bytes may lie in buffers of the packer's until it packs the next.
     PackedTurn pack(Turn turn);
 
 private:

@@ -8,13 +8,13 @@
 #include <mutex>
 #include <optional>
 
-// Hands out the work in the order of the archive, to one thread at a time.
+/// Hands out the work in the order of the archive, to one thread at a time.
 class TurnSource
 {
 public:
-    // Files up to this size are packed whole.
+    /// Files up to this size are packed whole.
     static constexpr std::uint64_t maxWholeSize = 40 << 20;
-    // Up to this size a worker packs in buffers that it keeps.
+    /// Up to this size a worker packs in buffers that it keeps.
     static constexpr std::size_t maxSmallSize = LargeFile::pieceSize;
 
     TurnSource(FolderWalk &walk, Budget &budget, archive::Report &report)
@@ -22,9 +22,9 @@ public:
     {
     }
 
-    // None when all is handed out or the budget is closed. A piece of a large file is read into the
-    // buffer: pieces follow each other, so nobody else could read meanwhile. Waits while too much
-    // memory is in use.
+    /// None when all is handed out or the budget is closed. A piece of a large file is read into
+    /// the buffer: pieces follow each other, so nobody else could read meanwhile. Waits while too
+    /// much memory is in use.
     std::optional<Turn> next(Buffer &buffer);
 
 private:
@@ -36,9 +36,9 @@ private:
     archive::Report &m_report;
     std::mutex m_mutex;
     std::uint64_t m_count = 0;
-    std::shared_ptr<LargeFile> m_large; // whose pieces are handed out
+    std::shared_ptr<LargeFile> m_large; ///< whose pieces are handed out
 };
 
-// The file, if it can be opened and is a regular one still; its status is then the newest. Never
-// waits. Not open with errno otherwise.
+/// The file, if it can be opened and is a regular one still; its status is then the newest. Never
+/// waits. Not open with errno otherwise.
 standin::FileDescriptor openFile(FoundItem &item);

@@ -74,7 +74,8 @@ class Traps(unittest.TestCase):
         self.assertEqual(listing(outside), {})
 
     def test_modes_and_times(self):
-        modes = [Entry(b"all", mode=stat.S_IFREG | 0o7777), Entry(b"own", mode=stat.S_IFREG | 0o600),
+        modes = [Entry(b"all", mode=stat.S_IFREG | 0o7777),
+                 Entry(b"own", mode=stat.S_IFREG | 0o600),
                  Entry(b"dos", system=0, mode=0, dos=1), Entry(b"none", mode=0),
                  Entry(b"shut/x"), Entry(b"shut/", b"", mode=stat.S_IFDIR | 0o2500),
                  Entry(b"early", extra=b"UT\5\0\1" + (-86400).to_bytes(4, "little", signed=True))]

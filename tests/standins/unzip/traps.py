@@ -156,7 +156,8 @@ TRAPS = {
             "<HHQ", 1, 8, 1 << 62)), left={}),
     "other local name": Trap.of(3, Entry(b"x", local_name=b"y"), GOOD),
     "folder with data": Trap.of(3, Entry(b"d/", mode=FOLDER), GOOD, left=ALL | {b"d": None}),
-    "folder with packed nothing": Trap.of(0, Entry(b"d/", b"", packed=b"\3\0", method=DEFLATE, mode=FOLDER),
+    "folder with packed nothing": Trap.of(0, Entry(b"d/", b"", packed=b"\3\0", method=DEFLATE,
+                                                   mode=FOLDER),
                                 GOOD, left=ALL | {b"d": None}),
     # Structure
     "one data, two entries": Trap.of(12, GOOD, Entry(b"good", b"good", offset=0), left={}),

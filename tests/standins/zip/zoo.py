@@ -5,8 +5,9 @@ import random
 import socket
 import stat
 
-NAMES = [b"n" * 255, b"\xff\xfe\x80", "ünïcødé 漢字 🙂".encode(), b"line\nbreak", b"-q", b"--", b"@", b"*?[a]",
-         b"back\\slash", b" blanks ", b"semi;1", b"semi;2", b"dots...", b".hidden", b"quote'\"`$x",
+NAMES = [b"n" * 255, b"\xff\xfe\x80", "ünïcødé 漢字 🙂".encode(), b"line\nbreak", b"-q", b"--",
+         b"@", b"*?[a]", b"back\\slash", b" blanks ", b"semi;1", b"semi;2", b"dots...", b".hidden",
+         b"quote'\"`$x",
          b"\x01\x7f", b"%s%n", "e\u0301".encode(), b"\xed\xa0\x80"]
 TIMES = [0, 1, 315532800, 315532799, 1000000001, 2147483647, -1]
 SIZES = [0, 1, 2, 3, 100, 65535, 65536, (1 << 20) - 1, 1 << 20, (1 << 20) + 1]
@@ -16,7 +17,8 @@ MODES = [0o644, 0o600, 0o755, 0o4755, 0o2711, 0o444, 0o1777]
 def contents(size, seed):
     """Half of it can be packed well, half not at all."""
     half = random.Random(seed).randbytes(size // 2)
-    return half + (b"a line of text that comes again and again\n" * (size // 42 + 1))[:size - size // 2]
+    text = b"a line of text that comes again and again\n" * (size // 42 + 1)
+    return half + text[:size - len(half)]
 
 
 def make(folder):
@@ -49,7 +51,8 @@ def make(folder):
     write(b"shared", b"links", b"target")
     os.link(path(b"links", b"target"), path(b"links", b"hard"))
     for name, target in ((b"file", b"target"), (b"folder", b"../modes"), (b"nowhere", b"nothing"),
-                         (b"itself", b"itself"), (b"chain", b"file"), (b"not a folder", b"target/x")):
+                         (b"itself", b"itself"), (b"chain", b"file"),
+                         (b"not a folder", b"target/x")):
         os.symlink(target, path(b"links", name))
     os.mkfifo(path(b"pipe"))
     with socket.socket(socket.AF_UNIX) as server:
