@@ -8,7 +8,7 @@
 namespace archive
 {
 
-/// Appends the number as it stands in archives: the lowest byte first.
+/// Appends the number as archives hold it: the lowest byte first.
 template <class Number>
 void append(std::string &bytes, Number number)
 {

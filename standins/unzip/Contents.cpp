@@ -157,6 +157,7 @@ public:
 
 private:
     bool isNew(const std::string &path, Contents::Kind kind);
+    void list(const EntryReader &reader, const CentralDirectory::Item &item, Contents::Entry entry);
 
     Contents &m_contents;
     archive::Report &m_report;
@@ -176,30 +177,36 @@ void Collector::add(EntryReader &reader, const CentralDirectory::Item &item)
     const bool hasNull = item.name.find('\0') != std::string_view::npos;
     const auto path = hasNull || name.empty() ? std::nullopt : entryname::below(name);
     const auto kind = reader.kind(name);
-    if (!path || (path->empty() && kind != Contents::Kind::Folder)) {
+    if (path && path->empty() && kind == Contents::Kind::Folder)
+        return; // "./": the destination itself, which is the user's
+    if (!path || path->empty())
         m_report.leftOut(SomethingLeftOut, name, "Its name leads out of the folder");
-    } else if (!kind) {
+    else if (!kind)
         m_report.leftOut(SomethingLeftOut, name, "Neither a file, a folder nor a link");
-    } else if (!item.isSound) {
+    else if (!item.isSound)
         m_report.leftOut(Damaged, name, "Its header is damaged");
-    } else if (!isNew(*path, *kind)) {
+    else if (!isNew(*path, *kind))
         m_report.leftOut(SomethingLeftOut, name, "Another entry has this name");
-    } else {
-        const bool isEncrypted = reader.isEncrypted() || item.isEncrypted;
-        const bool isKnown =
-            !item.isUnknown && (item.method == ZIP_CM_STORE || item.method == ZIP_CM_DEFLATE);
-        m_contents.isEncrypted = m_contents.isEncrypted || isEncrypted;
-        m_contents.hasUnknownMethod = m_contents.hasUnknownMethod || !isKnown;
-        m_contents.entries.push_back({.path = *path,
-                                      .kind = *kind,
-                                      .method = item.method,
-                                      .mode = reader.mode(*kind),
-                                      .crc = item.crc,
-                                      .size = item.size,
-                                      .packedSize = item.packedSize,
-                                      .data = item.data,
-                                      .time = reader.time()});
-    }
+    else
+        list(reader, item, {.path = *path, .kind = *kind});
+}
+
+void Collector::list(const EntryReader &reader, const CentralDirectory::Item &item,
+                     Contents::Entry entry)
+{
+    const bool isEncrypted = reader.isEncrypted() || item.isEncrypted;
+    const bool isKnown =
+        !item.isUnknown && (item.method == ZIP_CM_STORE || item.method == ZIP_CM_DEFLATE);
+    m_contents.isEncrypted = m_contents.isEncrypted || isEncrypted;
+    m_contents.hasUnknownMethod = m_contents.hasUnknownMethod || !isKnown;
+    entry.method = item.method;
+    entry.mode = reader.mode(entry.kind);
+    entry.crc = item.crc;
+    entry.size = item.size;
+    entry.packedSize = item.packedSize;
+    entry.data = item.data;
+    entry.time = reader.time();
+    m_contents.entries.push_back(std::move(entry));
 }
 
 } // namespace

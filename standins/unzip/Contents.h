@@ -16,7 +16,7 @@ struct Contents {
     enum class Kind { File, Folder, Link };
 
     struct Entry {
-        std::string path; ///< below the destination
+        std::string path = {}; ///< below the destination
         Kind kind = Kind::File;
         std::uint16_t method = 0;
         mode_t mode = 0; ///< permissions alone

@@ -155,6 +155,7 @@ TRAPS = {
         "<HHQ", 1, 8, 1 << 62)), GOOD, Entry(b"y", size=0xFFFFFFFF, extra=struct.pack(
             "<HHQ", 1, 8, 1 << 62)), left={}),
     "other local name": Trap.of(3, Entry(b"x", local_name=b"y"), GOOD),
+    "destination": Trap.of(0, Entry(b"./", b"", mode=stat.S_IFDIR), Entry(b"./good", b"good")),
     "folder with data": Trap.of(3, Entry(b"d/", mode=FOLDER), GOOD, left=ALL | {b"d": None}),
     "folder with packed nothing": Trap.of(0, Entry(b"d/", b"", packed=b"\3\0", method=DEFLATE,
                                                    mode=FOLDER),
