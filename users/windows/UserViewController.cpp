@@ -18,6 +18,10 @@ namespace
 constexpr auto userColumn = "User"_L1;
 constexpr auto memoColumn = "Memo"_L1;
 
+/// Marks the item "All rights", which may have the same title as a group.
+constexpr int allRightsRole = Qt::UserRole + 1;
+constexpr int maxNameWidth = 260; // in the lines about the groups
+
 } // namespace
 
 UserViewController::UserViewController(QWidget *parent)
@@ -28,6 +32,8 @@ UserViewController::UserViewController(QWidget *parent)
 {
     setObjectName(u"UserViewController"_s);
     ui->setupUi(form());
+    connect(ui->userGroupPopUp, &QComboBox::currentIndexChanged, this,
+            &UserViewController::showGroups);
     awakeFromNib();
 }
 
@@ -46,6 +52,7 @@ void UserViewController::initLocalizables()
 void UserViewController::localInit()
 {
     QComboBox &popUp = *ui->userGroupPopUp;
+    removeAllRightsItem();
     QList<std::pair<QString, int>> items;
     for (int i = 0; i < popUp.count(); ++i)
         items.append({popUp.itemText(i), popUp.itemData(i).toInt()});
@@ -69,12 +76,11 @@ void UserViewController::localInit()
 
 UserSchema UserViewController::getSchema()
 {
-    const bool isGroupShown = ui->userGroupPopUp->currentIndex() >= 0;
     UserSchema user;
-    user.UserGroupID = isGroupShown ? ui->userGroupPopUp->currentData().toInt() : m_unlistedGroup;
-    user.User = MiscTool::encode2UTF8(ui->userField->text());
-    user.Password = MiscTool::encode2UTF8(ui->passwordField->text());
-    user.Memo = MiscTool::encode2UTF8(ui->memoField->text());
+    user.UserGroupID = chosenGroup();
+    user.User = storedText(ui->userField->text());
+    user.Password = storedText(ui->passwordField->text());
+    user.Memo = storedText(ui->memoField->text());
     return user;
 }
 
@@ -94,7 +100,11 @@ bool UserViewController::verify()
         return refuse(*ui->passwordField, "PasswordOverLenAlert");
     if (ui->passwordField->text() != ui->rePasswordField->text())
         return refuse(*ui->rePasswordField, "PasswordNotSameAlert");
-    if (operation == Operation::AddRecord && isTaken(userColumn, name))
+    const std::optional<bool> taken =
+        operation == Operation::AddRecord ? isTaken(userColumn, name) : false;
+    if (!taken)
+        return refuse(*ui->userField, "SaveFail");
+    if (*taken)
         return refuse(*ui->userField, "UserExistAlert");
     return true;
 }
@@ -109,9 +119,11 @@ void UserViewController::setAllStatus(Operation status)
 
 void UserViewController::fillForAdding()
 {
+    m_presentGroup.reset();
     localInit();
     m_unlistedGroup = 0;
     ui->userGroupPopUp->setCurrentIndex(ui->userGroupPopUp->count() > 0 ? 0 : -1);
+    showGroups();
     ui->userField->clear();
     ui->userField->setFocus();
     ui->passwordField->clear();
@@ -134,10 +146,68 @@ void UserViewController::fillFrom(const UserSchema &user)
 // must not change the user's group: its item is selected, or none if it has no item.
 void UserViewController::selectGroupFor(const UserSchema &user)
 {
+    QComboBox &popUp = *ui->userGroupPopUp;
+    m_presentGroup.reset();
+    removeAllRightsItem();
+    if (user.UserGroupID == 0) {
+        popUp.addItem(qtTrId("User.Group.All"), 0);
+        popUp.setItemData(popUp.count() - 1, true, allRightsRole);
+    }
     m_unlistedGroup = user.UserGroupID;
-    const int byUser = ui->userGroupPopUp->findData(user.ID);
-    ui->userGroupPopUp->setCurrentIndex(
-        byUser >= 0 ? byUser : ui->userGroupPopUp->findData(user.UserGroupID));
+    const int byUser = popUp.findData(user.ID);
+    popUp.setCurrentIndex(byUser >= 0 ? byUser : popUp.findData(user.UserGroupID));
+    m_presentGroup = user.UserGroupID;
+    m_presentGroupName = groupName(user.UserGroupID);
+    showGroups();
+}
+
+void UserViewController::removeAllRightsItem()
+{
+    const int item = ui->userGroupPopUp->findData(true, allRightsRole);
+    if (item >= 0)
+        ui->userGroupPopUp->removeItem(item);
+}
+
+int UserViewController::chosenGroup() const
+{
+    const bool isGroupShown = ui->userGroupPopUp->currentIndex() >= 0;
+    return isGroupShown ? ui->userGroupPopUp->currentData().toInt() : m_unlistedGroup;
+}
+
+QString UserViewController::groupName(int ID) const
+{
+    if (ID == 0)
+        return qtTrId("User.Group.All");
+    const auto found =
+        BLGeneral(u"UserGroup"_s).select(u"ID="_s + QString::number(ID), UserGroupSchema{});
+    if (!found)
+        return QString::number(ID);
+    return found->isEmpty() ? qtTrId("User.Group.Gone") : shownText(found->last().Name);
+}
+
+// Editing a password is no reason to look at the group, which the form may change all the same.
+void UserViewController::showGroups()
+{
+    const int chosen = chosenGroup();
+    const bool isMove = m_presentGroup && *m_presentGroup != chosen;
+    QString next = isMove ? ui->userGroupPopUp->currentText() : m_presentGroupName;
+    QString present = m_presentGroupName;
+    if (isMove && next == present) {
+        present += u" (%1)"_s.arg(*m_presentGroup);
+        next += u" (%1)"_s.arg(chosen);
+    }
+    QLabel &lines = *ui->groupsLabel;
+    QFont font = this->font();
+    font.setBold(isMove);
+    lines.setFont(font);
+    lines.setForegroundRole(isMove ? QPalette::BrightText : QPalette::WindowText);
+    const auto line = [&lines](const QString &text, const QString &name) {
+        return text.arg(QFontMetrics(lines.font()).elidedText(name, Qt::ElideMiddle, maxNameWidth));
+    };
+    lines.setText(m_presentGroup ? line(qtTrId("User.Group.Present"), present) + u'\n'
+                          + line(qtTrId("User.Group.Saved"), next)
+                                 : QString(u'\n'));
+    ui->userGroupPopUp->setAccessibleDescription(lines.text().simplified());
 }
 
 QString UserViewController::objectValueForTableColumn(const QString &column, int row)

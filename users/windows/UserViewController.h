@@ -23,7 +23,8 @@ public:
 protected:
     void initLocalizables() override;
     /// Adds the groups to the pop-up: an item for each, with the group's name and its `ID` as data.
-    /// Of two groups with the same name only the later one has an item.
+    /// Of two groups with the same name only the later one has an item. While a user of group 0 is
+    /// edited, a last item with 0 as its data stands for all rights.
     void localInit() override;
     void setAllStatus(Operation status) override;
     UserSchema getSchema() override;
@@ -33,7 +34,13 @@ private:
     void fillForAdding();
     void fillFrom(const UserSchema &user);
     void selectGroupFor(const UserSchema &user);
+    void removeAllRightsItem();
+    int chosenGroup() const; ///< The one that Save stores.
+    QString groupName(int ID) const; ///< As the database has it now.
+    void showGroups();
 
     std::unique_ptr<Ui::UserForm> ui;
     int m_unlistedGroup = 0; ///< The user's group if the pop-up shows none.
+    std::optional<int> m_presentGroup; ///< Of the user who is edited; none while one is added.
+    QString m_presentGroupName;
 };
