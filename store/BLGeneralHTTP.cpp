@@ -54,9 +54,8 @@ int BLGeneral::execHTTP(RecordView record) const
     // As many bytes as the text has UTF-16 units, even if its UTF-8 form is longer. httpPost writes
     // the Content-Length for it.
     const QByteArray body = json.toUtf8().left(json.size());
-    return leadingInteger(post(escaped(address),
-                               {"Accept: application/json", "Content-Type: application/json"},
-                               body));
+    return leadingInteger(post(
+        escaped(address), {"Accept: application/json", "Content-Type: application/json"}, body));
 }
 
 int BLGeneral::deleteHTTP(QAnyStringView whereClause) const

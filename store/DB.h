@@ -71,9 +71,8 @@ public:
     template <RecordClass T>
     static std::optional<QList<T>> select(const QString &sql, const T &)
     {
-        return collect<T>([&](RecordList records) {
-            return selectInto(sql, records, {}) != Selected::Nothing;
-        });
+        return collect<T>(
+            [&](RecordList records) { return selectInto(sql, records, {}) != Selected::Nothing; });
     }
     /// One page of them, see SchemaReflect::getSchemaValueFromeSQLiteRS.
     template <RecordClass T>

@@ -46,8 +46,8 @@ void moveNumber(std::string_view &text, QByteArray &repaired)
     std::int64_t integer = 0;
     const bool isTooLarge = read(number, value).ec == std::errc::result_out_of_range;
     const std::from_chars_result result = read(number, integer);
-    const bool isLongInteger = result.ec == std::errc::result_out_of_range
-        && result.ptr == number.data() + number.size();
+    const bool isLongInteger =
+        result.ec == std::errc::result_out_of_range && result.ptr == number.data() + number.size();
     repaired.append(isTooLarge ? QByteArrayView("null") : QByteArrayView(number));
     if (isLongInteger && !isTooLarge)
         repaired.append(".0");

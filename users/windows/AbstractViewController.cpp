@@ -203,8 +203,7 @@ void AbstractViewController::saveAction()
     const BusyBudget budget;
     if (!verify())
         return;
-    const Stored stored =
-        operation == Operation::EditRecord ? storedRecord() : Stored::Same;
+    const Stored stored = operation == Operation::EditRecord ? storedRecord() : Stored::Same;
     if (stored == Stored::Changed || stored == Stored::Deleted)
         askToSaveAnyway(stored == Stored::Deleted);
     else if (stored == Stored::Unreadable)

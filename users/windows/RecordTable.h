@@ -17,9 +17,10 @@ protected:
     ~RecordTableSource() = default;
 };
 
-/// The table of a record page. At most one row is selected, and no other row has the focus. A click on a header sorts by that
-/// column, a second one reverses the order, a third one restores the order in which the records
-/// were loaded. Rows are given to callers by the record's position in that order.
+/// The table of a record page. At most one row is selected, and no other row has the focus. A click
+/// on a header sorts by that column, a second one reverses the order, a third one restores the
+/// order in which the records were loaded. Rows are given to callers by the record's position in
+/// that order.
 class RecordTable : public QTableView
 {
     Q_OBJECT

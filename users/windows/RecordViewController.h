@@ -110,8 +110,7 @@ protected:
 
     void deleteRecord(int row) override
     {
-        if (row < 0 || !blGeneral
-            || !blGeneral->delete_(clauseFor(row)))
+        if (row < 0 || !blGeneral || !blGeneral->delete_(clauseFor(row)))
             return;
         data.removeAt(row);
         table->reloadRecords();
