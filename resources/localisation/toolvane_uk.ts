@@ -313,7 +313,7 @@
     </message>
     <message id="Menu.Guide">
         <source>&amp;Guide</source>
-        <translation>&amp;Посібник</translation>
+        <translation>По&amp;сібник</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>

@@ -111,6 +111,7 @@ private Q_SLOTS:
         LogLines::take();
         QVERIFY(!gateway.insert(PriceSchema{0, u"b"_s, 2}));
         QCOMPARE(LogLines::take(), QStringList{u"[DB]->(exec):database disk image is malformed"_s});
+        write(whole.first(whole.size() / 2) + QByteArray(whole.size() / 2, '\0'));
         // The rows up to the damage are read, but not taken for all.
         DB::open();
         const auto read = DB::select(u"SELECT * FROM Price"_s, PriceSchema{});

@@ -6,6 +6,8 @@
 #include "ui_UserGroupForm.h"
 
 #include <QCheckBox>
+#include <QTabBar>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -57,6 +59,9 @@ void UserGroupViewController::initLocalizables()
         ui->tabView->setTabText(tab, qtTrId(modules[tab]) + u' ' + qtTrId("Permission"));
     // All tabs are in sight, unless a large font or a long language makes them scroll.
     ui->tabView->setMinimumWidth(std::min(ui->tabView->tabBar()->sizeHint().width(), maxTabsWidth));
+    // The buttons that scroll are for the mouse: arrow keys reach every tab.
+    for (QToolButton *scroller : ui->tabView->tabBar()->findChildren<QToolButton *>())
+        scroller->setFocusPolicy(Qt::NoFocus);
     for (int i = 0; QCheckBox * box : boxes())
         box->setText(qtTrId(rights[i++ % 4]));
 }
