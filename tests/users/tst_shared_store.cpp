@@ -126,6 +126,25 @@ private Q_SLOTS:
         QCOMPARE(RecordsTrial::sqlite(u"SELECT Name FROM UserGroup"_s), u"Clerks"_s);
     }
 
+    void aNewUserWaitsForTheGroups()
+    {
+        RecordsTrial trial;
+        RecordsTrial::storeGroup(u"Sales"_s);
+        RecordsTrial::storeUser(u"bob"_s, 1);
+        {
+            const Lock lock;
+            RecordWindow::open(Users, trial.owner);
+            press(trial.page(Users), "addButton");
+        }
+        const QWidget &page = trial.page(Users);
+        type(page, "userField", u"alice"_s);
+        press(page, "saveButton"); // in no group, alice would have all rights
+        QCOMPARE(trial.boxes.texts, QStringList{u"SaveFail"_s});
+        press(page, "saveButton");
+        QCOMPARE(RecordsTrial::sqlite(u"SELECT UserGroupID FROM User WHERE User='alice'"_s),
+                 u"1"_s);
+    }
+
     void pagesReloadInSightButNotUnderASheet()
     {
         RecordsTrial trial;

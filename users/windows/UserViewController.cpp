@@ -56,10 +56,9 @@ void UserViewController::localInit()
     QList<std::pair<QString, int>> items;
     for (int i = 0; i < popUp.count(); ++i)
         items.append({popUp.itemText(i), popUp.itemData(i).toInt()});
-    const QList<UserGroupSchema> groups = BLGeneral(u"UserGroup"_s)
-                                              .select("1=1", UserGroupSchema{})
-                                              .value_or(QList<UserGroupSchema>());
-    for (const UserGroupSchema &group : groups)
+    const auto groups = BLGeneral(u"UserGroup"_s).select("1=1", UserGroupSchema{});
+    m_areGroupsRead = groups.has_value();
+    for (const UserGroupSchema &group : groups.value_or(QList<UserGroupSchema>()))
         items.append({shownText(group.Name), group.ID});
 
     QHash<QString, qsizetype> lastPosition;
@@ -100,6 +99,11 @@ bool UserViewController::verify()
         return refuse(*ui->passwordField, "PasswordOverLenAlert");
     if (ui->passwordField->text() != ui->rePasswordField->text())
         return refuse(*ui->rePasswordField, "PasswordNotSameAlert");
+    // A new user without an item for the group would get all rights.
+    if (operation == Operation::AddRecord && !m_areGroupsRead) {
+        localInit();
+        return refuse(*ui->userGroupPopUp, "SaveFail");
+    }
     const std::optional<bool> taken =
         operation == Operation::AddRecord ? isTaken(userColumn, name) : false;
     if (!taken)
@@ -197,7 +201,7 @@ void UserViewController::showGroups()
         next += u" (%1)"_s.arg(chosen);
     }
     QLabel &lines = *ui->groupsLabel;
-    QFont font = this->font();
+    QFont font; // the rest is inherited
     font.setBold(isMove);
     lines.setFont(font);
     lines.setForegroundRole(isMove ? QPalette::BrightText : QPalette::WindowText);

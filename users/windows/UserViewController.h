@@ -40,6 +40,7 @@ private:
     void showGroups();
 
     std::unique_ptr<Ui::UserForm> ui;
+    bool m_areGroupsRead = false; ///< When the pop-up was filled last.
     int m_unlistedGroup = 0; ///< The user's group if the pop-up shows none.
     std::optional<int> m_presentGroup; ///< Of the user who is edited; none while one is added.
     QString m_presentGroupName;
