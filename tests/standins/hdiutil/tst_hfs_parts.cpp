@@ -79,7 +79,7 @@ private Q_SLOTS:
             QTemporaryFile file;
             QVERIFY(file.open());
             hfs::ImageFile image(file.handle(), "image");
-            hfs::BTreeWriter tree(image, {512, 516, 0, 6});
+            hfs::BTreeWriter tree(image, {512, 516, 0, 6, 512});
             for (int i = 0; i < records; ++i) {
                 const auto name = u"%1"_s.arg(i % 1000, 3, 10, QChar(u'0')).toStdU16String();
                 tree.append(hfs::catalogKey(static_cast<std::uint32_t>(i / 1000), name),
