@@ -41,7 +41,7 @@ std::optional<std::string> linkTarget(const standin::FileDescriptor &folder,
 
 /// What the regular files of the folder and those below take, in bytes, each rounded up to whole
 /// blocks. Fails if something cannot be read, folders are nested more than 100 levels, or it is
-/// stopped.
+/// stopped. The folder was opened for this, as it is read once.
 std::uint64_t contentSize(const standin::FileDescriptor &folder, const std::string &path,
                           std::uint32_t blockSize, const std::stop_token &stop, int levels = 100);
 

@@ -9,6 +9,7 @@
 #include "PropertyList.h"
 #include "ui_AVConvertViewController.h"
 
+#include <QFile>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -26,6 +27,12 @@ AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
 }
 
 AVConvertViewController::~AVConvertViewController() = default;
+
+QString AVConvertViewController::presetListOfLanguage()
+{
+    const QString list = u":/presets/"_s + qtTrId("AVConvert.Presets");
+    return QFile::exists(list) ? list : u":/presets/avconvert.plist"_s;
+}
 
 void AVConvertViewController::connectButtons()
 {

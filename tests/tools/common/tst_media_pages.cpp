@@ -5,13 +5,16 @@
 #include "AVConvertViewController.h"
 #include "MessageBoxes.h"
 #include "PageControls.h"
+#include "PropertyList.h"
 #include "RecordedProgram.h"
 #include "SynthesisViewController.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QPlainTextEdit>
 #include <QSlider>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 using namespace PageControls;
 using namespace Qt::StringLiterals;
@@ -52,6 +55,36 @@ private Q_SLOTS:
             QTRY_COMPARE(m_boxes->texts, QStringList{u"Convert is failed."_s});
             m_boxes->texts.clear();
             QCOMPARE(program.arguments()->join(u'|'), arguments);
+        }
+    }
+
+    void offersTheFormatsInEachLanguage()
+    {
+        const auto listIn = [this](const QString &table) {
+            QTranslator texts;
+            if (!texts.load(u":/localisation/"_s + table) || !qApp->installTranslator(&texts))
+                return QVariantMap();
+            const QString path = AVConvertViewController::presetListOfLanguage();
+            const QVariantMap list = PropertyList::readDictionaryFile(path).value_or(QVariantMap());
+            const AVConvertViewController page(m_jobs);
+            const auto &popUp = control<QComboBox>(page, "outputFormatPopUp");
+            if (popUp.count() != list.size()
+                || list.value(popUp.currentText()) != u"Preset3840x2160"_s)
+                QTest::qFail(qPrintable(table), __FILE__, __LINE__);
+            return list;
+        };
+        const QVariantMap english = listIn(u"toolvane_en.qm"_s);
+        const auto presetsOf = [](const QVariantMap &list) {
+            QStringList presets = QVariant(list.values()).toStringList();
+            presets.sort();
+            return presets;
+        };
+        const QStringList tables = QDir(u":/localisation"_s).entryList();
+        QCOMPARE(tables.size(), 13);
+        for (const QString &table : tables) {
+            const QVariantMap list = listIn(table);
+            QCOMPARE(presetsOf(list), presetsOf(english));
+            QCOMPARE(list == english, table.endsWith(u"_en.qm"));
         }
     }
 
