@@ -55,7 +55,7 @@ bool isReason(std::string_view line)
     if (line.find("Image write cancelled") != line.npos) // follows the reason
         return false;
     static constexpr std::string_view severities[] = {
-        " : SORRY : ", " : MISHAP : ", " : FAILURE : ", " : FATAL : ", " : ABORT : "};
+        ": SORRY : ", ": MISHAP : ", ": FAILURE : ", ": FATAL : ", ": ABORT : "};
     return std::ranges::any_of(
         severities, [line](std::string_view severity) { return line.find(severity) != line.npos; });
 }
