@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>اختيار الفيديو المراد إنشاؤه</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ar.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>الفيديو المراد تحويله</translation>

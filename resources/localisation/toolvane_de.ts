@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Zu erstellendes Video auswählen</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_de.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Umzuwandelndes Video</translation>

@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Select the video to make</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Video to convert</translation>

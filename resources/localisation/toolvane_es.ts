@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Elegir el vídeo que se creará</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_es.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Vídeo que se convertirá</translation>

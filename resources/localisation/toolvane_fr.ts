@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Choisir la vidéo à créer</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_fr.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Vidéo à convertir</translation>

@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Scegli il video da creare</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_it.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Video da convertire</translation>

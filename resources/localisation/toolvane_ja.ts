@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>作成するビデオを選択</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ja.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>変換するビデオ</translation>

@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>만들 비디오 선택</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ko.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>변환할 비디오</translation>

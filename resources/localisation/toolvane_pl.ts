@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Wybierz plik wideo do utworzenia</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_pl.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Plik wideo do przekonwertowania</translation>

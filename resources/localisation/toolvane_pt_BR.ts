@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Escolher o vídeo a ser criado</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_pt_BR.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Vídeo a ser convertido</translation>

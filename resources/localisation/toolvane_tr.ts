@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Oluşturulacak videoyu seç</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_tr.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Dönüştürülecek video</translation>

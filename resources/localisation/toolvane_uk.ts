@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>Вибрати, куди зберегти нове відео</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_uk.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>Відео для конвертування</translation>

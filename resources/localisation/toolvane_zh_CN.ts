@@ -67,6 +67,10 @@
         <source>Select the video to make</source>
         <translation>选择要生成的视频</translation>
     </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_zh_CN.plist</translation>
+    </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
         <translation>要转换的视频</translation>
