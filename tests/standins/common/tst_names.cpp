@@ -1,9 +1,5 @@
 // Proves that names of other scripts pass from what the pages ask for through the programs that do
 // it to what is made, and that the tests' own frame works for a user without any name.
-#include "AVConvertCommand.h"
-#include "ImageCommand.h"
-#include "ProgramPath.h"
-#include "SpeechCommand.h"
 #include "StandinRun.h"
 #include "UnzipCommand.h"
 #include "ZipCommand.h"
@@ -83,18 +79,20 @@ private Q_SLOTS:
     void images()
     {
         QFETCH_GLOBAL(QString, name);
-        using enum ImageCommand::FileSystem;
         const QString image = m_folder + u'/' + name;
         const QString out = m_dir->filePath(u"out"_s);
-        QCOMPARE(errorsOf(ImageCommand::makeHybrid(Hfs, image + u".dmg"_s, name, m_source)),
-                 QByteArray());
+        const auto makeHybrid = [&](const QStringList &kind, const QString &output) {
+            const QStringList rest{u"-o"_s,    output,       u"-default-volume-name"_s, name,
+                                   u"-ov"_s, u"-quiet"_s, m_source};
+            return errorsOf({u"/usr/bin/hdiutil"_s, QStringList{u"makehybrid"_s} + kind + rest});
+        };
+        QCOMPARE(makeHybrid({u"-hfs"_s}, image + u".dmg"_s), QByteArray());
         QCOMPARE(unpacked({u"7z"_s, u"x"_s, u"-bd"_s, image + u".dmg"_s, u"-o"_s + out}),
                  QByteArray());
         holdsTheFile(out, name + u'/' + m_file); // below the volume's name
 
         QVERIFY(QDir(out).removeRecursively() && QDir().mkpath(out));
-        QCOMPARE(errorsOf(ImageCommand::makeHybrid(Hybrid, image + u".iso"_s, name, m_source)),
-                 QByteArray());
+        QCOMPARE(makeHybrid({}, image + u".iso"_s), QByteArray());
         QCOMPARE(unpacked({u"bsdtar"_s, u"-xf"_s, image + u".iso"_s, u"-C"_s, out}), QByteArray());
         holdsTheFile(out, m_file);
     }
@@ -106,11 +104,14 @@ private Q_SLOTS:
         QCOMPARE(unpacked(u"ffmpeg -v error -f lavfi -i testsrc2=s=64x64:d=1"_s.split(u' ')
                           << base + u".mpg"_s),
                  QByteArray());
-        QCOMPARE(errorsOf(AVConvertCommand::convert(u"PresetLowQuality"_s, base + u".mpg"_s,
-                                                    base + u".m4v"_s)),
+        QCOMPARE(errorsOf({u"/usr/bin/avconvert"_s,
+                           {u"--preset"_s, u"PresetLowQuality"_s, u"--source"_s, base + u".mpg"_s,
+                            u"--output"_s, base + u".m4v"_s, u"-q"_s}}),
                  QByteArray());
         QVERIFY(contentOf(base + u".m4v"_s).mid(4).startsWith("ftypM4V"));
-        QCOMPARE(errorsOf(SpeechCommand::save(name, {u"Russian"_s, 175}, base + u".aiff"_s)),
+        QCOMPARE(errorsOf({u"/usr/bin/say"_s,
+                           {name, u"--voice=Russian"_s, u"--rate=175"_s,
+                            u"--output-file="_s + base + u".aiff"_s}}),
                  QByteArray());
         QVERIFY(contentOf(base + u".aiff"_s).startsWith("FORM"));
     }
