@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPalette>
 #include <QPicture>
@@ -16,16 +17,50 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// Up to this size the plainer version of a picture is used, see file().
+// Up to this size the plainer version of a picture is used, see stemFor().
 constexpr int maxSmallSize = 32;
 constexpr float disabledPictureOpacity = 0.4F;
 
 enum class Kind { None, Symbol, Picture };
 
-QString fileOf(Kind kind, const QString &name)
+QString stemOf(Kind kind, const QString &name)
 {
-    return (kind == Kind::Symbol ? u":/images/symbols/%1.pic"_s : u":/images/pictures/%1.pic"_s)
-        .arg(name);
+    return (kind == Kind::Symbol ? u":/images/symbols/"_s : u":/images/pictures/"_s) + name;
+}
+
+bool hasRecording(const QString &stem)
+{
+    return QFile::exists(stem + ".pic"_L1);
+}
+
+// What the first paint shows was drawn when the program was built; false for other sizes.
+bool drawPixels(QPainter &painter, const QString &stem, const QSize &size)
+{
+    QFile file(stem + u"-%1.argb"_s.arg(size.width()));
+    if (size.width() != size.height() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = file.readAll();
+    const QImage image(reinterpret_cast<const uchar *>(bytes.constData()), size.width(),
+                       size.height(), QImage::Format_ARGB32_Premultiplied);
+    if (bytes.size() != image.sizeInBytes())
+        return false;
+    painter.drawImage(0, 0, image);
+    return true;
+}
+
+void playRecording(QPainter &painter, const QString &stem, const QSize &size)
+{
+    QPicture picture;
+    picture.load(stem + ".pic"_L1);
+    const QRectF box = picture.boundingRect();
+    if (box.isEmpty())
+        return;
+    const qreal side = std::min(size.width() / box.width(), size.height() / box.height());
+    painter.translate(QRectF({}, size).center());
+    painter.scale(side, side);
+    painter.translate(-box.center());
+    painter.drawPicture(0, 0, picture);
+    painter.resetTransform();
 }
 
 Kind kindOf(const QString &name)
@@ -35,9 +70,9 @@ Kind kindOf(const QString &name)
     });
     if (name.isEmpty() || !wellFormed)
         return Kind::None;
-    if (QFile::exists(fileOf(Kind::Symbol, name)))
+    if (hasRecording(stemOf(Kind::Symbol, name)))
         return Kind::Symbol;
-    return QFile::exists(fileOf(Kind::Picture, name)) ? Kind::Picture : Kind::None;
+    return hasRecording(stemOf(Kind::Picture, name)) ? Kind::Picture : Kind::None;
 }
 
 QPalette::ColorGroup groupOf(QIcon::Mode mode)
@@ -102,20 +137,13 @@ private:
 
     QPixmap drawn(const QSize &size, QIcon::Mode mode, const QColor &color) const
     {
-        QPicture picture;
-        picture.load(file(size));
-        const QRectF box = picture.boundingRect();
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
-        if (box.isEmpty() || size.isEmpty())
+        if (size.isEmpty())
             return pixmap;
         QPainter painter(&pixmap);
-        const qreal side = std::min(size.width() / box.width(), size.height() / box.height());
-        painter.translate(QRectF({}, size).center());
-        painter.scale(side, side);
-        painter.translate(-box.center());
-        painter.drawPicture(0, 0, picture);
-        painter.resetTransform();
+        if (const QString stem = stemFor(size); !drawPixels(painter, stem, size))
+            playRecording(painter, stem, size);
         if (m_kind == Kind::Symbol) {
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
             painter.fillRect(QRect({}, size), color);
@@ -127,11 +155,11 @@ private:
     }
 
     // A picture in full detail has a plainer version for the smallest sizes.
-    QString file(const QSize &size) const
+    QString stemFor(const QSize &size) const
     {
-        const QString small = fileOf(m_kind, m_name + u"-small"_s);
+        const QString small = stemOf(m_kind, m_name + u"-small"_s);
         const bool isSmall = std::max(size.width(), size.height()) <= maxSmallSize;
-        return isSmall && QFile::exists(small) ? small : fileOf(m_kind, m_name);
+        return isSmall && hasRecording(small) ? small : stemOf(m_kind, m_name);
     }
 
     Kind m_kind;
