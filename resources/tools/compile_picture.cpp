@@ -49,8 +49,8 @@ static bool compile(const QString &input, const QString &output, const QStringLi
         return false;
     QPicture picture = recorded(drawing);
     return picture.save(output + ".pic"_L1) && std::ranges::all_of(sizes, [&](const QString &size) {
-        return saveAsPixels(picture, size.toInt(), output + u'-' + size + ".argb"_L1);
-    });
+               return saveAsPixels(picture, size.toInt(), output + u'-' + size + ".argb"_L1);
+           });
 }
 
 int main(int argc, char *argv[])

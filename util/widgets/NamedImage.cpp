@@ -21,16 +21,24 @@ namespace
 constexpr int maxSmallSize = 32;
 constexpr float disabledPictureOpacity = 0.4F;
 
-enum class Kind { None, Symbol, Picture };
-
-QString stemOf(Kind kind, const QString &name)
-{
-    return (kind == Kind::Symbol ? u":/images/symbols/"_s : u":/images/pictures/"_s) + name;
-}
+constexpr auto symbols = ":/images/symbols/"_L1;
+constexpr auto pictures = ":/images/pictures/"_L1;
 
 bool hasRecording(const QString &stem)
 {
     return QFile::exists(stem + ".pic"_L1);
+}
+
+// The path of the image without its suffix; empty if there is none.
+QString stemOf(const QString &name)
+{
+    const bool wellFormed = std::ranges::all_of(name, [](QChar c) {
+        return c == u'-' || c == u'_' || (c.unicode() < 128 && c.isLetterOrNumber());
+    });
+    for (const QLatin1String folder : {symbols, pictures})
+        if (wellFormed && hasRecording(folder + name))
+            return folder + name;
+    return {};
 }
 
 // What the first paint shows was drawn when the program was built; false for other sizes.
@@ -63,18 +71,6 @@ void playRecording(QPainter &painter, const QString &stem, const QSize &size)
     painter.resetTransform();
 }
 
-Kind kindOf(const QString &name)
-{
-    const bool wellFormed = std::all_of(name.begin(), name.end(), [](QChar c) {
-        return c == u'-' || c == u'_' || (c.unicode() < 128 && c.isLetterOrNumber());
-    });
-    if (name.isEmpty() || !wellFormed)
-        return Kind::None;
-    if (hasRecording(stemOf(Kind::Symbol, name)))
-        return Kind::Symbol;
-    return hasRecording(stemOf(Kind::Picture, name)) ? Kind::Picture : Kind::None;
-}
-
 QPalette::ColorGroup groupOf(QIcon::Mode mode)
 {
     return mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
@@ -96,7 +92,9 @@ QColor textColor(const QPaintDevice *device, QIcon::Mode mode)
 class NamedImageEngine : public QIconEngine
 {
 public:
-    NamedImageEngine(Kind kind, QString name) : m_kind(kind), m_name(std::move(name)) { }
+    NamedImageEngine(QString name, QString stem) : m_name(std::move(name)), m_stem(std::move(stem))
+    {
+    }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
@@ -121,11 +119,13 @@ public:
     QIconEngine *clone() const override { return new NamedImageEngine(*this); }
 
 private:
+    bool isSymbol() const { return m_stem.startsWith(symbols); }
+
     QPixmap rendered(const QSize &size, QIcon::Mode mode, const QColor &color) const
     {
         const QString key = u"toolvane-image:%1:%2x%3:%4:%5"_s.arg(
             m_name, QString::number(size.width()), QString::number(size.height()),
-            m_kind == Kind::Symbol ? color.name(QColor::HexArgb) : QString(),
+            isSymbol() ? color.name(QColor::HexArgb) : QString(),
             QString::number(mode == QIcon::Disabled));
         QPixmap pixmap;
         if (!QPixmapCache::find(key, &pixmap)) {
@@ -144,7 +144,7 @@ private:
         QPainter painter(&pixmap);
         if (const QString stem = stemFor(size); !drawPixels(painter, stem, size))
             playRecording(painter, stem, size);
-        if (m_kind == Kind::Symbol) {
+        if (isSymbol()) {
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
             painter.fillRect(QRect({}, size), color);
         } else if (mode == QIcon::Disabled) {
@@ -157,24 +157,24 @@ private:
     // A picture in full detail has a plainer version for the smallest sizes.
     QString stemFor(const QSize &size) const
     {
-        const QString small = stemOf(m_kind, m_name + u"-small"_s);
+        const QString small = m_stem + "-small"_L1;
         const bool isSmall = std::max(size.width(), size.height()) <= maxSmallSize;
-        return isSmall && hasRecording(small) ? small : stemOf(m_kind, m_name);
+        return isSmall && hasRecording(small) ? small : m_stem;
     }
 
-    Kind m_kind;
     QString m_name;
+    QString m_stem;
 };
 
 } // namespace
 
 bool hasNamedImage(const QString &name)
 {
-    return kindOf(name) != Kind::None;
+    return !stemOf(name).isEmpty();
 }
 
 QIcon namedImage(const QString &name)
 {
-    const Kind kind = kindOf(name);
-    return kind == Kind::None ? QIcon() : QIcon(new NamedImageEngine(kind, name));
+    const QString stem = stemOf(name);
+    return stem.isEmpty() ? QIcon() : QIcon(new NamedImageEngine(name, stem));
 }
