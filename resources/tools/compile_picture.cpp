@@ -38,7 +38,7 @@ static bool saveAsPixels(const QPicture &picture, int size, const QString &outpu
     painter.end();
     QFile file(output);
     const auto *bytes = reinterpret_cast<const char *>(image.constBits());
-    return file.open(QIODevice::WriteOnly)
+    return !image.isNull() && file.open(QIODevice::WriteOnly)
         && file.write(bytes, image.sizeInBytes()) == image.sizeInBytes() && file.flush();
 }
 
