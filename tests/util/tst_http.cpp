@@ -101,9 +101,8 @@ private Q_SLOTS:
 
     void tellsNoAnswerFromABrokenOne()
     {
-        const HttpPeer cut([](Connection &connection) {
-            connection.send(HttpPeer::reply("whole").chopped(1));
-        });
+        const HttpPeer cut(
+            [](Connection &connection) { connection.send(HttpPeer::reply("whole").chopped(1)); });
         const HttpReply broken = httpGet({cut.address(), {}, shortLimits});
         QVERIFY(broken.end == End::Failed && broken.isHeard);
         const HttpPeer mute([](Connection &) {});

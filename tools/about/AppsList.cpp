@@ -42,7 +42,8 @@ std::optional<AppsList> readFromFile(const QString &path)
 QString subjectOnly(const QUrl &mail)
 {
     const QString subject = QUrlQuery(mail).queryItemValue(u"subject"_s, QUrl::FullyDecoded);
-    const bool isLine = std::ranges::all_of(subject, [](QChar c) { return c >= u' ' && c != u'\x7f'; });
+    const bool isLine =
+        std::ranges::all_of(subject, [](QChar c) { return c >= u' ' && c != u'\x7f'; });
     return subject.isEmpty() || !isLine
         ? QString()
         : u"subject="_s + QString::fromLatin1(QUrl::toPercentEncoding(subject));

@@ -3,7 +3,6 @@
 #include <QList>
 #include <QtEndian>
 
-#define ZLIB_CONST // input is not written to
 #include <zlib.h>
 
 #include <algorithm>
@@ -100,44 +99,16 @@ private:
     }
 };
 
-/// Counts what the picture data unpacks to and keeps none of it.
-class DataMeter
+/// Whether the data unpacks to just this size; takes no more memory than that.
+bool unpacksTo(quint64 size, const QByteArray &data)
 {
-public:
-    explicit DataMeter(quint64 maxSize) : m_maxSize(maxSize), m_isSound(inflateInit(&m_stream) == Z_OK)
-    {
-    }
-    DataMeter(const DataMeter &) = delete;
-    DataMeter &operator=(const DataMeter &) = delete;
-    ~DataMeter() { inflateEnd(&m_stream); }
-
-    /// False for data that is no good, or more than was announced.
-    bool take(QByteArrayView data)
-    {
-        m_stream.next_in = zlibBytes(data);
-        m_stream.avail_in = uInt(data.size());
-        int result = Z_OK;
-        do {
-            m_stream.next_out = m_piece.data();
-            m_stream.avail_out = uInt(m_piece.size());
-            result = m_hasEnded ? Z_OK : inflate(&m_stream, Z_NO_FLUSH);
-            m_size += m_piece.size() - m_stream.avail_out;
-            m_hasEnded = m_hasEnded || result == Z_STREAM_END;
-            m_isSound = m_isSound && m_size <= m_maxSize
-                && (result == Z_OK || result == Z_STREAM_END || result == Z_BUF_ERROR);
-        } while (m_isSound && !m_hasEnded && m_stream.avail_out == 0);
-        return m_isSound;
-    }
-    bool isComplete() const { return m_isSound && m_hasEnded && m_size == m_maxSize; }
-
-private:
-    z_stream m_stream = {};
-    std::array<Bytef, 16384> m_piece;
-    quint64 m_maxSize;
-    quint64 m_size = 0;
-    bool m_isSound;
-    bool m_hasEnded = false;
-};
+    QByteArray unpacked(qsizetype(size), Qt::Uninitialized);
+    auto unpackedSize = uLongf(unpacked.size());
+    return uncompress(reinterpret_cast<Bytef *>(unpacked.data()), &unpackedSize, zlibBytes(data),
+                      uLong(data.size()))
+        == Z_OK
+        && unpackedSize == size;
+}
 
 /// What says how to show the picture, with the largest size that the format gives it; nothing in it
 /// is compressed.
@@ -173,7 +144,7 @@ std::optional<QByteArray> pictureOfPng(const QByteArray &bytes, quint32 maxSide)
     const Header header = Header::read(chunk->data);
     if (!header.isWithin(maxSide))
         return {};
-    DataMeter meter(header.dataSize());
+    QByteArray data;
     QByteArray picture = signature.toByteArray() + chunk->whole.toByteArray();
     QList<QByteArrayView> seen; // each of the small ones counts once
     while (chunk && chunk->type != QByteArrayView("IEND")) {
@@ -182,13 +153,13 @@ std::optional<QByteArray> pictureOfPng(const QByteArray &bytes, quint32 maxSide)
         if (!chunk)
             return {};
         const bool isData = chunk->type == QByteArrayView("IDAT");
-        if (isData && !meter.take(chunk->data))
-            return {};
+        if (isData)
+            data += chunk->data;
         const bool isKept = isData || (isSmallAndHarmless(*chunk) && !seen.contains(chunk->type));
         if (isKept || chunk->type == QByteArrayView("IEND"))
             picture += chunk->whole;
         if (isKept && !isData)
             seen += chunk->type;
     }
-    return meter.isComplete() ? std::optional(picture) : std::nullopt;
+    return unpacksTo(header.dataSize(), data) ? std::optional(picture) : std::nullopt;
 }

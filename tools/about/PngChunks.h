@@ -11,5 +11,5 @@
 ///
 /// Nothing for bytes that are not such a file: a wrong checksum, a side that is larger than
 /// `maxSide` pixels, or picture data that unpacks to another size than the header says. Takes
-/// little memory whatever the bytes are. Any thread.
+/// as much memory as the picture has. Any thread.
 std::optional<QByteArray> pictureOfPng(const QByteArray &bytes, quint32 maxSide);

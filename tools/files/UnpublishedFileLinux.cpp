@@ -70,8 +70,7 @@ int UnpublishedFile::replace(const QByteArray &name)
         m_temporaryName = temporary;
     }
     const int folder = m_folder.get();
-    return finish(
-        errorOf(renameat(folder, m_temporaryName.constData(), folder, name.constData())));
+    return finish(errorOf(renameat(folder, m_temporaryName.constData(), folder, name.constData())));
 }
 
 int UnpublishedFile::finish(int error)

@@ -57,11 +57,10 @@ private:
     void applyTag(const QString &name, bool isEnd)
     {
         static const QStringList withoutText{u"script"_s, u"style"_s, u"title"_s};
-        static const QStringList within{u"a"_s,      u"abbr"_s, u"b"_s,      u"code"_s,
-                                        u"em"_s,     u"font"_s, u"i"_s,      u"img"_s,
-                                        u"kbd"_s,    u"s"_s,    u"small"_s,  u"span"_s,
-                                        u"strong"_s, u"sub"_s,  u"sup"_s,    u"tt"_s,
-                                        u"u"_s,      u"var"_s,  u"strike"_s, u"mark"_s};
+        static const QStringList within{u"a"_s,     u"abbr"_s, u"b"_s,      u"code"_s,   u"em"_s,
+                                        u"font"_s,  u"i"_s,    u"img"_s,    u"kbd"_s,    u"s"_s,
+                                        u"small"_s, u"span"_s, u"strong"_s, u"sub"_s,    u"sup"_s,
+                                        u"tt"_s,    u"u"_s,    u"var"_s,    u"strike"_s, u"mark"_s};
         if (withoutText.contains(name) && !isEnd) {
             takePast(QString(u"</"_s + name));
             takePast(u">");
@@ -114,8 +113,8 @@ private:
             return named.value(entity.toString());
         const bool isHex = entity.startsWith(u"#x", Qt::CaseInsensitive);
         const uint number = entity.sliced(isHex ? 2 : 1).toUInt(nullptr, isHex ? 16 : 10);
-        const bool isText = number >= ' ' && number <= QChar::LastValidCodePoint
-            && !QChar::isSurrogate(number);
+        const bool isText =
+            number >= ' ' && number <= QChar::LastValidCodePoint && !QChar::isSurrogate(number);
         return isText ? number : 0;
     }
 

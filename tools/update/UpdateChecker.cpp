@@ -139,8 +139,8 @@ QCoro::Task<> UpdateChecker::open()
     const QPointer<UpdateChecker> self(this);
     const CheckedFile file = m_file;
     m_stop = std::stop_source(); // the last one may have been used
-    const bool isSame = co_await QtConcurrent::run(&m_worker, &CheckedFile::isUnchanged, file,
-                                                   m_stop.get_token());
+    const bool isSame =
+        co_await QtConcurrent::run(&m_worker, &CheckedFile::isUnchanged, file, m_stop.get_token());
     if (!self || isBusy() || m_file.path != file.path)
         co_return;
     if (!isSame)

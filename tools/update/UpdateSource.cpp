@@ -105,8 +105,7 @@ bool UpdateSignature::isValid(QByteArrayView message, const QByteArray &publicKe
     return isAvailable() && publicKey.size() == crypto_sign_PUBLICKEYBYTES
         && signature.size() == crypto_sign_BYTES
         && libsodium()->verify(bytesOf(signature), bytesOf(message),
-                               static_cast<unsigned long long>(message.size()),
-                               bytesOf(publicKey))
+                               static_cast<unsigned long long>(message.size()), bytesOf(publicKey))
         == 0;
 }
 

@@ -53,8 +53,7 @@ QString detailOf(const UpdateChecker &checker)
 // When the last check was, and of when what it read is.
 QString lastCheckOf(const UpdateChecker &checker)
 {
-    const QString last =
-        UpdateMemory::lastCheck().sentence(checker.phase() == Phase::Unasked);
+    const QString last = UpdateMemory::lastCheck().sentence(checker.phase() == Phase::Unasked);
     return checker.feedDate().isValid()
         ? last + u' ' + qtTrId("Update.FeedDate").arg(shownTime(checker.feedDate()))
         : last;
@@ -163,8 +162,8 @@ void UpdateCheckView::showOffer()
 void UpdateCheckView::showFile()
 {
     const Phase phase = m_checker.phase();
-    const bool isThere = !m_checker.file().isEmpty()
-        && (phase == Phase::Downloaded || phase == Phase::NotOpened);
+    const bool isThere =
+        !m_checker.file().isEmpty() && (phase == Phase::Downloaded || phase == Phase::NotOpened);
     ui->openButton->setVisible(isThere);
     ui->fileField->setVisible(isThere);
     ui->fileField->setText(isThere ? QDir::toNativeSeparators(m_checker.file()) : QString());

@@ -34,8 +34,8 @@ QByteArray number(quint32 value)
 QByteArray chunk(const char *type, const QByteArray &data)
 {
     const QByteArray checked = type + data;
-    const auto sum = crc32(0, reinterpret_cast<const Bytef *>(checked.constData()),
-                           uInt(checked.size()));
+    const auto sum =
+        crc32(0, reinterpret_cast<const Bytef *>(checked.constData()), uInt(checked.size()));
     return number(quint32(data.size())) + checked + number(quint32(sum));
 }
 
@@ -113,9 +113,11 @@ private Q_SLOTS:
         write("DB.sqlite3", "records");
         m_server->set("/conf/images/last.png", picture(8, 8));
         QByteArray apps = AppsPlist::app(QByteArray(300, 'n'), "A");
-        for (const char *name : {"../up", "..", "/tmp/absolute", "a\\b", ".bashrc", "DB.sqlite3",
-                                 "db.SQLITE3", "DB.sqlite3-wal", "-rf", "photos.zip", "a.b.ZIP", "apps.PLIST", "a\nb", "a%2fb",
-                                 "a?b", "a#b", "\xc3\xa9", "a@2x", "", "\xe2\x80\xaegnp"})
+        for (const char *name :
+             {"../up",      "..",         "/tmp/absolute",  "a\\b",  ".bashrc",
+              "DB.sqlite3", "db.SQLITE3", "DB.sqlite3-wal", "-rf",   "photos.zip",
+              "a.b.ZIP",    "apps.PLIST", "a\nb",           "a%2fb", "a?b",
+              "a#b",        "\xc3\xa9",   "a@2x",           "",      "\xe2\x80\xaegnp"})
             apps += AppsPlist::app(name, "A");
         serve(AppsPlist::list(apps + AppsPlist::app("last", "B")));
         open();

@@ -151,8 +151,8 @@ private Q_SLOTS:
             table().setCurrentIndex(cell(row, 1));
         QCOMPARE(m_opened,
                  (QStringList{u"http://a.example/"_s, u"mailto:a@b.example"_s,
-                              u"mailto:a@b.example?subject=What next%3F"_s,
-                              u"mailto:a@b.example"_s, QString::fromLatin1(longest)}));
+                              u"mailto:a@b.example?subject=What next%3F"_s, u"mailto:a@b.example"_s,
+                              QString::fromLatin1(longest)}));
     }
 
     // A row says what it opens, as it would be opened, before it does.

@@ -54,7 +54,8 @@ public:
         return "<rss version=\"2.0\" xmlns:t=\"urn:toolvane:feed\" "
                "xmlns:c=\"http://www.andymatuschak.org/xml-namespaces/sparkle\"><channel>\n"
                "<lastBuildDate>"
-            + date + "</lastBuildDate>\n<t:expires>" + expiry + "</t:expires>\n" + items + "</channel></rss>\n";
+            + date + "</lastBuildDate>\n<t:expires>" + expiry + "</t:expires>\n" + items
+            + "</channel></rss>\n";
     }
 
 private:

@@ -114,9 +114,9 @@ private Q_SLOTS:
         QVERIFY(longTexts && longTexts->items.first().shortVersion.size() <= 200);
         QVERIFY(longTexts->items.first().notes.size() <= 16 * 1024);
         // A layout of these would take half a minute.
-        const auto cells = UpdateFeed::read(Maker::feed(
-            "<item><c:version>1</c:version><description><![CDATA["
-            + QByteArray("<table><td>x").repeated(1300) + "]]></description></item>"));
+        const auto cells = UpdateFeed::read(
+            Maker::feed("<item><c:version>1</c:version><description><![CDATA["
+                        + QByteArray("<table><td>x").repeated(1300) + "]]></description></item>"));
         QVERIFY(cells);
         QCOMPARE(cells->items.first().notes, QStringList(1300, u"x"_s).join(u'\n'));
         for (const QByteArray &items : {deep, "<item" + attributes + "/>"}) {

@@ -36,8 +36,9 @@ private Q_SLOTS:
         QVERIFY(m_texts.load(":/localisation/toolvane_en.qm"_L1));
         QCoreApplication::installTranslator(&m_texts);
         // The desktop's opener: notes what it gets and ends as the test wants.
-        Files::write(m_programs.filePath(u"xdg-open"_s),
-                     "#!/bin/sh\necho \"$1\" >> \"${0%/*}/opened\"\nexit $(cat \"${0%/*}/status\")\n");
+        Files::write(
+            m_programs.filePath(u"xdg-open"_s),
+            "#!/bin/sh\necho \"$1\" >> \"${0%/*}/opened\"\nexit $(cat \"${0%/*}/status\")\n");
         QFile::setPermissions(m_programs.filePath(u"xdg-open"_s),
                               QFile::ReadOwner | QFile::ExeOwner);
         qputenv("PATH", QFile::encodeName(m_programs.path()) + ':' + qgetenv("PATH"));
@@ -45,7 +46,8 @@ private Q_SLOTS:
         const QDir settings(qEnvironmentVariable("XDG_CONFIG_HOME"));
         QVERIFY(settings.mkpath(u"."_s));
         Files::write(settings.filePath(u"user-dirs.dirs"_s),
-                     "XDG_DOWNLOAD_DIR=\"$HOME/T\xc3\xa9l\xc3\xa9" "chargements\"\n");
+                     "XDG_DOWNLOAD_DIR=\"$HOME/T\xc3\xa9l\xc3\xa9"
+                     "chargements\"\n");
     }
     void init()
     {
