@@ -87,6 +87,8 @@ UpdateCheckView::UpdateCheckView(const QByteArray &publicKey, QWidget *parent)
     ui->setupUi(this);
     ui->installedLabel->setText(
         qtTrId("Update.Installed").arg(QCoreApplication::applicationVersion()));
+    // It shares its row with buttons that hide when it comes: no room is kept for it.
+    ui->showInFolderButton->setSizePolicy(ui->openButton->sizePolicy());
     ui->keyLabel->setHidden(m_checker.hasKey());
     connectButtons();
     connect(&m_checker, &UpdateChecker::changed, this, &UpdateCheckView::showState);
