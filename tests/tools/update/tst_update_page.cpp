@@ -2,6 +2,7 @@
 // the user's choices to the user, and that a download which is stopped or abandoned leaves nothing
 // behind.
 
+#include "Files.h"
 #include "JobList.h"
 #include "Maker.h"
 #include "MakersServer.h"
@@ -9,13 +10,14 @@
 #include "PageControls.h"
 #include "UpdateViewController.h"
 
-#include <QDesktopServices>
 #include <QDir>
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 using namespace PageControls;
@@ -23,9 +25,6 @@ using namespace PageControls;
 class TestUpdatePage : public QObject
 {
     Q_OBJECT
-
-public Q_SLOTS:
-    void noteOpened(const QUrl &url) { m_opened += url; }
 
 private Q_SLOTS:
     void initTestCase()
@@ -36,25 +35,41 @@ private Q_SLOTS:
         QVERIFY(MiscTool::getUserHome().startsWith(qEnvironmentVariable("TOOLVANE_TEST_SANDBOX")));
         QVERIFY(m_texts.load(":/localisation/toolvane_en.qm"_L1));
         QCoreApplication::installTranslator(&m_texts);
-        QDesktopServices::setUrlHandler("file"_L1, this, "noteOpened");
+        // The desktop's opener: notes what it gets and ends as the test wants.
+        Files::write(
+            m_programs.filePath(u"xdg-open"_s),
+            "#!/bin/sh\necho \"$1\" >> \"${0%/*}/opened\"\nexit $(cat \"${0%/*}/status\")\n");
+        QFile::setPermissions(m_programs.filePath(u"xdg-open"_s),
+                              QFile::ReadOwner | QFile::ExeOwner);
+        qputenv("PATH", QFile::encodeName(m_programs.path()) + ':' + qgetenv("PATH"));
+        // A desktop in another language has other folders.
+        const QDir settings(qEnvironmentVariable("XDG_CONFIG_HOME"));
+        QVERIFY(settings.mkpath(u"."_s));
+        Files::write(settings.filePath(u"user-dirs.dirs"_s),
+                     "XDG_DOWNLOAD_DIR=\"$HOME/T\xc3\xa9l\xc3\xa9"
+                     "chargements\"\n");
     }
     void init()
     {
         QSettings().clear();
         useServer();
-        QDir(MiscTool::getDownloadFolder()).removeRecursively();
+        downloadFolder().removeRecursively();
         m_server.set("/files/new.bin", m_file);
-        m_opened.clear();
+        Files::write(m_programs.filePath(u"opened"_s), {});
+        letOpenerEndWith("0");
     }
     void cleanup() { m_view.reset(); }
-    void cleanupTestCase() { QDesktopServices::unsetUrlHandler("file"_L1); }
 
     void contactsNoServerUnasked()
     {
         QSettings().remove(u"Addresses/UpdateFeed"_s);
         open(m_maker.publicKey);
         QVERIFY(says("Update.NoFeed") && isShown("detailLabel"));
+        QVERIFY(!control<QPushButton>(*m_view, "checkButton").isEnabled());
         useServer();
+        m_view->hide(); // the user has written the address and comes back
+        m_view->show();
+        QVERIFY(control<QPushButton>(*m_view, "checkButton").isEnabled());
         const qsizetype before = m_server.paths().size();
         publish("");
         open(m_maker.publicKey);
@@ -106,11 +121,12 @@ private Q_SLOTS:
         QVERIFY2(notes.startsWith(u"one"_s) && notes.endsWith(u"three"_s), qPrintable(notes));
         QVERIFY(!notes.contains(u'<'));
 
+        QVERIFY(!isShown("keyLabel"));
         open({}); // built without the maker's key: nothing can be trusted, so nothing is fetched
         m_server.set("/feed.xml", Maker::feed(offered("1.3")));
         check();
         QVERIFY(says("Update.Result.Available"));
-        QCOMPARE(label("detailLabel"), qtTrId("Update.NoKey"));
+        QVERIFY(isShown("keyLabel") && !isShown("detailLabel")); // said once
         QVERIFY(!isShown("downloadButton"));
     }
 
@@ -118,8 +134,10 @@ private Q_SLOTS:
     {
         open(m_maker.publicKey);
         for (const auto &[headline, detail, reply] :
-             {std::tuple("Update.Result.NotReached", qtTrId("Update.Problem.Status").arg(503),
+             {std::tuple("Update.Result.NotChecked", qtTrId("Update.Problem.Status").arg(503),
                          HttpPeer::reply("", "503 No")),
+              {"Update.Result.NotChecked", qtTrId("Update.Problem.Garbled"), "garbage\r\n\r\n"},
+              {"Update.Result.NotReached", qtTrId("Update.Problem.Unreachable"), ""},
               {"Update.Result.NotTrusted", qtTrId("Update.Problem.WrongSignature"),
                HttpPeer::reply(Maker().sealed(Maker::feed(offered("1.3"))))}}) {
             publish(offered("1.3"));
@@ -154,6 +172,45 @@ private Q_SLOTS:
         QCOMPARE(label("detailLabel"), qtTrId("Update.Problem.WrongSignature"));
     }
 
+    // Another program sees a newer feed while this one waits for its own.
+    void letsTheMemoryOfFeedsOnlyGoForward()
+    {
+        publish("", "Tue, 03 Mar 2026 10:00:00 +0000");
+        open(m_maker.publicKey);
+        check();
+        const QString key = QSettings().allKeys().filter(u"NewestFeed"_s).value(0);
+        const QString newer = u"2026-03-05T10:00:00Z"_s;
+        const QByteArray feed =
+            m_maker.sealed(Maker::feed(offered("1.3"), "Wed, 04 Mar 2026 10:00:00 +0000"));
+        m_server.set("/feed.xml", [=](HttpPeer::Connection &connection) {
+            QSettings().setValue(key, newer);
+            connection.send(HttpPeer::reply(feed));
+        });
+        check();
+        QCOMPARE(label("detailLabel"), qtTrId("Update.Problem.Older"));
+        QVERIFY(!isShown("offerBox"));
+        QCOMPARE(QSettings().value(key).toString(), newer);
+    }
+
+    void saysOfWhenTheFeedIsAndWarnsPastItsExpiry()
+    {
+        open(m_maker.publicKey);
+        for (const bool isOffered : {false, true}) {
+            m_server.set("/feed.xml",
+                         m_maker.sealed(Maker::feed(isOffered ? offered("1.3") : QByteArray(),
+                                                    "Mon, 02 Mar 2020 10:00:00 +0000",
+                                                    "Wed, 02 Sep 2020 10:00:00 +0000")));
+            check();
+            QVERIFY(says(isOffered ? "Update.Result.Available" : "Update.Result.Expired"));
+            QCOMPARE(label("detailLabel"), qtTrId("Update.Expired").arg(shown({2020, 9, 2})));
+            QVERIFY(label("lastCheckLabel")
+                        .endsWith(qtTrId("Update.FeedDate").arg(shown({2020, 3, 2}))));
+        }
+        publish("");
+        check();
+        QVERIFY(says("Update.Result.UpToDate") && !isShown("detailLabel"));
+    }
+
     void hasASentenceForEachProblem()
     {
         for (int kind = 1; kind <= int(UpdateProblem::Kind::Stopped); ++kind) {
@@ -175,10 +232,44 @@ private Q_SLOTS:
         QTRY_VERIFY(says("Update.Downloaded"));
         QCOMPARE(ended.value(0).value(1).value<JobOutcome>(), JobOutcome::Succeeded);
         QCOMPARE(downloads(), QStringList{u"new.bin"_s});
-        const QUrl file = QUrl::fromLocalFile(MiscTool::getDownloadFolder() + u"/new.bin"_s);
-        QCOMPARE(m_opened, QList<QUrl>{file});
+        const QString file = downloadFolder().filePath(u"new.bin"_s);
+        QVERIFY(file.endsWith(u"/T\u00e9l\u00e9chargements/new.bin"_s));
+        QTRY_COMPARE(opened(), QStringList{file});
+        QCOMPARE(text(*m_view, "fileField"), file);
+        QVERIFY(isShown("showInFolderButton"));
+        check(); // what is there already is not offered again
+        QVERIFY(says("Update.Downloaded") && !isShown("downloadButton"));
+        QCOMPARE(text(*m_view, "fileField"), file);
         press(*m_view, "openButton");
-        QCOMPARE(m_opened.size(), 2);
+        QTRY_COMPARE(opened(), (QStringList{file, file}));
+        letOpenerEndWith("3");
+        press(*m_view, "openButton");
+        QTRY_VERIFY(says("Update.NotOpened"));
+        QCOMPARE(label("detailLabel"), qtTrId("Update.Problem.NothingOpens"));
+        QVERIFY(isShown("showInFolderButton") && isShown("fileField"));
+    }
+
+    // By itself or by the button, only what was checked is opened.
+    void opensNothingElse()
+    {
+        publish(offered("1.3"));
+        open(m_maker.publicKey);
+        check();
+        press(*m_view, "downloadButton");
+        QTRY_COMPARE(opened().size(), 1);
+        const QString folder = downloadFolder().path();
+        QVERIFY(QDir().rename(folder, folder + u" 2"_s) && QDir().mkdir(folder));
+        Files::write(folder + u"/new.bin"_s, m_file);
+        press(*m_view, "openButton");
+        QTRY_VERIFY(says("Update.NotOpened"));
+        QCOMPARE(label("detailLabel"), qtTrId("Update.Problem.Changed"));
+        QVERIFY(!isShown("openButton") && !isShown("showInFolderButton"));
+        QCOMPARE(opened().size(), 1);
+        check();
+        QVERIFY(says("Update.Result.Available"));
+        press(*m_view, "downloadButton"); // beside the false one
+        QTRY_COMPARE(opened().value(1), folder + u"/new 2.bin"_s);
+        QVERIFY(QDir(folder + u" 2"_s).removeRecursively());
     }
 
     void stopsADownloadAndLeavesNothingBehind()
@@ -193,7 +284,7 @@ private Q_SLOTS:
         QTRY_VERIFY(bar.value() > 100 && bar.value() < bar.maximum());
         press(*m_view, "stopButton");
         QTRY_VERIFY(says("Update.Result.Available"));
-        QVERIFY(m_jobs.isEmpty() && downloads().isEmpty() && m_opened.isEmpty());
+        QVERIFY(m_jobs.isEmpty() && downloads().isEmpty() && opened().isEmpty());
         press(*m_view, "downloadButton");
         m_view.reset(); // goes away in the middle
         QTRY_VERIFY(m_jobs.isEmpty());
@@ -234,10 +325,27 @@ private:
         return label("headlineLabel") == (text.contains("%1"_L1) ? text.arg(version) : text);
     }
     bool isShown(const char *name) const { return control<QWidget>(*m_view, name).isVisible(); }
+    static QString shown(QDate date)
+    {
+        return QLocale().toString(QDateTime(date, QTime(10, 0), Qt::UTC).toLocalTime(),
+                                  QLocale::ShortFormat);
+    }
+    static QDir downloadFolder()
+    {
+        return QDir(QStandardPaths::writableLocation(QStandardPaths::DownloadLocation));
+    }
+    QStringList opened() const
+    {
+        return QString::fromUtf8(Files::read(m_programs.filePath(u"opened"_s)))
+            .split(u'\n', Qt::SkipEmptyParts);
+    }
+    void letOpenerEndWith(const QByteArray &status) const
+    {
+        Files::write(m_programs.filePath(u"status"_s), status);
+    }
     QStringList downloads() const
     {
-        return QDir(MiscTool::getDownloadFolder())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        return downloadFolder().entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
     QTranslator m_texts;
@@ -245,7 +353,7 @@ private:
     MakersServer m_server;
     JobList m_jobs;
     QByteArray m_file = QByteArray(200'000, 'n');
-    QList<QUrl> m_opened;
+    QTemporaryDir m_programs;
     std::unique_ptr<UpdateCheckView> m_view;
 };
 
