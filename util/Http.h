@@ -68,8 +68,8 @@ struct HttpReply {
 HttpReply httpGet(const HttpRequest &request);
 
 /// Writes the body into the open target piece by piece, whatever the reply's status is. The target
-/// holds a part of it, or an error page, unless the reply succeeded: give a QSaveFile and commit it
-/// only then.
+/// holds a part of it, or an error page, unless the reply succeeded: give a file that nobody sees
+/// before then.
 HttpReply httpGet(const HttpRequest &request, QIODevice &target);
 
 /// The body is sent with its length; there is no Content-Type unless the headers hold one. Nothing
