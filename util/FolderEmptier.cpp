@@ -95,8 +95,9 @@ void Emptier::removeEntry(FolderDescent &descent, const FolderEntries::Entry &en
 // False with errno set if the item stays.
 bool Emptier::removeItem(int parent, const char *name, int flags)
 {
+    const auto entry = FolderAccess::entry(parent, name);
     if (::unlinkat(parent, name, flags) == 0) {
-        ++m_result.removed;
+        m_result.gone(entry ? entry->freed : 0);
         return true;
     }
     const int error = errno;
