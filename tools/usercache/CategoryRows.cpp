@@ -82,6 +82,12 @@ CacheSelection CategoryRows::ticked() const
     return ticked;
 }
 
+void CategoryRows::setEnabled(bool enabled) const
+{
+    for (const Row &row : m_rows)
+        row.box->setEnabled(enabled);
+}
+
 void CategoryRows::showPaths(const QString &home) const
 {
     for (CacheCategoryIndex category = 0; category < m_rows.size(); ++category) {

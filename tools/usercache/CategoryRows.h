@@ -22,6 +22,7 @@ public:
     explicit CategoryRows(const std::array<Row, cacheCategories.size()> &rows) : m_rows(rows) { }
 
     CacheSelection ticked() const; ///< Fully ticked ones alone.
+    void setEnabled(bool enabled) const;
     void showPaths(const QString &home) const; ///< In tool tips.
     void showPlainTitles() const;
     void clearResults(CacheSelection rows) const;

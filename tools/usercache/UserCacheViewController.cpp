@@ -190,12 +190,7 @@ CategoryRows UserCacheViewController::rows() const
 void UserCacheViewController::setStatus(bool idle)
 {
     ui->authorizeButton->setEnabled(idle);
-    ui->cachesCheckBox->setEnabled(idle);
-    ui->downloadsCheckBox->setEnabled(idle);
-    ui->trashCheckBox->setEnabled(idle);
-    ui->logsCheckBox->setEnabled(idle);
-    ui->trashCheckBox->setEnabled(idle);
-    ui->mailDownloadCheckBox->setEnabled(idle);
+    rows().setEnabled(idle);
     ui->checkButton->setEnabled(idle);
     ui->cleanButton->setEnabled(idle);
     ui->progressIndicatorBox->setHidden(idle);
