@@ -913,11 +913,11 @@
     </message>
     <message id="UserCache.Freed">
         <source>%1 freed</source>
-        <translation>تم تحرير %1</translation>
+        <translation>تم تحرير &#x2068;%1&#x2069;</translation>
     </message>
     <message id="UserCache.FreedPartly">
-        <source>%1 freed, the rest stayed: %2</source>
-        <translation>تم تحرير %1 وبقي الباقي: %2</translation>
+        <source>%1 freed, some stayed: %2</source>
+        <translation>تم تحرير &#x2068;%1&#x2069; وبقي الباقي: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>

@@ -913,11 +913,11 @@
     </message>
     <message id="UserCache.Freed">
         <source>%1 freed</source>
-        <translation>%1 freigegeben</translation>
+        <translation>%1 frei geworden</translation>
     </message>
     <message id="UserCache.FreedPartly">
-        <source>%1 freed, the rest stayed: %2</source>
-        <translation>%1 freigegeben, der Rest bleibt: %2</translation>
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 frei, Rest bleibt: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>

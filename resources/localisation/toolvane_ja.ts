@@ -916,8 +916,8 @@
         <translation>%1 を解放しました</translation>
     </message>
     <message id="UserCache.FreedPartly">
-        <source>%1 freed, the rest stayed: %2</source>
-        <translation>%1 を解放しました。残ったものがあります: %2</translation>
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 を解放、残りあり: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>

@@ -916,7 +916,7 @@
         <translation>%1 boşaltıldı</translation>
     </message>
     <message id="UserCache.FreedPartly">
-        <source>%1 freed, the rest stayed: %2</source>
+        <source>%1 freed, some stayed: %2</source>
         <translation>%1 boşaltıldı, gerisi kaldı: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">

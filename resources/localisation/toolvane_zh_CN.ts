@@ -916,7 +916,7 @@
         <translation>已释放 %1</translation>
     </message>
     <message id="UserCache.FreedPartly">
-        <source>%1 freed, the rest stayed: %2</source>
+        <source>%1 freed, some stayed: %2</source>
         <translation>已释放 %1，其余保留：%2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
