@@ -80,7 +80,8 @@ bool openOrRemove(int parent, const char *name, FileDescriptor &folder, FolderRe
     return false;
 }
 
-FolderRemovalResult removeItem(int parent, const char *name, const std::stop_token &stop)
+FolderRemovalResult removeItem(int parent, const char *name, const std::stop_token &stop,
+                               FreedBytes freed)
 {
     const unsigned helpers = std::clamp(std::thread::hardware_concurrency(), 1u, 2u) - 1;
     FolderRemovalResult total;
@@ -93,7 +94,7 @@ FolderRemovalResult removeItem(int parent, const char *name, const std::stop_tok
         if (!openOrRemove(parent, name, folder, total))
             return total;
         const FolderRemovalResult emptied =
-            emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop);
+            emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop, freed);
         total.add(emptied);
         if (::unlinkat(parent, name, AT_REMOVEDIR) == 0) {
             total.gone(0);
@@ -134,7 +135,7 @@ void FolderRemovalResult::add(const FolderRemovalResult &other)
 }
 
 FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
-                                const std::stop_token &stop)
+                                const std::stop_token &stop, FreedBytes freed)
 {
     if (stop.stop_requested())
         return refusal(ECANCELED, base, path);
@@ -152,7 +153,7 @@ FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
             return refusal(errno, base, path);
     }
     const FolderRemovalResult result =
-        removeItem(parent.get(), path.mid(slash + 1).constData(), stop);
+        removeItem(parent.get(), path.mid(slash + 1).constData(), stop, freed);
     if (result.refused > 0)
         qInfo().noquote() << u"%1 items stayed at \"%2\" below \"%3\": %4"_s.arg(
             QString::number(result.refused), QFile::decodeName(path), QFile::decodeName(base),

@@ -5,10 +5,14 @@
 #include <cstdint>
 #include <stop_token>
 
+/// Whether a removal adds up what it frees, which costs a look at each item before it goes.
+enum class FreedBytes { Ignore, Count };
+
 /// The result of a removal.
 struct FolderRemovalResult {
     std::uint64_t removed = 0; ///< Files, links and folders that are gone.
-    std::uint64_t freed = 0; ///< What they had on the disk, in bytes; the item's own entry aside.
+    std::uint64_t freed =
+        0; ///< If counted: what they had on the disk, in bytes; the item's own entry aside.
     std::uint64_t refused = 0; ///< Items that stayed, not counting the folders around them.
     int firstError = 0; ///< errno of one of the refusals; 0 without any.
 
@@ -37,4 +41,5 @@ struct FolderRemovalResult {
 /// it leaves what it has not removed yet; the error is then ECANCELED unless something else was
 /// refused before.
 FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
-                                const std::stop_token &stop = {});
+                                const std::stop_token &stop = {},
+                                FreedBytes freed = FreedBytes::Ignore);

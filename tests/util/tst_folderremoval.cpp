@@ -109,9 +109,9 @@ private Q_SLOTS:
         QCOMPARE(link((m_caches + "/kept").constData(), other.constData()), 0);
         makeFile(m_caches + "/holes", "");
         QCOMPARE(truncate((m_caches + "/holes").constData(), qint64(1) << 40), 0);
-        QCOMPARE(removeBelow(m_home, "Library/Caches").freed, 1536u);
+        QCOMPARE(removeBelow(m_home, "Library/Caches", {}, FreedBytes::Count).freed, 1536u);
         makeFile(m_caches, QByteArray(20, 'x'));
-        QCOMPARE(removeBelow(m_home, "Library/Caches").freed, 20u);
+        QCOMPARE(removeBelow(m_home, "Library/Caches", {}, FreedBytes::Count).freed, 20u);
     }
 
     void removesOnlyTheLinkAtTheTop()

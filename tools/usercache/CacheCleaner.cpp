@@ -29,8 +29,9 @@ void CacheCleaner::cleanDisk()
     const SecurityScopedAccess access(m_bookmarkURL);
     const QByteArray home = QFile::encodeName(MiscTool::getUserHome());
     forEachTicked([&](CacheCategoryIndex category) {
-        m_report(FolderCleaned{category,
-                               removeBelow(home, cacheCategories.at(category).folder, m_stop)});
+        m_report(FolderCleaned{
+            category,
+            removeBelow(home, cacheCategories.at(category).folder, m_stop, FreedBytes::Count)});
     });
     checkDisk();
     m_report(DiskChanged{});
