@@ -1007,9 +1007,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>حذف المجلدات المؤشَّر عليها نهائيًا دون سؤال آخر</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% مستخدم</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 بايت</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>تم تحرير &#x2068;%1&#x2069;</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>تم تحرير &#x2068;%1&#x2069; وبقي الباقي: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -1027,6 +1035,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>مجلد المنزل، بعد أن تمنح إذن الوصول إليه</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>غير موجود</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>تم الإيقاف. لم يستجب أحد المجلدات فتُرك كما هو. قد يتعذر الوصول إلى شيء موصول بداخله.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>تعذر البدء لأن النظام لا يسمح بمزيد من مسارات التنفيذ. أغلق برامج أخرى ثم حاول مرة أخرى.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>ليس مجلدًا</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>تتعذر قراءة جزء منه</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>يمر الطريق إليه عبر رابط</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>يوجد شيء موصول هناك</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>لا يوجد إذن</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>تم الإيقاف</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>لم يُحذف شيء: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>يقيس الملفات الزائدة في مجلد المنزل ويحذف المجلدات التي تؤشّر عليها.</translation>
@@ -1034,6 +1082,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>لم يُمنح إذن الوصول</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>تتعذر القراءة</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

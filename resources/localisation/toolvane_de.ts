@@ -1007,9 +1007,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Löscht die angekreuzten Ordner endgültig und ohne Rückfrage</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% belegt</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 Bytes</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 frei geworden</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 frei, Rest bleibt: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -1027,6 +1035,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Ihr persönlicher Ordner, sobald Sie den Zugriff erlaubt haben</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Nicht vorhanden</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Angehalten. Ein Ordner hat nicht geantwortet und wurde zurückgelassen. Etwas, das darin eingehängt ist, ist vielleicht nicht erreichbar.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>Der Vorgang konnte nicht beginnen, weil das System keine weiteren Threads zulässt. Schließen Sie andere Programme und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Kein Ordner</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Ein Teil ist nicht lesbar</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>der Weg führt über eine Verknüpfung</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>dort ist etwas eingehängt</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Nichts gelöscht: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Misst, was sich in Ihrem persönlichen Ordner angesammelt hat, und löscht die Ordner, die Sie ankreuzen.</translation>
@@ -1034,6 +1082,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Zugriff nicht erlaubt</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Nicht lesbar</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

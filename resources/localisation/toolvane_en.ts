@@ -1007,9 +1007,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Deletes the ticked folders for good, without asking again</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% used</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 bytes</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 freed</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 freed, some stayed: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -1027,6 +1035,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Your home folder, once you have granted access to it</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Not there</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>This could not start, because the system allows no more threads. Close other programs and try again.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Not a folder</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Some of it cannot be read</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>it is reached through a link</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>something is mounted there</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>no permission</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>stopped</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Nothing deleted: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Measures the clutter in your home folder and deletes the folders that you tick.</translation>
@@ -1034,6 +1082,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Access not granted</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Cannot be read</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -1007,9 +1007,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Elimina definitivamente las carpetas marcadas, sin volver a preguntar</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% en uso</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 bytes</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 liberados</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 liberados; el resto no: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -1027,6 +1035,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Su carpeta personal, una vez autorizado el acceso</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>No existe</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Detenido. Una carpeta no respondió y se dejó como estaba. Puede que algo montado en ella no esté accesible.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>No se ha podido empezar porque el sistema no permite más hilos. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>No es una carpeta</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Una parte no se puede leer</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>se llega a través de un enlace</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>hay algo montado ahí</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>sin permiso</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>No se ha eliminado nada: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Mide lo que ocupa espacio sin necesidad en su carpeta personal y elimina las carpetas que marque.</translation>
@@ -1034,6 +1082,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Acceso no autorizado</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>No se puede leer</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -1007,9 +1007,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Supprime définitivement les dossiers cochés, sans demander de confirmation</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% utilisés</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 octet</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 libérés</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 libérés, le reste non : %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -1027,6 +1035,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Votre dossier personnel, une fois l’accès autorisé</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Absent</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Arrêté. Un dossier n’a pas répondu et a été laissé de côté. Un système de fichiers qui y est monté est peut-être inaccessible.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>L’opération n’a pas pu commencer, car le système n’autorise pas d’autres threads. Fermez d’autres programmes et réessayez.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Ce n’est pas un dossier</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Une partie est illisible</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>le chemin passe par un lien</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>un système de fichiers y est monté</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>autorisation manquante</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Rien n’a été supprimé : %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Mesure ce qui encombre votre dossier personnel et supprime les dossiers que vous cochez.</translation>
@@ -1034,6 +1082,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Accès non autorisé</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Illisible</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

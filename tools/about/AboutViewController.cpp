@@ -13,6 +13,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <system_error>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -93,7 +94,11 @@ void AboutViewController::reloadAction()
 {
     if (std::exchange(m_isLoading, true))
         return;
-    m_loader = std::jthread([this](const std::stop_token &stop) { reloadData(stop); });
+    try {
+        m_loader = std::jthread([this](const std::stop_token &stop) { reloadData(stop); });
+    } catch (const std::system_error &) { // no thread: the list stays empty until Reload
+        endLoading(AppsList(), configurationServer());
+    }
 }
 
 void AboutViewController::initLocalizables()
