@@ -4,17 +4,16 @@ import re
 import xml.etree.ElementTree as xml
 from pathlib import Path
 
-# What `toolvane PAGE` takes, in the sidebar's order, and the key of the page's name.
-PAGES = {
-    "video": "AV Convert",
-    "cache": "UserCache",
-    "speech": "Speech Synthesis",
-    "zip": "Zip",
-    "unzip": "Unzip",
-    "dmg": "DMG",
-    "iso": "ISO",
-    "update": "Update",
-}
+TOOL_LIST = Path(__file__).parents[2] / "app/ToolList.cpp"
+
+
+def pages():
+    """{what `toolvane PAGE` takes: key of the page's name}, in the sidebar's order."""
+    tools = re.findall(r'\{QT_TRID_NOOP\("([^"]+)"\),\s*"[^"]*",\s*"([^"]+)"',
+                       TOOL_LIST.read_text(encoding="utf-8"))
+    if not tools:
+        raise ValueError(f"no tools found in {TOOL_LIST}")
+    return {command_name: key for key, command_name in tools}
 
 
 def read_tables(folder):

@@ -9,6 +9,7 @@
 #include "JobRow.h"
 #include "JobStrip.h"
 #include "PageControls.h"
+#include "Tool.h"
 
 #include <QApplication>
 #include <QEnterEvent>
@@ -18,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int zip = 3;
+const int zip = rowOfTool(u"zip"_s).value();
 
 class Window
 {
