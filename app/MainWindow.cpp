@@ -15,11 +15,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDesktopServices>
+#include <QDir>
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -29,6 +32,15 @@ namespace
 constexpr auto geometryKey = "MainWindow/Geometry"_L1;
 constexpr int titleIconSize = 24;
 constexpr int titleMargin = 14;
+
+// The guide is installed with the program; in a build tree there is a link to it.
+void openGuide()
+{
+    const QString path = QDir::cleanPath(QCoreApplication::applicationDirPath()
+                                         + "/../share/doc/toolvane/guide/README.md"_L1);
+    if (!QFile::exists(path) || !QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        MiscTool::showAlert(qtTrId("Guide.Fail"), path);
+}
 
 // The application's icon and name. It shows the action's text, but is not a button: there is
 // nothing to press.
@@ -55,6 +67,7 @@ MainWindow::MainWindow(JobList &jobs) : ui(std::make_unique<Ui::MainWindow>()), 
     ui->setupUi(this);
     ui->jobStrip->setJobs(m_jobs);
     fillToolbar();
+    connect(ui->guideItem, &QAction::triggered, this, &openGuide);
     connect(ui->aboutItem, &QAction::triggered, this, &MainWindow::showAbout);
     connect(ui->quitItem, &QAction::triggered, this, &QWidget::close);
     if (!restoreGeometry(QSettings().value(geometryKey).toByteArray()))

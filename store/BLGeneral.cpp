@@ -98,7 +98,7 @@ bool BLGeneral::selectInto(QAnyStringView whereClause, RecordList records,
         return true;
     }
     const DBScope open;
-    return DB::selectInto(
-        SchemaReflect::getSelectStatementIncludeWhere(tableName, whereClause.toString()), records,
-        page);
+    const QString sql =
+        SchemaReflect::getSelectStatementIncludeWhere(tableName, whereClause.toString());
+    return DB::selectInto(sql, records, page) == DB::Selected::All;
 }

@@ -39,7 +39,8 @@ public:
     update(RecordView record); ///< The row is found by the record's key. None found is success.
     bool delete_(QAnyStringView whereClause);
 
-    /// The records that satisfy the clause; none on an error of the local database.
+    /// The records that satisfy the clause; none on an error of the local database, so that an
+    /// empty list means that there are none. From the web service it may also mean an error.
     template <RecordClass T>
     std::optional<QList<T>> select(QAnyStringView whereClause, const T &)
     {
@@ -58,7 +59,7 @@ public:
 
     // The web-service form, whatever the database type is. The results are the service's own
     // status numbers, 0 for success. A request without a whole reply reads as status 0 or as an
-    // empty list; nothing is logged.
+    // empty list; nothing is logged but a reply that was longer than DB::webServiceLimits() allows.
 
     QString getWebServiceURL() const; ///< The service's address followed by the table's name.
     /// Sends an update if the record has a key, else an insert.

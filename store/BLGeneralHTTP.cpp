@@ -7,6 +7,8 @@
 #include "MiscTool.h"
 #include "SchemaReflect.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace
@@ -17,7 +19,16 @@ namespace
 QByteArray post(const QString &address, const QList<QByteArray> &headers, QByteArrayView body)
 {
     const HttpRequest request{address.toUtf8(), headers, DB::webServiceLimits()};
-    return httpPost(request, body).body;
+    HttpReply reply = httpPost(request, body);
+    if (reply.end == HttpReply::End::TooLarge)
+        MiscTool::printMsg(u"BLGeneral"_s, u"post"_s, u"the reply is too large"_s);
+    return std::move(reply.body);
+}
+
+/// An address, or a part of one, as it is sent: in contrast to a stored text, a "#" stays.
+QString escaped(const QString &address)
+{
+    return MiscTool::encode2UTF8(address).replace("%23"_L1, "#"_L1); // a "%23" of it is "%2523" now
 }
 
 int integerValue(const QVariant &value)
@@ -43,15 +54,14 @@ int BLGeneral::execHTTP(RecordView record) const
     // As many bytes as the text has UTF-16 units, even if its UTF-8 form is longer. httpPost writes
     // the Content-Length for it.
     const QByteArray body = json.toUtf8().left(json.size());
-    return leadingInteger(post(MiscTool::encode2UTF8(address),
-                               {"Accept: application/json", "Content-Type: application/json"},
-                               body));
+    return leadingInteger(post(
+        escaped(address), {"Accept: application/json", "Content-Type: application/json"}, body));
 }
 
 int BLGeneral::deleteHTTP(QAnyStringView whereClause) const
 {
     const QString query = "?OPERATION=DELETE&CLAUSE="_L1 + whereClause.toString();
-    return leadingInteger(post(getWebServiceURL() + MiscTool::encode2UTF8(query), {}, {}));
+    return leadingInteger(post(getWebServiceURL() + escaped(query), {}, {}));
 }
 
 void BLGeneral::selectHTTPInto(QAnyStringView whereClause, RecordList records,
@@ -61,5 +71,5 @@ void BLGeneral::selectHTTPInto(QAnyStringView whereClause, RecordList records,
     if (page)
         address += "&FROM="_L1 + QString::number(page->from) + "&STEP="_L1
             + QString::number(page->stepLength);
-    SchemaReflect::appendSelectReply(post(MiscTool::encode2UTF8(address), {}, {}), records);
+    SchemaReflect::appendSelectReply(post(escaped(address), {}, {}), records);
 }

@@ -1,5 +1,6 @@
 #include "DB.h"
 
+#include "BusyBudget.h"
 #include "Http.h"
 #include "MiscTool.h"
 
@@ -16,8 +17,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-/// How long a statement waits for another process that holds the file.
-constexpr std::chrono::milliseconds busyTimeout{5000};
+/// 100,000 records are about 15 MB. HttpLimits' own limit is meant for pages and pictures.
+constexpr qint64 maxReplyBytes = 64 * 1024 * 1024;
 
 /// Everything that the record store remembers between two calls.
 struct State {
@@ -26,7 +27,7 @@ struct State {
     std::vector<sqlite3 *> earlierHandles; ///< Opened, then replaced by another open().
     QString type; ///< Null while unset.
     std::optional<QString> webServiceURL;
-    HttpLimits webServiceLimits;
+    HttpLimits webServiceLimits{.bytes = maxReplyBytes};
     bool isSessionOpen = false;
 };
 
@@ -76,7 +77,7 @@ int DB::open()
     const int code = sqlite3_open16(path.utf16(), &state().handle);
     state().isUsable = state().handle != nullptr;
     if (state().isUsable)
-        sqlite3_busy_timeout(state().handle, int(busyTimeout.count()));
+        BusyBudget::applyTo(state().handle);
     return code;
 }
 

@@ -65,19 +65,23 @@ public:
     static QList<QMap<QString, QString>> getRecordsBySQL(const QString &sql, const QString &table);
     static QList<QMap<QString, QString>> getRecords(const QString &table);
 
-    /// The records that a SELECT yields; none if it cannot be prepared. The prototype only names
-    /// the class: `DB::select(sql, UserSchema{})`.
+    /// The records that a SELECT yields; none if it cannot be prepared. An error at a later row
+    /// ends them: BLGeneral::select() distinguishes that from the end. The prototype only names the
+    /// class: `DB::select(sql, UserSchema{})`.
     template <RecordClass T>
     static std::optional<QList<T>> select(const QString &sql, const T &)
     {
-        return collect<T>([&](RecordList records) { return selectInto(sql, records, {}); });
+        return collect<T>(
+            [&](RecordList records) { return selectInto(sql, records, {}) != Selected::Nothing; });
     }
     /// One page of them, see SchemaReflect::getSchemaValueFromeSQLiteRS.
     template <RecordClass T>
     static std::optional<QList<T>> select(const QString &sql, const T &, int from, int stepLength)
     {
         const RecordPage page{from, stepLength};
-        return collect<T>([&](RecordList records) { return selectInto(sql, records, page); });
+        return collect<T>([&](RecordList records) {
+            return selectInto(sql, records, page) != Selected::Nothing;
+        });
     }
 
     /// Makes a list and passes it to `select`; none if that returns false.
@@ -89,9 +93,10 @@ public:
             records.reset();
         return records;
     }
-    /// Both forms of select, without the template. All records if there is no page; false on error.
-    static bool selectInto(const QString &sql, RecordList records,
-                           const std::optional<RecordPage> &page);
+    enum class Selected { Nothing, Part, All }; ///< Less than all only after an error.
+    /// Both forms of select, without the template. All records if there is no page.
+    static Selected selectInto(const QString &sql, RecordList records,
+                               const std::optional<RecordPage> &page);
 
     static HttpLimits &webServiceLimits(); ///< A change applies to the requests that follow.
 

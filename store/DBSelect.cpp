@@ -53,21 +53,21 @@ void forEachRow(Statement &statement, QLatin1String method, Use use)
 
 } // namespace
 
-bool DB::selectInto(const QString &sql, RecordList records, const std::optional<RecordPage> &page)
+DB::Selected DB::selectInto(const QString &sql, RecordList records,
+                            const std::optional<RecordPage> &page)
 {
     if (!isLocal())
-        return false;
+        return Selected::Nothing;
+    using Reflect = SchemaReflect;
     const Statement statement(usableDatabase(), sql);
-    if (!statement.isPrepared()) {
-        MiscTool::printMsg(u"DB"_s, u"select"_s, u"failed"_s);
-        return false;
-    }
-    if (page)
-        SchemaReflect::getSchemaValueFromeSQLiteRS(records, statement.get(), page->from,
-                                                   page->stepLength);
-    else
-        SchemaReflect::getSchemaValueFromeSQLiteRS(records, statement.get());
-    return true;
+    const bool isWhole = statement.isPrepared()
+        && (page ? Reflect::getSchemaValueFromeSQLiteRS(records, statement.get(), page->from,
+                                                        page->stepLength)
+                 : Reflect::getSchemaValueFromeSQLiteRS(records, statement.get()));
+    if (isWhole)
+        return Selected::All;
+    MiscTool::printMsg(u"DB"_s, u"select"_s, u"failed"_s);
+    return statement.isPrepared() ? Selected::Part : Selected::Nothing;
 }
 
 QStringList DB::getTables()

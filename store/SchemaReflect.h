@@ -14,7 +14,7 @@ class object;
 /// of the record's class. It has no state. Interface thread only, because `DB` names the dialect.
 ///
 /// No value and no clause is escaped. A caller percent-escapes what the user typed before it passes
-/// it on (MiscTool::encode2UTF8).
+/// it on.
 class SchemaReflect
 {
 public:
@@ -50,12 +50,12 @@ public:
 
     /// All rows; none if the database type is not "sqlite3".
     static void getSchemaValueFromeRS(RecordList records, sqlite3_stmt *statement);
-    /// All rows; a step that fails ends them.
-    static void getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement);
+    /// All rows; a step that fails ends them. Returns whether none failed.
+    static bool getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement);
     /// Discards `from` rows, then steps stepLength + 2 times and takes the rows that it gets. A
     /// finished statement starts again by itself, so a page that reaches past the end continues
-    /// with the first rows, after one step without a row.
-    static void getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement, int from,
+    /// with the first rows, after one step without a row. Returns whether no step failed.
+    static bool getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement, int from,
                                             int stepLength);
 
     /// Fills a new record by name: each property takes the member with its name. Numbers may be
@@ -63,7 +63,8 @@ public:
     static void convertFromJSON(const simdjson::dom::object &object, RecordWriter record);
     /// Appends the records of a web service's reply to a select: a JSON object whose member
     /// "RESULT" is an array with one object per record, in order. Any other reply gives none; an
-    /// element that is not an object is skipped. Any thread.
+    /// element that is not an object is skipped. A number that no double can hold is lost, and half
+    /// a surrogate pair is read as U+FFFD. Any thread.
     static void appendSelectReply(QByteArrayView reply, RecordList records);
 
     /// One line without blanks, every value a JSON string. Texts are not escaped: a quote or a

@@ -1,5 +1,6 @@
 // The part of SchemaReflect that reads JSON.
 
+#include "JSONRepair.h"
 #include "LeadingNumber.h"
 #include "SchemaReflect.h"
 
@@ -86,6 +87,27 @@ void fill(RecordWriter record, const QList<RecordColumn> &columns,
     }
 }
 
+QByteArrayView withoutMark(QByteArrayView reply)
+{
+    constexpr QByteArrayView mark = "\xEF\xBB\xBF"; // the byte-order mark in UTF-8
+    return reply.startsWith(mark) ? reply.sliced(mark.size()) : reply;
+}
+
+/// The parser refuses a text as a whole for one value that it cannot hold, so such a value is
+/// replaced and the text is read again.
+bool parse(simdjson::dom::parser &parser, QByteArrayView text, element &document)
+{
+    if (text.isEmpty()) // the parser must not be given that
+        return false;
+    const auto read = [&](QByteArrayView json) {
+        return parser.parse(json.data(), std::size_t(json.size())).get(document);
+    };
+    const simdjson::error_code code = read(text);
+    if (code == simdjson::NUMBER_ERROR || code == simdjson::STRING_ERROR)
+        return read(repairedJSON(text)) == simdjson::SUCCESS;
+    return code == simdjson::SUCCESS;
+}
+
 } // namespace
 
 void SchemaReflect::convertFromJSON(const simdjson::dom::object &object, RecordWriter record)
@@ -100,8 +122,7 @@ void SchemaReflect::appendSelectReply(QByteArrayView reply, RecordList records)
     simdjson::dom::parser parser;
     simdjson::dom::element document;
     simdjson::dom::array elements;
-    if (reply.isEmpty() // the parser must not be given an empty text
-        || parser.parse(reply.data(), std::size_t(reply.size())).get(document) != simdjson::SUCCESS
+    if (!parse(parser, withoutMark(reply), document)
         || document["RESULT"].get(elements) != simdjson::SUCCESS)
         return;
     const QList<RecordColumn> columns = recordColumns(records.recordClass());

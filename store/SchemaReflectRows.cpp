@@ -58,22 +58,31 @@ void SchemaReflect::getSchemaValueFromeRS(RecordList records, sqlite3_stmt *stat
         getSchemaValueFromeSQLiteRS(records, statement);
 }
 
-void SchemaReflect::getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement)
+bool SchemaReflect::getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement)
 {
     const QList<RecordColumn> columns = recordColumns(records.recordClass());
-    while (sqlite3_step(statement) == SQLITE_ROW)
+    int code = SQLITE_OK;
+    while ((code = sqlite3_step(statement)) == SQLITE_ROW)
         readRow(statement, columns, records.append());
+    return code == SQLITE_DONE;
 }
 
-void SchemaReflect::getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement,
+bool SchemaReflect::getSchemaValueFromeSQLiteRS(RecordList records, sqlite3_stmt *statement,
                                                 int from, int stepLength)
 {
     const QList<RecordColumn> columns = recordColumns(records.recordClass());
+    bool isWhole = true;
+    const auto hasRow = [&] {
+        const int code = sqlite3_step(statement);
+        isWhole = isWhole && (code == SQLITE_ROW || code == SQLITE_DONE);
+        return code == SQLITE_ROW;
+    };
     for (int i = 0; i < from; ++i)
-        sqlite3_step(statement);
+        hasRow();
     const qint64 last = qint64(from) + stepLength;
     for (qint64 i = qint64(from) - 1; i <= last; ++i) {
-        if (sqlite3_step(statement) == SQLITE_ROW)
+        if (hasRow())
             readRow(statement, columns, records.append());
     }
+    return isWhole;
 }

@@ -28,14 +28,18 @@ const std::optional<UserSchema> &Global::loggedUser()
 
 QString Global::getPermission(int groupID)
 {
-    QString permission = u""_s;
+    return storedPermission(groupID).value_or(u""_s);
+}
+
+std::optional<QString> Global::storedPermission(int groupID)
+{
     openDB();
     BLGeneral groups(u"UserGroup"_s);
     const auto found = groups.select(u"ID="_s + QString::number(groupID), UserGroupSchema{});
-    if (found && !found->isEmpty())
-        permission = found->last().Permission;
     closeDB();
-    return permission;
+    if (!found)
+        return std::nullopt;
+    return found->isEmpty() ? u""_s : found->last().Permission;
 }
 
 void Global::reset()
@@ -45,11 +49,16 @@ void Global::reset()
 
 SessionRights::SessionRights()
     : m_groupID(session() ? session()->UserGroupID : 0),
-      m_permission(Global::getPermission(m_groupID))
+      m_permission(Global::storedPermission(m_groupID))
 {
 }
 
 bool SessionRights::holds(QLatin1String code) const
 {
-    return m_groupID == 0 || m_permission.contains(code);
+    return m_groupID == 0 || (m_permission && m_permission->contains(code));
+}
+
+bool SessionRights::areKnown() const
+{
+    return m_groupID == 0 || m_permission;
 }

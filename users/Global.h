@@ -22,6 +22,8 @@ public:
     /// The rights of a group (see SessionRights), "" if there is no such group. Closes the database
     /// afterwards, even if it was open before, because opening is not counted.
     static QString getPermission(int groupID);
+    /// The same; none if the database could not be read.
+    static std::optional<QString> storedPermission(int groupID);
 
     static void reset(); ///< Nobody is logged in, as at start; for tests.
 };
@@ -40,8 +42,10 @@ public:
     /// Whether the group's rights contain the code. A letter alone matches any right of the module;
     /// this is the test for opening the module's page.
     bool holds(QLatin1String code) const;
+    /// Whether the database could be read. If not, a user of a group holds no right for now.
+    bool areKnown() const;
 
 private:
     int m_groupID;
-    QString m_permission;
+    std::optional<QString> m_permission;
 };

@@ -1,6 +1,7 @@
 #include "Login.h"
 
 #include "BLGeneral.h"
+#include "BusyBudget.h"
 #include "Global.h"
 
 using namespace Qt::StringLiterals;
@@ -8,14 +9,12 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-QList<UserSchema> select(BLGeneral &users, const QString &whereClause)
-{
-    return users.select(whereClause, UserSchema{}).value_or(QList<UserSchema>());
-}
-
+// Not after a failed select, as while the database is busy: there may be a root with a password of
+// its own.
 void createMissingRoot(BLGeneral &users)
 {
-    if (select(users, u"User='root'"_s).isEmpty())
+    const auto roots = users.select(u"User='root'"_s, UserSchema{});
+    if (roots && roots->isEmpty())
         users.insert(UserSchema().setRoot());
 }
 
@@ -24,10 +23,11 @@ void createMissingRoot(BLGeneral &users)
 QList<UserSchema> Login::matchingUsers(const QString &user, const QString &password)
 {
     const QString whereClause = u"User='"_s + user + u"' AND Password='"_s + password + u"'"_s;
+    const BusyBudget budget;
     Global::openDB();
     BLGeneral users(u"User"_s);
     createMissingRoot(users);
-    const QList<UserSchema> found = select(users, whereClause);
+    const auto found = users.select(whereClause, UserSchema{});
     Global::closeDB();
-    return found;
+    return found.value_or(QList<UserSchema>());
 }

@@ -21,5 +21,7 @@ public:
     /// The group's rights: codes of two characters, joined without a separator, see SessionRights.
     QString Permission;
     QString Memo;
+
+    bool operator==(const UserGroupSchema &) const = default;
 };
 Q_DECLARE_TYPEINFO(UserGroupSchema, Q_RELOCATABLE_TYPE);

@@ -34,6 +34,7 @@ public:
         Memo = QStringLiteral("Super User");
         return *this;
     }
+    bool operator==(const UserSchema &) const = default;
     /// Whether this is the user that setRoot() makes; others may have all rights too.
     bool isRoot() const { return UserGroupID == 0 && User == QLatin1String("root"); }
 };

@@ -71,8 +71,8 @@ public:
     /// Writes "[sender]->(method):message" as one line to the system log.
     static void printMsg(const QString &sender, const QString &method, const QString &message);
     /// Percent-escapes in UTF-8 what RFC 2396 does not allow in an address: controls, blank, DEL,
-    /// everything outside ASCII and "%<>[\]^`{|} with the quote. Letters, digits, the marks
-    /// -_.!~*'() and the delimiters ;/?:@&=+$,# stay. An unpaired surrogate counts as U+FFFD.
+    /// everything outside ASCII and "#%<>[\]^`{|} with the quote. Letters, digits, the marks
+    /// -_.!~*'() and the delimiters ;/?:@&=+$, stay. An unpaired surrogate counts as U+FFFD.
     static QString encode2UTF8(const QString &text);
     /// Undoes percent-escapes; none if the bytes are not valid UTF-8. "+" stays "+", and so does a
     /// "%" without two hexadecimal digits behind it.

@@ -179,8 +179,8 @@ void MiscTool::printMsg(const QString &sender, const QString &method, const QStr
 QString MiscTool::encode2UTF8(const QString &text)
 {
     // Letters, digits, "-", ".", "_" and "~" stay in any case; these are the other marks and the
-    // delimiters of RFC 2396, and "#", which parts an address from its fragment.
-    static constexpr char kept[] = "!*'();/?:@&=+$,#";
+    // delimiters of RFC 2396. "#" is none of them: it separates an address from its fragment.
+    static constexpr char kept[] = "!*'();/?:@&=+$,";
     return QString::fromLatin1(utf8(text).toPercentEncoding(kept));
 }
 

@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>إن&amp;شاء</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>تعذّر فتح الدليل. ابحث عنه هنا:</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>الأيقونة</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>&amp;ملف</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>ال&amp;دليل</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>إ&amp;ضافة…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>قاعدة البيانات مشغولة: يستخدمها برنامج آخر. افتح هذه الصفحة مجددًا بعد قليل.</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>غيّر شخص آخر هذا الإدخال بينما كان مفتوحًا هنا.</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>&amp;حذف…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>حذف شخص آخر هذا الإدخال بينما كان مفتوحًا هنا.</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>تسجيل ال&amp;دخول…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>ا&amp;حفظ على أي حال</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>يمكنك حفظه كما تراه هنا، أو العودة دون حفظ.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>المخ&amp;زون</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>السجلات</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>تعذّرت قراءة الإدخالات. افحص ملف قاعدة البيانات، ثم افتح هذه الصفحة مجددًا.</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>المستخدم</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>كل الصلاحيات</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>مجموعة محذوفة</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>المجموعة الآن: %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>بعد الحفظ: %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>&amp;Erstellen</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>Das Handbuch konnte nicht geöffnet werden. Sie finden es hier:</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>Symbol</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>&amp;Datei</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>&amp;Handbuch</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>&amp;Hinzufügen…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>Die Datenbank ist belegt: Ein anderes Programm benutzt sie. Öffnen Sie diese Seite gleich noch einmal.</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>Jemand anderes hat diesen Eintrag geändert, während er hier geöffnet war.</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>Lös&amp;chen…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>Jemand anderes hat diesen Eintrag gelöscht, während er hier geöffnet war.</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>&amp;Anmelden…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>&amp;Trotzdem speichern</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>Sie können ihn so speichern, wie Sie ihn hier sehen, oder zurückgehen, ohne zu speichern.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>&amp;Lagerbestand</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>Verwaltung</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>Die Einträge lassen sich nicht lesen. Prüfen Sie die Datenbankdatei und öffnen Sie diese Seite dann noch einmal.</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>Benutzer</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>Alle Rechte</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>Eine gelöschte Gruppe</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>Gruppe jetzt: %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>Nach dem Speichern: %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

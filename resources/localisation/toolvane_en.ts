@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>&amp;Generate</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>The guide could not be opened. Look for it here:</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>Icon</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>&amp;File</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>&amp;Guide</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>&amp;Add…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>The database is busy: another program is using it. Open this page again in a moment.</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>Somebody else changed this entry while it was open here.</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>&amp;Delete…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>Somebody else deleted this entry while it was open here.</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>&amp;Log In…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>&amp;Save Anyway</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>You can save it as you see it here, or go back without saving.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>&amp;Stock</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>Records</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>The records cannot be read. Check the database file, then open this page again.</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>User</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>All rights</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>A deleted group</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>Group now: %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>After saving: %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

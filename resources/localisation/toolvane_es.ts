@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>&amp;Crear</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>No se ha podido abrir la guía. Búsquela aquí:</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>Icono</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>&amp;Archivo</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>&amp;Guía</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>&amp;Añadir…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>La base de datos está ocupada: otro programa la está usando. Vuelva a abrir esta página dentro de un momento.</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>Otra persona ha cambiado esta entrada mientras estaba abierta aquí.</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>E&amp;liminar…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>Otra persona ha eliminado esta entrada mientras estaba abierta aquí.</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>&amp;Iniciar sesión…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>&amp;Guardar de todos modos</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>Puede guardarla tal como la ve aquí o volver sin guardar.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>E&amp;xistencias</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>Gestión</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>No se pueden leer las entradas. Compruebe el archivo de la base de datos y vuelva a abrir esta página.</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>Usuario</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>Todos los derechos</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>Un grupo eliminado</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>Grupo actual: %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>Después de guardar: %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>&amp;Créer</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>Le guide n’a pas pu être ouvert. Cherchez-le ici :</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>Icône</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>&amp;Fichier</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>&amp;Guide</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>&amp;Ajouter…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>La base de données est occupée : un autre programme l’utilise. Rouvrez cette page dans un instant.</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>Quelqu’un d’autre a modifié cette entrée pendant qu’elle était ouverte ici.</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>&amp;Supprimer…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>Quelqu’un d’autre a supprimé cette entrée pendant qu’elle était ouverte ici.</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>Se &amp;connecter…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>&amp;Enregistrer quand même</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>Vous pouvez l’enregistrer telle que vous la voyez ici, ou revenir sans enregistrer.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>S&amp;tock</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>Gestion</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>Les entrées ne peuvent pas être lues. Vérifiez le fichier de la base de données, puis rouvrez cette page.</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>Utilisateur</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>Tous les droits</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>Un groupe supprimé</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>Groupe actuel : %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>Après l’enregistrement : %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

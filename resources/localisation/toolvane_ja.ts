@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>作成(&amp;G)</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>ガイドを開けませんでした。次の場所にあります:</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>アイコン</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>ファイル(&amp;F)</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>ガイド(&amp;G)</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>追加(&amp;A)…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>データベースは使用中です。ほかのプログラムが使っています。少ししてからこのページを開き直してください。</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>この項目をここで開いている間に、ほかの人が変更しました。</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>削除(&amp;D)…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>この項目をここで開いている間に、ほかの人が削除しました。</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>ログイン(&amp;L)…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>それでも保存(&amp;S)</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>ここに表示されている内容で保存するか、保存せずに戻ることができます。</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>在庫(&amp;S)</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>登録情報</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>項目を読み込めません。データベースのファイルを確認してから、このページを開き直してください。</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>ユーザー</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>すべての権限</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>削除されたグループ</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>現在のグループ: %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>保存後: %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

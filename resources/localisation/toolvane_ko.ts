@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>만들기(&amp;G)</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>안내서를 열 수 없습니다. 다음 위치에서 찾아보십시오:</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>아이콘</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>파일(&amp;F)</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>안내서(&amp;G)</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>추가(&amp;A)…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>데이터베이스가 사용 중입니다. 다른 프로그램이 사용하고 있습니다. 잠시 후 이 페이지를 다시 여십시오.</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>이 항목이 여기에 열려 있는 동안 다른 사람이 변경했습니다.</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>삭제(&amp;D)…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>이 항목이 여기에 열려 있는 동안 다른 사람이 삭제했습니다.</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>로그인(&amp;L)…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>그래도 저장(&amp;S)</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>여기에 보이는 대로 저장하거나 저장하지 않고 돌아갈 수 있습니다.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>재고(&amp;S)</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>기록</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>항목을 읽을 수 없습니다. 데이터베이스 파일을 확인한 다음 이 페이지를 다시 여십시오.</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>사용자</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>모든 권한</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>삭제된 그룹</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>현재 그룹: %1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>저장 후: %1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

@@ -207,6 +207,10 @@
         <source>&amp;Generate</source>
         <translation>生成(&amp;G)</translation>
     </message>
+    <message id="Guide.Fail">
+        <source>The guide could not be opened. Look for it here:</source>
+        <translation>无法打开使用指南。请在此处查找：</translation>
+    </message>
     <message id="Icon">
         <source>Icon</source>
         <translation>图标</translation>
@@ -306,6 +310,10 @@
     <message id="Menu.File">
         <source>&amp;File</source>
         <translation>文件(&amp;F)</translation>
+    </message>
+    <message id="Menu.Guide">
+        <source>&amp;Guide</source>
+        <translation>使用指南(&amp;G)</translation>
     </message>
     <message id="Menu.Help">
         <source>&amp;Help</source>
@@ -463,9 +471,21 @@
         <source>&amp;Add…</source>
         <translation>添加(&amp;A)…</translation>
     </message>
+    <message id="Records.Busy">
+        <source>The database is busy: another program is using it. Open this page again in a moment.</source>
+        <translation>数据库正忙：另一个程序正在使用它。请稍后重新打开此页。</translation>
+    </message>
+    <message id="Records.Changed">
+        <source>Somebody else changed this entry while it was open here.</source>
+        <translation>此条目在这里打开期间被其他人更改了。</translation>
+    </message>
     <message id="Records.Delete">
         <source>&amp;Delete…</source>
         <translation>删除(&amp;D)…</translation>
+    </message>
+    <message id="Records.Deleted">
+        <source>Somebody else deleted this entry while it was open here.</source>
+        <translation>此条目在这里打开期间被其他人删除了。</translation>
     </message>
     <message id="Records.Edit">
         <source>&amp;Edit…</source>
@@ -479,6 +499,14 @@
         <source>&amp;Log In…</source>
         <translation>登录(&amp;L)…</translation>
     </message>
+    <message id="Records.SaveAnyway">
+        <source>&amp;Save Anyway</source>
+        <translation>仍然保存(&amp;S)</translation>
+    </message>
+    <message id="Records.SaveAnyway.Info">
+        <source>You can save it as you see it here, or go back without saving.</source>
+        <translation>您可以按此处显示的内容保存，也可以返回而不保存。</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>库存(&amp;S)</translation>
@@ -486,6 +514,10 @@
     <message id="Records.Title">
         <source>Records</source>
         <translation>记录</translation>
+    </message>
+    <message id="Records.Unreadable">
+        <source>The records cannot be read. Check the database file, then open this page again.</source>
+        <translation>无法读取条目。请检查数据库文件，然后重新打开此页。</translation>
     </message>
     <message id="Records.UserGroups">
         <source>User &amp;Groups</source>
@@ -882,6 +914,22 @@
     <message id="User">
         <source>User</source>
         <translation>用户</translation>
+    </message>
+    <message id="User.Group.All">
+        <source>All rights</source>
+        <translation>所有权限</translation>
+    </message>
+    <message id="User.Group.Gone">
+        <source>A deleted group</source>
+        <translation>已删除的组</translation>
+    </message>
+    <message id="User.Group.Present">
+        <source>Group now: %1</source>
+        <translation>当前的组：%1</translation>
+    </message>
+    <message id="User.Group.Saved">
+        <source>After saving: %1</source>
+        <translation>保存后：%1</translation>
     </message>
     <message id="User.Group.Unlisted">
         <source>The group stays as it is</source>

@@ -97,6 +97,17 @@ private Q_SLOTS:
         QDesktopServices::unsetUrlHandler(u"https"_s);
     }
 
+    void helpOpensTheGuide()
+    {
+        Application application;
+        QDesktopServices::setUrlHandler(u"file"_s, this, "noteUrl");
+        application.window().findChild<QAction *>(u"guideItem"_s)->trigger();
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+        QFile guide(std::exchange(m_opened, {}).toLocalFile());
+        QVERIFY(guide.open(QIODevice::ReadOnly));
+        QVERIFY(guide.readAll().contains("records.md"));
+    }
+
     void remembersPlaceAndSize()
     {
         {

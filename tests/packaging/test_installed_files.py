@@ -79,6 +79,11 @@ class InstalledFiles(unittest.TestCase):
                                 capture_output=True, text=True, check=True).stdout.strip()
         self.assertEqual({heading[1], newest, packed}, {VERSION})
 
+    def test_the_guide_that_help_opens_is_installed(self):
+        guide = SHARE / "doc/toolvane/guide"
+        self.assertIn("kelp", (guide / "records.md").read_text())
+        self.assertTrue((guide / "README.md").is_file())
+
     def test_pictures_are_there_and_as_large_as_said(self):
         for image in self.metainfo.iter("image"):
             name = image.text.rpartition("/")[2]

@@ -2,17 +2,22 @@
 // that the file stays as it was.
 
 #include "BLGeneral.h"
+#include "BusyBudget.h"
 #include "DB.h"
 #include "LogLines.h"
 #include "SampleRecords.h"
 #include "WithoutPrivilege.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 
 #include <sqlite3.h>
 #include <sys/stat.h>
+
+#include <chrono>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -106,9 +111,14 @@ private Q_SLOTS:
         LogLines::take();
         QVERIFY(!gateway.insert(PriceSchema{0, u"b"_s, 2}));
         QCOMPARE(LogLines::take(), QStringList{u"[DB]->(exec):database disk image is malformed"_s});
-        // The rows up to the damage are read.
-        const auto records = gateway.select("1=1", PriceSchema{});
-        QVERIFY(!records || records->size() < 300);
+        write(whole.first(whole.size() / 2) + QByteArray(whole.size() / 2, '\0'));
+        // The rows up to the damage are read, but not taken for all.
+        DB::open();
+        const auto read = DB::select(u"SELECT * FROM Price"_s, PriceSchema{});
+        QVERIFY(read && !read->isEmpty() && read->size() < 300);
+        QVERIFY(!gateway.select("1=1", PriceSchema{}));
+        QVERIFY(!gateway.select("1=1", PriceSchema{}, 0, 300));
+        DB::close();
         write(whole.first(2000));
         allOperationsFail(gateway);
     }
@@ -129,13 +139,28 @@ private Q_SLOTS:
 
     void isLockedByAnotherConnection()
     {
+        DBSession::openDB();
+        BLGeneral gateway(u"Price"_s);
+        gateway.select("1=1", PriceSchema{}); // from now on a statement fails at its first row only
         sqlite3 *other = nullptr;
         sqlite3_open16(DB::dbFilePath().utf16(), &other);
         QCOMPARE(sqlite3_exec(other, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr), SQLITE_OK);
-        DBSession::openDB();
-        sqlite3_busy_timeout(DB::getDatabase(), 20);
-        BLGeneral gateway(u"Price"_s);
-        allOperationsFail(gateway);
+        constexpr std::chrono::milliseconds timeout{200};
+        const auto usual = std::exchange(BusyBudget::timeout(), timeout);
+        QElapsedTimer clock;
+        clock.start();
+        {
+            const BusyBudget budget;
+            const BusyBudget inner; // gives nothing more
+            allOperationsFail(gateway);
+            QVERIFY(BusyBudget::isUsedUp());
+        }
+        QVERIFY(clock.elapsed() >= timeout.count());
+        QVERIFY(clock.elapsed() < 5 * timeout.count()); // 6 statements
+        clock.start();
+        QVERIFY(!gateway.select("1=1", PriceSchema{}));
+        QVERIFY(clock.elapsed() >= timeout.count()); // a statement of its own waits again
+        BusyBudget::timeout() = usual;
         sqlite3_close(other);
         QVERIFY(gateway.insert(PriceSchema{0, u"b"_s, 2}));
         QCOMPARE(gateway.select("1=1", PriceSchema{})->size(), 301);

@@ -135,6 +135,29 @@ private Q_SLOTS:
         QCOMPARE(prices.at(4).Amount, std::numeric_limits<double>::max());
     }
 
+    void aValueThatCannotBeHeldLosesNoRecord()
+    {
+        const QByteArray mark = "\xEF\xBB\xBF";
+        const auto prices =
+            parsed(mark
+                       + "{\"RESULT\":["
+                         "{\"ID\":1,\"Name\":\"\\\"1e999\\\" \\ud83d\\ude00 "
+                         "\\\\ud83d\",\"Amount\":-1e999},"
+                         "{\"ID\":2,\"Name\":\"a\\ud83dz\\ude00\\ud83d\\u0041\",\"Amount\":1e-5},"
+                         "{\"ID\":30000000000000000000,\"Amount\":30000000000000000000}]}",
+                   PriceSchema{});
+        QCOMPARE(keys(prices), QList({1, 2, std::numeric_limits<int>::max()}));
+        QCOMPARE(prices[0].Name, u"\"1e999\" \U0001F600 \\ud83d"_s);
+        QCOMPARE(prices[0].Amount, 0.0);
+        QCOMPARE(prices[1].Name, u"a\ufffdz\ufffd\ufffdA"_s);
+        QCOMPARE(prices[1].Amount, 1e-5);
+        QCOMPARE(prices[2].Amount, 3e19);
+        for (const char *reply :
+             {"\xEF\xBB\xBF", "{\"RESULT\":[{\"ID\":1e999}]",
+              "{\"RESULT\":[{\"ID\":1,\"Name\":\"\\ud800", "{\"RESULT\":[{}-]}"})
+            QVERIFY2(parsed(reply, PriceSchema{}).isEmpty(), reply);
+    }
+
     void otherRepliesGiveNoRecords()
     {
         for (const char *reply :

@@ -101,6 +101,8 @@ private Q_SLOTS:
                  (QList<QByteArray>{"POST /api/T?OPERATION=SELECT&" + clause,
                                     "POST /api/T?OPERATION=DELETE&" + clause,
                                     "POST /api/T?OPERATION=SELECT&CLAUSE=ID=7&FROM=-1&STEP=10"}));
+        gateway.delete_("ID=1#%23"); // what follows the mark is not sent
+        QCOMPARE(requestLines(peer).last(), "POST /api/T?OPERATION=DELETE&CLAUSE=ID=1");
         QVERIFY(peer.requests().at(0).endsWith(
             "\r\nUser-Agent: Toolvane\r\nContent-Length: 0\r\n\r\n"));
     }
@@ -113,7 +115,6 @@ private Q_SLOTS:
             {HttpPeer::reply("\xff\xfe\x01"), 0},
             {HttpPeer::reply("5", "500 Internal Server Error"), 5},
             {"HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n7", 0}, // half of it
-            {HttpPeer::reply(QByteArray(100'001, '7')), 0}, // over the limit
         };
         for (const auto &[reply, status] : cases) {
             const HttpPeer peer(reply);
@@ -125,6 +126,22 @@ private Q_SLOTS:
             const auto records = gateway.select("1=1", PriceSchema{});
             QVERIFY(records && records->isEmpty());
         }
+    }
+
+    void longRepliesReadUpToALimit()
+    {
+        const QByteArray row = "{\"ID\":1,\"Name\":\"" + QByteArray(100, 'n') + "\"},";
+        const QByteArray rows = row.repeated(20'000); // 2.5 MB
+        const HttpPeer peer(HttpPeer::reply("{\"RESULT\":[" + rows.chopped(1) + "]}"));
+        DB::open(QString::fromLatin1(peer.address("/api/")));
+        BLGeneral gateway(u"T"_s);
+        QCOMPARE(gateway.select("1=1", PriceSchema{})->size(), 20'000);
+        QCOMPARE(DB::webServiceLimits().bytes, 64 * 1024 * 1024);
+        QVERIFY(LogLines::take().isEmpty());
+        use(peer);
+        QVERIFY(gateway.select("1=1", PriceSchema{})->isEmpty());
+        QVERIFY(gateway.delete_("1=1"));
+        QCOMPARE(LogLines::take(), QStringList(2, u"[BLGeneral]->(post):the reply is too large"_s));
     }
 
     void aMissingAddressReadsAsSuccess()

@@ -143,9 +143,19 @@ def unpacking():
     folder = sample("archived/out", 16 * MEGABYTE).parent
     sample("archived/older", 1000)
     subprocess.check_call(["zip", "-q", archive, "out", "older"], cwd=folder)
-    return Subject(standin("unzip", "-q", archive, "-d", FOLDER), "out", "disk full",
+    return Subject(standin("unzip", "-q", archive, "-d", FOLDER), "out",
                    success=1,  # for what it did not replace
-                   terminated=80, replaces=False, leaves_parts=True)
+                   replaces=False, leaves_parts=True)
+
+
+def packing():
+    """Several small files, and one that is packed in pieces."""
+    for i in range(20):
+        sample(f"folder/{i}", MEGABYTE // 4)
+    sample("folder/large", 44 * MEGABYTE)
+    return Subject(["env", "-C", SAMPLES / "folder",
+                    *standin("zip", "-r", FOLDER / "out.zip", ".", "-1", "-q")], "out.zip",
+                   replaces=False)
 
 
 def placement():
@@ -193,6 +203,7 @@ SUBJECTS = {
     "hybrid image": lambda: image(no_room="space"),  # xorriso looks before it writes
     "movie": movie,
     "speech": speech,
+    "zip": packing,
     "unzip": unpacking,
     "placement": placement,
     "download": download,

@@ -35,6 +35,9 @@ private Q_SLOTS:
         QVERIFY(isShakenFor(u"twin"_s, u"pw"_s));
         QVERIFY(isShakenFor(u"root"_s, u"Kelp"_s));
         QCOMPARE(PageControls::text(login, "passwordField"), u"Kelp"_s);
+        QCOMPARE(login.focusWidget()->objectName(), u"passwordField"_s);
+        QTest::keyClicks(login.focusWidget(), u"x"_s); // replaces it
+        QCOMPARE(PageControls::text(login, "passwordField"), u"x"_s);
         QVERIFY(login.isVisible());
         QVERIFY(!Global::loggedUser());
         QCOMPARE(trial.boxes.texts, QStringList());

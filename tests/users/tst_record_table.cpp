@@ -68,6 +68,21 @@ private Q_SLOTS:
         QVERIFY(table(trial.open(Users)).columnWidth(0) < 277);
     }
 
+    void theRowWithTheFocusIsSelected()
+    {
+        RecordsTrial trial;
+        RecordsTrial::storeUser(u"alice"_s, 1);
+        const QWidget &page = trial.open(Users);
+        QVERIFY(table(page).hasFocus());
+        QVERIFY(!table(page).currentIndex().isValid()); // nothing is chosen yet
+        for (int round = 0; round < 2; ++round) {
+            QTest::keyClick(&table(page), Qt::Key_Down);
+            QCOMPARE(table(page).selectedRecord(), 0);
+            table(page).clearSelection();
+            QVERIFY(!table(page).currentIndex().isValid());
+        }
+    }
+
     void theBareSkeletonAddsBlankRowsAndWritesOverThem()
     {
         RecordsTrial trial;

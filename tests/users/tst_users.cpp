@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QLabel>
+#include <QTranslator>
 
 using namespace Qt::StringLiterals;
 using namespace Using;
@@ -19,6 +20,21 @@ void fillIn(const QWidget &page, const QString &name, const QString &password,
     type(page, "passwordField", password);
     type(page, "rePasswordField", repeated);
 }
+
+/// Gives the two texts that hold a name; others are still their keys.
+class ShownGroups : public QTranslator
+{
+public:
+    ShownGroups() { QCoreApplication::installTranslator(this); }
+    QString translate(const char *, const char *key, const char *, int) const override
+    {
+        const QLatin1String id(key);
+        return id == "User.Group.Present"_L1 ? u"now %1"_s
+            : id == "User.Group.Saved"_L1    ? u"saved %1"_s
+                                             : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
 
 QComboBox &popUp(const QWidget &page)
 {
@@ -100,18 +116,30 @@ private Q_SLOTS:
             int group;
             QString shown;
             int stored;
+            QString now; // the group's name
+            QString next; // after saving
         } const cases[] = {
-            {3, 2, u"Twin"_s, 3}, // the item with the user's key
-            {40, 2, u"A B"_s, 2}, // no such item: the user's group
-            {41, 0, {}, 0}, // no such item, no group: stays root
-            {42, 77, {}, 77}, // no such item, the group is gone: does not become root
+            {3, 2, u"Twin"_s, 3, u"A B"_s, u"Twin"_s}, // the item with the user's key
+            {3, 1, u"Twin"_s, 3, u"Twin (1)"_s, u"Twin (3)"_s},
+            {3, 0, u"Twin"_s, 3, u"User.Group.All"_s, u"Twin"_s},
+            {40, 2, u"A B"_s, 2, u"A B"_s, u"A B"_s}, // no such item: the user's group
+            {41, 0, u"User.Group.All"_s, 0, u"User.Group.All"_s, u"User.Group.All"_s},
+            // No such item, the group is gone: does not become root.
+            {42, 77, {}, 77, u"User.Group.Gone"_s, u"User.Group.Gone"_s},
         };
+        auto &groups = control<QLabel>(page, "groupsLabel");
+        // The keys stand for the texts, which have a place for the name.
+        const ShownGroups texts;
         for (const Case &one : cases) {
             RecordsTrial::sqlite(
                 u"UPDATE User SET ID=%1, UserGroupID=%2"_s.arg(one.userID).arg(one.group));
             trial.page(Users).reloadData();
             doubleClickRow(page, 0);
             QCOMPARE(popUp(page).currentText(), one.shown);
+            QCOMPARE(groups.text(), u"now %1\nsaved %2"_s.arg(one.now, one.next));
+            QCOMPARE(groups.font().bold(), one.group != one.stored);
+            const int last = popUp(page).count() - 1;
+            QCOMPARE(popUp(page).itemText(last) == u"User.Group.All"_s, one.group == 0);
             QTest::keyClicks(&control<QLineEdit>(page, "userField"), u"x"_s); // is read-only
             QCOMPARE(text(page, "userField"), u"al ice"_s);
             QCOMPARE(text(page, "passwordField"), u"a b"_s);
@@ -126,6 +154,35 @@ private Q_SLOTS:
         press(page, "addButton");
         QCOMPARE(popUp(page).count(), 3);
         QCOMPARE(popUp(page).currentText(), u"A B"_s);
+        QCOMPARE(groups.text().trimmed(), QString());
+    }
+
+    void allRightsAreAnItemWhileTheyAreEdited()
+    {
+        RecordsTrial trial;
+        const QString title = u"User.Group.All"_s;
+        for (const QString &name : {u"Sales"_s, title}) // a group may have this name
+            RecordsTrial::storeGroup(name);
+        RecordsTrial::storeUser(u"root"_s, 0);
+        const QWidget &page = trial.open(Users);
+        const ShownGroups texts;
+        auto &groups = control<QLabel>(page, "groupsLabel");
+        edit(page, 0);
+        QCOMPARE(popUp(page).count(), 3);
+        QCOMPARE(popUp(page).itemData(2).toInt(), 0);
+        QCOMPARE(popUp(page).currentText(), u"Sales"_s);
+        QCOMPARE(groups.text(), u"now User.Group.All\nsaved Sales"_s);
+        popUp(page).setCurrentIndex(1);
+        QCOMPARE(groups.text(), u"now User.Group.All (0)\nsaved User.Group.All (2)"_s);
+        QVERIFY(groups.font().bold());
+        popUp(page).setCurrentIndex(2);
+        QVERIFY(!groups.font().bold());
+        press(page, "saveButton");
+        QCOMPARE(RecordsTrial::sqlite(u"SELECT UserGroupID FROM User"_s), u"0"_s);
+        press(page, "addButton");
+        QCOMPARE(popUp(page).count(), 2);
+        QVERIFY(popUp(page).findData(0) < 0);
+        QCOMPARE(popUp(page).findText(title), 1);
     }
 };
 

@@ -1,17 +1,46 @@
 #include "AbstractViewController.h"
 
+#include "BusyBudget.h"
 #include "Global.h"
 #include "MiscTool.h"
 #include "Mnemonics.h"
 #include "ui_AbstractViewController.h"
 #include "ui_RecordPanel.h"
 
+#include <QAccessible>
 #include <QMessageBox>
 #include <QPushButton>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+/// A question with two buttons, not yet shown: what "confirm" says, and Cancel.
+struct Question {
+    QMessageBox *box; ///< Deleted once it is answered.
+    QPushButton *confirm;
+    QPushButton *cancel;
+
+    Question(QWidget *sheetOf, const QString &name, const QString &text, const QString &details,
+             const QString &confirmText)
+        : box(new QMessageBox(QMessageBox::Warning, sheetOf->windowTitle(), text,
+                              QMessageBox::NoButton, sheetOf)),
+          confirm(box->addButton(confirmText, QMessageBox::AcceptRole)),
+          cancel(box->addButton(qtTrId("Cancel"), QMessageBox::RejectRole))
+    {
+        box->setObjectName(name);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->setInformativeText(details);
+        box->setEscapeButton(cancel);
+        Mnemonics::keepUnique(box);
+    }
+};
+
+} // namespace
 
 AbstractViewController::AbstractViewController(const Module &module, QWidget *parent)
     : QWidget(parent), m_module(module), page(std::make_unique<Ui::AbstractViewController>()),
@@ -20,6 +49,10 @@ AbstractViewController::AbstractViewController(const Module &module, QWidget *pa
     page->setupUi(this);
     table = page->table;
     panelParts->setupUi(panel);
+    QSizePolicy keepsItsRoom = page->troubleLabel->sizePolicy();
+    keepsItsRoom.setRetainSizeWhenHidden(true);
+    page->troubleLabel->setSizePolicy(keepsItsRoom);
+    page->troubleLabel->setForegroundRole(QPalette::BrightText);
     Mnemonics::keepUnique(panel);
     using Page = AbstractViewController;
     connect(page->addButton, &QPushButton::clicked, this, &Page::addAction);
@@ -40,6 +73,7 @@ void AbstractViewController::focusTable()
 
 void AbstractViewController::awakeFromNib()
 {
+    const BusyBudget budget;
     initLocalizables();
     localInit();
     reloadData();
@@ -62,20 +96,41 @@ void AbstractViewController::setColumns(const QList<RecordTable::Column> &column
 void AbstractViewController::setPermissions()
 {
     const SessionRights rights;
-    const auto disableUnless = [&rights](QPushButton &button, QLatin1String code) {
-        if (rights.holds(code))
-            return;
-        button.setEnabled(false);
-        button.setToolTip(qtTrId("NoPermissionAlert"));
+    m_arePermissionsDue = !rights.areKnown();
+    const auto enableIfHeld = [&rights](QPushButton &button, QLatin1String code) {
+        button.setEnabled(rights.holds(code));
+        if (rights.areKnown() && !button.isEnabled())
+            button.setToolTip(qtTrId("NoPermissionAlert"));
     };
-    disableUnless(*page->addButton, m_module.add);
-    disableUnless(*page->editButton, m_module.edit);
-    disableUnless(*page->delButton, m_module.remove);
+    enableIfHeld(*page->addButton, m_module.add);
+    enableIfHeld(*page->editButton, m_module.edit);
+    enableIfHeld(*page->delButton, m_module.remove);
+}
+
+void AbstractViewController::refresh()
+{
+    if (page->moduleBox->isHidden() || hasOpenSheet())
+        return;
+    const BusyBudget budget;
+    reloadData();
+    if (hasRowWithoutKey())
+        reloadData(); // now it has the key that the table gave it
+}
+
+bool AbstractViewController::hasOpenSheet() const
+{
+    return std::ranges::any_of(findChildren<QDialog *>(), &QWidget::isVisible);
 }
 
 bool AbstractViewController::mayView()
 {
-    const bool isAllowed = SessionRights().holds(m_module.view);
+    const SessionRights rights;
+    showReadable(rights.areKnown());
+    if (!rights.areKnown())
+        return false;
+    if (m_arePermissionsDue)
+        setPermissions();
+    const bool isAllowed = rights.holds(m_module.view);
     page->moduleBox->setVisible(isAllowed);
     page->hintLabel->setVisible(isAllowed);
     page->refusedView->setHidden(isAllowed);
@@ -83,6 +138,18 @@ bool AbstractViewController::mayView()
     if (isVisible())
         showRefusal();
     return isAllowed;
+}
+
+void AbstractViewController::showReadable(bool isReadable)
+{
+    page->troubleLabel->setText(BusyBudget::isUsedUp() ? qtTrId("Records.Busy")
+                                                       : qtTrId("Records.Unreadable"));
+    page->troubleLabel->setHidden(isReadable);
+    if (!isReadable) {
+        QAccessibleEvent alert(page->troubleLabel, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
+    table->setEmptyText(isReadable ? qtTrId("Records.Empty") : QString());
 }
 
 // A refused page in a tab that has not been opened yet shows no message box.
@@ -100,6 +167,7 @@ void AbstractViewController::showRefusal()
 
 void AbstractViewController::addAction()
 {
+    const BusyBudget budget;
     operation = Operation::AddRecord;
     setAllStatus(operation);
     showPanel(*page->addButton);
@@ -109,6 +177,7 @@ void AbstractViewController::editAction()
 {
     if (table->selectedRecord() < 0)
         return;
+    const BusyBudget budget;
     operation = Operation::EditRecord;
     setAllStatus(operation);
     showPanel(*page->editButton);
@@ -131,8 +200,36 @@ void AbstractViewController::cancelAction()
 
 void AbstractViewController::saveAction()
 {
+    const BusyBudget budget;
     if (!verify())
         return;
+    const Stored stored = operation == Operation::EditRecord ? storedRecord() : Stored::Same;
+    if (stored == Stored::Changed || stored == Stored::Deleted)
+        askToSaveAnyway(stored == Stored::Deleted);
+    else if (stored == Stored::Unreadable)
+        MiscTool::showAlert(qtTrId("SaveFail"), QString());
+    else
+        save();
+}
+
+void AbstractViewController::askToSaveAnyway(bool isDeleted)
+{
+    const Question question(panel, u"saveQuestion"_s,
+                            isDeleted ? qtTrId("Records.Deleted") : qtTrId("Records.Changed"),
+                            qtTrId("Records.SaveAnyway.Info"), qtTrId("Records.SaveAnyway"));
+    question.box->setDefaultButton(question.cancel);
+    connect(question.confirm, &QPushButton::clicked, this, [this, isDeleted] {
+        if (!isDeleted)
+            return save();
+        operation = Operation::AddRecord; // an update would find no row
+        saveAction();
+    });
+    question.box->open();
+}
+
+void AbstractViewController::save()
+{
+    const BusyBudget budget;
     const int newestBefore = newestID();
     if (!writeRecord()) {
         MiscTool::showAlert(qtTrId("SaveFail"), QString());
@@ -147,21 +244,17 @@ void AbstractViewController::saveAction()
 
 void AbstractViewController::deleteAction()
 {
+    const BusyBudget budget;
     if (table->selectedRecord() < 0 || !deleteVerify())
         return;
-    auto *question = new QMessageBox(QMessageBox::Warning, page->moduleBox->title(),
-                                     qtTrId("DelConfirm"), QMessageBox::NoButton, this);
-    question->setObjectName(u"deleteQuestion"_s);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    question->setInformativeText(qtTrId("DelInfo"));
-    QPushButton *confirm = question->addButton(qtTrId("OK"), QMessageBox::AcceptRole);
-    question->setEscapeButton(question->addButton(qtTrId("Cancel"), QMessageBox::RejectRole));
-    question->setDefaultButton(confirm);
+    const Question question(this, u"deleteQuestion"_s, qtTrId("DelConfirm"), qtTrId("DelInfo"),
+                            qtTrId("OK"));
+    question.box->setWindowTitle(page->moduleBox->title());
+    question.box->setDefaultButton(question.confirm);
     // The question blocks the window, so the selection stays until it is answered.
-    connect(confirm, &QPushButton::clicked, this,
+    connect(question.confirm, &QPushButton::clicked, this,
             [this] { deleteRecord(table->selectedRecord()); });
-    Mnemonics::keepUnique(question);
-    question->open();
+    question.box->open();
 }
 
 QWidget *AbstractViewController::form() const
@@ -174,6 +267,11 @@ bool AbstractViewController::refuse(QWidget &field, const char *messageKey)
     field.setFocus();
     MiscTool::showAlert(qtTrId(messageKey), QString());
     return false;
+}
+
+QString AbstractViewController::storedText(const QString &typed)
+{
+    return MiscTool::encode2UTF8(typed).replace(u'\'', "%27"_L1);
 }
 
 QString AbstractViewController::shownText(const QString &stored)

@@ -50,13 +50,19 @@ public:
     /// The gateway of the table. Null on a page that the user may not see; it then saves nothing.
     std::unique_ptr<BLGeneral> blGeneral;
 
-    virtual void reloadData() = 0; ///< Checks the right to see the page, then loads the records.
+    /// Checks the right to see the page, then loads the records. If they cannot be read, the rows
+    /// stay as they are, and a line says so.
+    virtual void reloadData() = 0;
+    /// Loads the records again because the page comes into sight. Does nothing on a page that was
+    /// refused or while its sheet or a question is open.
+    void refresh();
+    bool hasOpenSheet() const; ///< Or a question.
     void focusTable();
     void addAction();
     void editAction(); ///< Does nothing if no row is selected.
     void deleteAction(); ///< Asks first. Does nothing if no row is selected.
-    /// Checks the fields, then saves and closes the sheet. After an error the sheet stays open with
-    /// what was typed.
+    /// Checks the fields, then saves and closes the sheet. Asks first if somebody else changed or
+    /// deleted the record meanwhile. After an error the sheet stays open with what was typed.
     void saveAction();
     void cancelAction();
 
@@ -76,7 +82,8 @@ protected:
     virtual void initLocalizables() { }
     /// Loads what the sheet offers for choice. It may be called again before the sheet opens.
     virtual void localInit() { }
-    /// Disables what the user may not do; nothing is enabled again while the page lives.
+    /// Disables what the user may not do; nothing is enabled again while the page lives, except
+    /// after the rights could not be read.
     virtual void setPermissions();
     /// Prepares the sheet's fields for the operation.
     virtual void setAllStatus(Operation status) = 0;
@@ -86,13 +93,20 @@ protected:
     virtual bool deleteVerify() { return true; }
     /// Inserts or updates the record, depending on the operation; false on failure.
     virtual bool writeRecord() = 0;
+    enum class Stored { Same, Changed, Deleted, Unreadable };
+    /// What became of the selected record since it was loaded. Always the same behind the web
+    /// service, which can only be asked for the record as a whole and answers errors with nothing.
+    virtual Stored storedRecord() = 0;
+    virtual bool hasRowWithoutKey() const = 0; ///< A record that the page created by itself.
     virtual void deleteRecord(int row) = 0; ///< A failure is not reported; the row stays.
     virtual int newestID() const = 0; ///< The highest ID of the records; 0 if there are none.
     virtual void selectID(int ID) = 0; ///< Does nothing if no record has this ID.
 
     /// Whether the user may see the page. If not, it is hidden, and a message box says so once the
-    /// user opens it.
+    /// user opens it. False, with the line of showReadable(), if the rights cannot be read.
     bool mayView();
+    /// Shows or hides the line that says why the records cannot be read.
+    void showReadable(bool isReadable);
     QWidget *form() const; ///< The part of the sheet that holds the fields.
     /// Focuses the field and shows the message. Always false, so that verify() can return it.
     static bool refuse(QWidget &field, const char *messageKey);
@@ -101,6 +115,9 @@ protected:
     static constexpr qsizetype maxTextLength = 100;
     /// Undoes the percent-escapes of a stored text; empty if they are not valid UTF-8.
     static QString shownText(const QString &stored);
+    /// The text as it is stored. Its apostrophes are escaped, too: statements put it between single
+    /// quotes.
+    static QString storedText(const QString &typed);
 
     const Module m_module;
     std::unique_ptr<Ui::AbstractViewController> page;
@@ -111,6 +128,9 @@ protected:
 private:
     void showPanel(const QAbstractButton &starter);
     void showRefusal();
+    void save();
+    void askToSaveAnyway(bool isDeleted);
 
     bool m_isRefusalDue = false;
+    bool m_arePermissionsDue = false; ///< They could not be read when the page was set up.
 };

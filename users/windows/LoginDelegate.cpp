@@ -47,9 +47,11 @@ void LoginDelegate::loginAction()
     if (user.isEmpty() || password.isEmpty())
         return MiscTool::shakeWindow(this);
     const QList<UserSchema> found = Login::matchingUsers(user, password);
-    if (found.size() != 1)
-        return MiscTool::shakeWindow(this);
-    logIn(found.first());
+    if (found.size() == 1)
+        return logIn(found.first());
+    ui->passwordField->setFocus();
+    ui->passwordField->selectAll(); // so that typing replaces it
+    MiscTool::shakeWindow(this);
 }
 
 void LoginDelegate::logIn(const UserSchema &user)

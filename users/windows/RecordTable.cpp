@@ -137,6 +137,28 @@ void RecordTable::setRecords(RecordTableSource &source, const QList<Column> &col
     m_rows = new SortedRecords(*new RecordModel(source, columns, this), this);
     setModel(m_rows);
     setSortingEnabled(true);
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &RecordTable::unfocusUnselected);
+}
+
+void RecordTable::setEmptyText(const QString &text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+// QTableView gives the focus to the first row without selecting it. An arrow key would then go to
+// the second row, or nowhere if there is only one.
+void RecordTable::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    unfocusUnselected();
+}
+
+void RecordTable::unfocusUnselected()
+{
+    if (!selectionModel()->hasSelection())
+        selectionModel()->clearCurrentIndex();
 }
 
 void RecordTable::reloadRecords()

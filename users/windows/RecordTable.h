@@ -17,14 +17,15 @@ protected:
     ~RecordTableSource() = default;
 };
 
-/// The table of a record page. At most one row is selected. A click on a header sorts by that
-/// column, a second one reverses the order, a third one restores the order in which the records
-/// were loaded. Rows are given to callers by the record's position in that order.
+/// The table of a record page. At most one row is selected, and no other row has the focus. A click
+/// on a header sorts by that column, a second one reverses the order, a third one restores the
+/// order in which the records were loaded. Rows are given to callers by the record's position in
+/// that order.
 class RecordTable : public QTableView
 {
     Q_OBJECT
     /// Shown in place of rows while there are none.
-    Q_PROPERTY(QString emptyText MEMBER m_emptyText)
+    Q_PROPERTY(QString emptyText MEMBER m_emptyText WRITE setEmptyText)
 
 public:
     struct Column {
@@ -42,6 +43,7 @@ public:
     void reloadRecords();
 
     int selectedRecord() const; ///< -1 if none is selected.
+    void setEmptyText(const QString &text);
     void selectRecord(int record); ///< Scrolls to it. Nothing if there is no such record.
 
 Q_SIGNALS:
@@ -49,10 +51,12 @@ Q_SIGNALS:
     void deletePressed();
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void unfocusUnselected();
     void fitColumns();
     QString widthKey(int column) const;
 

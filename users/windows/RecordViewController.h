@@ -1,9 +1,10 @@
 #pragma once
 
 #include "AbstractViewController.h"
-#include "MiscTool.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 /// Loads, saves and deletes records of the page's class, in the way that all pages do. Rows are
 /// positions in `data`, whatever order the table shows.
@@ -22,7 +23,10 @@ public:
             return;
         const int row = table->selectedRecord();
         const std::optional<int> selected = row < 0 ? std::nullopt : std::optional(data[row].ID);
-        loadRecords();
+        const bool isLoaded = loadRecords();
+        showReadable(isLoaded);
+        if (!isLoaded)
+            return;
         table->reloadRecords();
         if (selected)
             selectID(*selected);
@@ -34,11 +38,14 @@ protected:
     /// A new record from the sheet's fields, with `ID` and `ShopID` 0.
     virtual Record getSchema() = 0;
 
-    /// Fills `data`. A select that fails gives an empty list.
-    virtual void loadRecords()
+    /// Fills `data`. If the select fails, it returns false and `data` stays as it is.
+    virtual bool loadRecords()
     {
         blGeneral = std::make_unique<BLGeneral>(QString(m_module.table));
-        data = blGeneral->select("1=1", Record{}).value_or(QList<Record>());
+        auto loaded = blGeneral->select("1=1", Record{});
+        if (loaded)
+            data = std::move(*loaded);
+        return loaded.has_value();
     }
 
     /// The record that replaces the one with this key: the sheet's fields, under the same key.
@@ -49,14 +56,43 @@ protected:
         return record;
     }
 
-    /// Whether the column of any record in the table holds the text, which is escaped first.
-    bool isTaken(QLatin1String column, const QString &text)
+    /// Whether the column of any record in the table holds the text; none if that cannot be read.
+    /// False without a gateway, as saving fails then.
+    std::optional<bool> isTaken(QLatin1String column, const QString &text)
     {
-        if (!blGeneral)
-            return false;
-        const QString clause = column + QLatin1String("='") + MiscTool::encode2UTF8(text) + u'\'';
-        const auto found = blGeneral->select(clause, Record{});
-        return found && !found->isEmpty();
+        const QString stored = storedText(text);
+        QStringList forms{stored};
+        if (isLocal() && text.contains(u'#')) // earlier versions stored it as it is
+            forms += QString(stored).replace(QLatin1String("%23"), QLatin1String("#"));
+        for (const QString &form : std::as_const(forms)) {
+            if (!blGeneral)
+                return false;
+            const auto found =
+                blGeneral->select(column + QLatin1String("='") + form + u'\'', Record{});
+            if (!found)
+                return std::nullopt;
+            if (!found->isEmpty())
+                return true;
+        }
+        return false;
+    }
+
+    Stored storedRecord() override
+    {
+        const int row = table->selectedRecord();
+        if (row < 0 || !blGeneral || !isLocal() || data[row].ID == 0)
+            return Stored::Same;
+        const auto found = blGeneral->select(clauseFor(row), Record{});
+        if (!found)
+            return Stored::Unreadable;
+        if (found->isEmpty())
+            return Stored::Deleted;
+        return found->first() == data[row] ? Stored::Same : Stored::Changed;
+    }
+
+    bool hasRowWithoutKey() const override
+    {
+        return std::ranges::find(data, 0, &Record::ID) != data.end();
     }
 
     /// Fails without a gateway, without a selected row, and for Operation::ViewRecord.
@@ -74,8 +110,7 @@ protected:
 
     void deleteRecord(int row) override
     {
-        if (row < 0 || !blGeneral
-            || !blGeneral->delete_(QStringLiteral("ID=") + QString::number(data[row].ID)))
+        if (row < 0 || !blGeneral || !blGeneral->delete_(clauseFor(row)))
             return;
         data.removeAt(row);
         table->reloadRecords();
@@ -92,5 +127,12 @@ protected:
         const auto found = std::ranges::find(data, ID, &Record::ID);
         if (found != data.end())
             table->selectRecord(int(found - data.begin()));
+    }
+
+private:
+    static bool isLocal() { return DB::getDBType() == QLatin1String("sqlite3"); }
+    QString clauseFor(int row) const
+    {
+        return QStringLiteral("ID=") + QString::number(data[row].ID);
     }
 };

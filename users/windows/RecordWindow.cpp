@@ -1,5 +1,6 @@
 #include "RecordWindow.h"
 
+#include "BusyBudget.h"
 #include "MiscTool.h"
 #include "Mnemonics.h"
 #include "TemplateViewController.h"
@@ -10,6 +11,7 @@
 #include <QCloseEvent>
 #include <QSettings>
 #include <QShortcut>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -22,13 +24,16 @@ constexpr auto geometryKey = "RecordWindow/Geometry"_L1;
 
 void RecordWindow::open(Page page, QWidget &owner)
 {
+    const BusyBudget budget; // for the three pages together
     RecordWindow *window = openOf(owner);
     if (!window)
         window = new RecordWindow(owner);
-    window->ui->pages->setCurrentIndex(int(page));
+    const bool isFree = !window->shownPage()->hasOpenSheet();
+    if (isFree)
+        window->showPage(page);
     MiscTool::showWindow(window);
-    if (auto *shown = qobject_cast<AbstractViewController *>(window->ui->pages->currentWidget()))
-        shown->focusTable();
+    if (isFree)
+        window->shownPage()->focusTable();
 }
 
 void RecordWindow::closeOf(const QWidget &owner)
@@ -57,12 +62,39 @@ RecordWindow::RecordWindow(QWidget &owner)
     ui->pages->addTab(new UserGroupViewController, qtTrId("Records.UserGroups"));
     ui->pages->addTab(new UserViewController, qtTrId("Records.Users"));
     ui->pages->addTab(new TemplateViewController, qtTrId("Records.Stock"));
+    connect(ui->pages, &QTabWidget::currentChanged, this, [this] { shownPage()->refresh(); });
     Mnemonics::keepUnique(this);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
+    stayIndependent();
     restoreGeometry(QSettings().value(geometryKey).toByteArray());
 }
 
-RecordWindow::~RecordWindow() = default;
+RecordWindow::~RecordWindow()
+{
+    ui->pages->disconnect(this); // the pages leave the tabs one by one
+}
+
+// A sheet blocks its window and those that this window belongs to: on the screen, the record window
+// belongs to none. The program still ends with its main window.
+void RecordWindow::stayIndependent()
+{
+    create();
+    windowHandle()->setTransientParent(nullptr);
+    setAttribute(Qt::WA_QuitOnClose, false);
+}
+
+AbstractViewController *RecordWindow::shownPage() const
+{
+    return static_cast<AbstractViewController *>(ui->pages->currentWidget());
+}
+
+void RecordWindow::showPage(Page page)
+{
+    if (ui->pages->currentIndex() == int(page))
+        shownPage()->refresh();
+    else
+        ui->pages->setCurrentIndex(int(page)); // which refreshes it
+}
 
 void RecordWindow::closeEvent(QCloseEvent *event)
 {

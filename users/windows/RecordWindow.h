@@ -9,8 +9,12 @@ namespace Ui
 class RecordWindow;
 }
 
+class AbstractViewController;
+
 /// The window with the record pages. They are created when it opens, so that they follow the rights
-/// of the user who is logged in then, and deleted when it closes. It remembers its place and size.
+/// of the user who is logged in then, and deleted when it closes. A page loads its records again
+/// whenever it comes into sight. The sheets of the window do not block its owner. It remembers its
+/// place and size.
 class RecordWindow : public QWidget
 {
     Q_OBJECT
@@ -19,7 +23,7 @@ public:
     enum class Page { UserGroups, Users, Stock };
 
     /// Shows this page in the owner's record window and brings that to the front. A window that is
-    /// not open is created.
+    /// not open is created; one with an open sheet keeps its page.
     static void open(Page page, QWidget &owner);
     /// Closes the window if it is open; text typed there is lost.
     static void closeOf(const QWidget &owner);
@@ -32,6 +36,9 @@ protected:
 private:
     explicit RecordWindow(QWidget &owner);
     static RecordWindow *openOf(const QWidget &owner);
+    AbstractViewController *shownPage() const;
+    void showPage(Page page);
+    void stayIndependent();
 
     std::unique_ptr<Ui::RecordWindow> ui;
 };

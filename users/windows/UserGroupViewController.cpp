@@ -1,10 +1,13 @@
 #include "UserGroupViewController.h"
 
+#include "MiscTool.h"
 #include "UserSchema.h"
 #include "ui_AbstractViewController.h"
 #include "ui_UserGroupForm.h"
 
 #include <QCheckBox>
+#include <QTabBar>
+#include <QToolButton>
 
 #include <algorithm>
 
@@ -56,6 +59,9 @@ void UserGroupViewController::initLocalizables()
         ui->tabView->setTabText(tab, qtTrId(modules[tab]) + u' ' + qtTrId("Permission"));
     // All tabs are in sight, unless a large font or a long language makes them scroll.
     ui->tabView->setMinimumWidth(std::min(ui->tabView->tabBar()->sizeHint().width(), maxTabsWidth));
+    // The buttons that scroll are for the mouse: arrow keys reach every tab.
+    for (QToolButton *scroller : ui->tabView->tabBar()->findChildren<QToolButton *>())
+        scroller->setFocusPolicy(Qt::NoFocus);
     for (int i = 0; QCheckBox * box : boxes())
         box->setText(qtTrId(rights[i++ % 4]));
 }
@@ -73,21 +79,24 @@ QList<QCheckBox *> UserGroupViewController::boxes() const
     return boxes;
 }
 
-void UserGroupViewController::loadRecords()
+bool UserGroupViewController::loadRecords()
 {
-    RecordViewController::loadRecords();
+    if (!RecordViewController::loadRecords())
+        return false;
     if (data.isEmpty())
         insertDefaultGroup();
+    m_isFirstLoading = false;
+    return true;
 }
 
 void UserGroupViewController::insertDefaultGroup()
 {
     UserGroupSchema group;
-    group.Name = MiscTool::encode2UTF8(qtTrId("DefaultUserGroup"));
-    group.Memo = MiscTool::encode2UTF8(qtTrId("DefaultUserGroupMemo"));
+    group.Name = storedText(qtTrId("DefaultUserGroup"));
+    group.Memo = storedText(qtTrId("DefaultUserGroupMemo"));
     group.Permission = u""_s;
     for (const QCheckBox *box : std::as_const(m_permissionCBs))
-        group.Permission += codeOf(box);
+        group.Permission += m_isFirstLoading ? QString() : codeOf(box);
     if (blGeneral->insert(group))
         data.append(group); // its key stays 0 until the next loading
 }
@@ -95,8 +104,8 @@ void UserGroupViewController::insertDefaultGroup()
 UserGroupSchema UserGroupViewController::getSchema()
 {
     UserGroupSchema group;
-    group.Name = MiscTool::encode2UTF8(ui->nameField->text());
-    group.Memo = MiscTool::encode2UTF8(ui->memoField->text());
+    group.Name = storedText(ui->nameField->text());
+    group.Memo = storedText(ui->memoField->text());
     group.Permission = u""_s;
     for (const QCheckBox *box : std::as_const(m_permissionCBs))
         group.Permission += box->isChecked() ? codeOf(box) : QString();
@@ -110,7 +119,11 @@ bool UserGroupViewController::verify()
         return refuse(*ui->nameField, "UserGroupNullAlert");
     if (name.size() > maxTextLength)
         return refuse(*ui->nameField, "UserGroupOverLenAlert");
-    if (operation == Operation::AddRecord && isTaken(nameColumn, name))
+    const std::optional<bool> taken =
+        operation == Operation::AddRecord ? isTaken(nameColumn, name) : false;
+    if (!taken)
+        return refuse(*ui->nameField, "SaveFail");
+    if (*taken)
         return refuse(*ui->nameField, "UserGroupExistAlert");
     return true;
 }
@@ -143,7 +156,10 @@ bool UserGroupViewController::deleteVerify()
     BLGeneral users(u"User"_s);
     const QString ofGroup = u"UserGroupID="_s + QString::number(data[table->selectedRecord()].ID);
     const auto found = users.select(ofGroup, UserSchema{});
-    if (!found || found->isEmpty())
+    showReadable(found.has_value());
+    if (!found)
+        return false;
+    if (found->isEmpty())
         return true;
     MiscTool::showAlert(qtTrId("UserGroupHasUsersAlert"), qtTrId("UserGroupHasUsersInfo"));
     return false;

@@ -29,14 +29,15 @@ protected:
     UserGroupSchema getSchema() override;
     bool verify() override;
     bool deleteVerify() override;
-    void loadRecords() override;
+    bool loadRecords() override;
 
 private:
     QList<QCheckBox *> boxes() const; ///< In the order of their codes.
     void insertDefaultGroup();
 
     std::unique_ptr<Ui::UserGroupForm> ui;
-    /// All boxes in the order in which their codes are stored. Filled after the first loading,
-    /// so a default group that is created then has no rights.
+    /// All boxes in the order in which their codes are stored. Filled after the first loading.
     QList<QCheckBox *> m_permissionCBs;
+    /// A default group that is created by the first loading that succeeds has no rights.
+    bool m_isFirstLoading = true;
 };

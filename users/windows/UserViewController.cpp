@@ -1,13 +1,12 @@
 #include "UserViewController.h"
 
-#include "UserGroupSchema.h"
+#include "GroupChoice.h"
 #include "ui_AbstractViewController.h"
 #include "ui_UserForm.h"
 
-#include <QHash>
+#include <QDialog>
 
-#include <algorithm>
-#include <utility>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +27,8 @@ UserViewController::UserViewController(QWidget *parent)
 {
     setObjectName(u"UserViewController"_s);
     ui->setupUi(form());
+    m_groups = new GroupChoice(*ui->userGroupPopUp, *ui->groupsLabel, this);
+    connect(panel, &QDialog::finished, m_groups, &GroupChoice::stop);
     awakeFromNib();
 }
 
@@ -40,41 +41,18 @@ void UserViewController::initLocalizables()
     localInit();
 }
 
-// A title that the pop-up already has moves to the end; items of groups that no longer exist stay.
-// This works on a list first: finding each title in the pop-up takes a time that grows with the
-// square of the number of groups.
 void UserViewController::localInit()
 {
-    QComboBox &popUp = *ui->userGroupPopUp;
-    QList<std::pair<QString, int>> items;
-    for (int i = 0; i < popUp.count(); ++i)
-        items.append({popUp.itemText(i), popUp.itemData(i).toInt()});
-    const QList<UserGroupSchema> groups = BLGeneral(u"UserGroup"_s)
-                                              .select("1=1", UserGroupSchema{})
-                                              .value_or(QList<UserGroupSchema>());
-    for (const UserGroupSchema &group : groups)
-        items.append({shownText(group.Name), group.ID});
-
-    QHash<QString, qsizetype> lastPosition;
-    for (qsizetype i = 0; i < items.size(); ++i)
-        lastPosition[items[i].first] = i;
-    popUp.clear();
-    for (qsizetype i = 0; i < items.size(); ++i) {
-        const auto &[title, ID] = items[i];
-        if (lastPosition[title] == i)
-            popUp.addItem(title, ID);
-    }
-    popUp.setCurrentIndex(std::min(popUp.count() - 1, 0));
+    m_groups->load();
 }
 
 UserSchema UserViewController::getSchema()
 {
-    const bool isGroupShown = ui->userGroupPopUp->currentIndex() >= 0;
     UserSchema user;
-    user.UserGroupID = isGroupShown ? ui->userGroupPopUp->currentData().toInt() : m_unlistedGroup;
-    user.User = MiscTool::encode2UTF8(ui->userField->text());
-    user.Password = MiscTool::encode2UTF8(ui->passwordField->text());
-    user.Memo = MiscTool::encode2UTF8(ui->memoField->text());
+    user.UserGroupID = m_groups->chosen();
+    user.User = storedText(ui->userField->text());
+    user.Password = storedText(ui->passwordField->text());
+    user.Memo = storedText(ui->memoField->text());
     return user;
 }
 
@@ -94,7 +72,16 @@ bool UserViewController::verify()
         return refuse(*ui->passwordField, "PasswordOverLenAlert");
     if (ui->passwordField->text() != ui->rePasswordField->text())
         return refuse(*ui->rePasswordField, "PasswordNotSameAlert");
-    if (operation == Operation::AddRecord && isTaken(userColumn, name))
+    // A new user without an item for the group would get all rights.
+    if (operation == Operation::AddRecord && !m_groups->isLoaded()) {
+        localInit();
+        return refuse(*ui->userGroupPopUp, "SaveFail");
+    }
+    const std::optional<bool> taken =
+        operation == Operation::AddRecord ? isTaken(userColumn, name) : false;
+    if (!taken)
+        return refuse(*ui->userField, "SaveFail");
+    if (*taken)
         return refuse(*ui->userField, "UserExistAlert");
     return true;
 }
@@ -109,9 +96,7 @@ void UserViewController::setAllStatus(Operation status)
 
 void UserViewController::fillForAdding()
 {
-    localInit();
-    m_unlistedGroup = 0;
-    ui->userGroupPopUp->setCurrentIndex(ui->userGroupPopUp->count() > 0 ? 0 : -1);
+    m_groups->startNew();
     ui->userField->clear();
     ui->userField->setFocus();
     ui->passwordField->clear();
@@ -121,23 +106,13 @@ void UserViewController::fillForAdding()
 
 void UserViewController::fillFrom(const UserSchema &user)
 {
-    selectGroupFor(user);
+    m_groups->startEditing(user);
     ui->userGroupPopUp->setFocus(); // the first control that takes input
     ui->userField->setReadOnly(true);
     ui->userField->setText(shownText(user.User));
     ui->passwordField->setText(shownText(user.Password));
     ui->rePasswordField->setText(shownText(user.Password));
     ui->memoField->setText(shownText(user.Memo));
-}
-
-// The item is looked up by the user's own key, not by that of the group. If no item has it, saving
-// must not change the user's group: its item is selected, or none if it has no item.
-void UserViewController::selectGroupFor(const UserSchema &user)
-{
-    m_unlistedGroup = user.UserGroupID;
-    const int byUser = ui->userGroupPopUp->findData(user.ID);
-    ui->userGroupPopUp->setCurrentIndex(
-        byUser >= 0 ? byUser : ui->userGroupPopUp->findData(user.UserGroupID));
 }
 
 QString UserViewController::objectValueForTableColumn(const QString &column, int row)

@@ -113,7 +113,7 @@ private Q_SLOTS:
         QFile large(m_folder.filePath(u"source/large"_s)); // sparse, but long to pack
         QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(4LL << 30));
         press(*m_page, "generateButton");
-        QTRY_VERIFY(!documents().isEmpty());
+        QTRY_VERIFY(!m_jobs.isEmpty()); // the archive has no name yet
         m_jobs.stopAll();
         QTRY_COMPARE(m_boxes->texts, QStringList(u"ZipFail"_s));
         QVERIFY(!QFile::exists(output()));

@@ -1,0 +1,56 @@
+#include "FolderPacker.h"
+
+#include "ArchiveWriter.h"
+#include "Budget.h"
+#include "FolderWalk.h"
+#include "NewArchive.h"
+#include "Packer.h"
+#include "ProcessorThreads.h"
+#include "TurnQueue.h"
+#include "TurnSource.h"
+#include "ZipStatus.h"
+
+#include <malloc.h>
+
+namespace
+{
+
+constexpr std::size_t megabyte = 1 << 20;
+
+// What all turns in progress may take: 64 MB and 48 MB for each thread are the limit for the whole
+// program, less the thread's own buffers and what the directory and the program itself need.
+std::size_t memoryForTurns(unsigned threads)
+{
+    constexpr std::size_t own = 20 * megabyte;
+    constexpr std::size_t eachThread = 48 * megabyte - 4 * megabyte;
+    return 64 * megabyte - own + threads * eachThread;
+}
+
+} // namespace
+
+void packCurrentFolder(const std::string &target, Level level, archive::Report &report)
+{
+    ::mallopt(M_MMAP_THRESHOLD, 128 * 1024); // fixed, so that larger buffers go back at once
+    FolderWalk walk(report);
+    Budget budget(memoryForTurns(archive::processorCount()));
+    TurnSource source(walk, budget, report);
+    NewArchive archive(target);
+    walk.passOver(archive.status());
+    ArchiveWriter writer(archive);
+    TurnQueue queue(writer, budget);
+
+    archive::onAllProcessors(
+        [&] {
+            Packer packer(level, report);
+            while (auto turn = source.next(packer.input())) {
+                const auto [number, reserved] = std::pair(turn->number, turn->reserved);
+                queue.put(number, packer.pack(std::move(*turn)), reserved);
+            }
+        },
+        [&budget] { budget.close(); });
+
+    if (writer.entryCount() > 0)
+        writer.publish();
+    else if (report.status() == 0)
+        failAs(NothingToDo, ".", "Nothing to do");
+}
