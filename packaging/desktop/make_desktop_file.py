@@ -19,7 +19,7 @@ Categories=Utility;FileTools;Archiving;"""
 
 
 def entry(key, tables, text_of):
-    """KEY=… and KEY[language]=…, with what desktop files want escaped."""
+    """KEY=… and KEY[language]=…, escaped as desktop files require."""
     for language, text in translated(tables, text_of):
         suffix = "" if language == "en" else f"[{language}]"
         yield f"{key}{suffix}=" + text.replace("\\", "\\\\").replace("\n", " ")

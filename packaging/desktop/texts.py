@@ -1,4 +1,4 @@
-"""The program's own tables of texts, for the files by which a desktop describes it."""
+"""The program's pages and its tables of texts, for the desktop integration files."""
 
 import re
 import xml.etree.ElementTree as xml
@@ -17,7 +17,7 @@ def pages():
 
 
 def read_tables(folder):
-    """{language: {key: text}}, English first, then by name. Languages of tests (XA…XZ) are left out."""
+    """{language: {key: text}}, English first, then by name, without the languages of tests (XA…XZ)."""
     tables = {}
     for path in sorted(Path(folder).glob("toolvane_*.ts")):
         language = path.stem.removeprefix("toolvane_")
@@ -35,7 +35,7 @@ def _read_table(path):
 
 
 def phrase(text):
-    """A sentence as menus and software centres want it: without its full stop."""
+    """A sentence as menus and software centres expect it: without its full stop."""
     return text.rstrip(".。।")
 
 
@@ -46,7 +46,7 @@ def translated(tables, text_of):
     for language, table in list(tables.items())[1:]:
         try:
             text = text_of(table)
-        except KeyError:  # not translated yet; English answers
+        except KeyError:  # not translated yet; English is used
             continue
         if text != english:
             yield language, text

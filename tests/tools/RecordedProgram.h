@@ -10,8 +10,8 @@
 #include <optional>
 
 /// The test's view of a program that a page runs: puts RecordingProgram.sh in its place, in the
-/// folder of the application's own programs. So the test's program must be in a tree of its own, see
-/// PageTests.cmake. What an earlier test left is removed.
+/// folder of the application's own programs. So the test's program must be in a tree of its own,
+/// see PageTests.cmake. What an earlier test left is removed.
 class RecordedProgram
 {
 public:
