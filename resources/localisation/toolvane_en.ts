@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>No applications are listed.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Reload</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>About Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Select the video to make</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -752,12 +760,24 @@
         <translation>Toolvane %1 is ready to be installed.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>The download was checked and is now in your Downloads folder as %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>The download was checked. Its path is below.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 is being downloaded.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>List of versions: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Path of the downloaded file</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -784,8 +804,8 @@
         <translation>Write the address of the maker's feed into the settings file %1, as UpdateFeed in the section [Addresses]. Then check for updates.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -794,6 +814,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 was not downloaded.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 was not opened.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -806,6 +830,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>&amp;Open Again</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>The connection broke off. Check your network and try again.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>The file is gone, or it is not the one that was checked. Download it again.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -826,6 +866,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>No program here could open the file. Use Show in Folder to get to it.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -848,8 +892,8 @@
         <translation>The server sent more than it had announced or more than is allowed, so nothing was kept.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>There was no connection, or it broke off. Check your network and try again.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Nothing answered. Check your network and try again.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -870,6 +914,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 is available.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>The list of versions has expired.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>The check for updates failed.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>Nessuna applicazione in elenco.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Ricarica</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Informazioni su Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Scegli il video da creare</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_it.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -752,12 +760,24 @@
         <translation>Toolvane %1 è pronto per l’installazione.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>Il file scaricato è stato verificato e si trova nella cartella Scaricati con il nome %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>Il file scaricato è stato verificato. Il percorso è qui sotto.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Scaricamento di Toolvane %1 in corso.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>L’elenco delle versioni era valido fino al %1, quindi possono mancare versioni più recenti. È possibile che qualcuno trattenga gli elenchi più recenti. Riprovare più tardi o da un’altra rete.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Elenco delle versioni: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Percorso del file scaricato</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -784,8 +804,8 @@
         <translation>Scrivere l’indirizzo del feed dello sviluppatore nel file delle impostazioni %1, come UpdateFeed nella sezione [Addresses]. Poi cercare gli aggiornamenti.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Questa copia di Toolvane è stata compilata senza la chiave dello sviluppatore. Non potrebbe distinguere un file autentico da uno falso, quindi non ne propone nessuno.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Questa copia di Toolvane è stata compilata senza la chiave dello sviluppatore. Non può verificare se le versioni sono autentiche, quindi mostra solo gli annunci e non propone nessun download.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -794,6 +814,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 non è stato scaricato.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 non è stato aperto.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -806,6 +830,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>Apri di &amp;nuovo</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>La connessione si è interrotta. Verificare la rete e riprovare.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>Il server non ha potuto dimostrare la propria identità: il certificato non è valido. Verificare l’orologio di questo computer o provare da un’altra rete.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>Il file non c’è più o non è quello che è stato verificato. Scaricarlo di nuovo.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>La risposta non ha senso, quindi forse non viene dal server degli aggiornamenti. Verificare l’indirizzo o provare da un’altra rete.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -826,6 +866,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>Impossibile salvare il file: %1. Verificare che la cartella Scaricati sia scrivibile e abbia spazio sufficiente, quindi riprovare.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Nessun programma ha potuto aprire il file. Usare “Mostra nella cartella” per raggiungerlo.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -848,8 +892,8 @@
         <translation>Il server ha inviato più di quanto annunciato o consentito, quindi non è stato conservato nulla.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>Non è stato possibile stabilire la connessione oppure si è interrotta. Verificare la rete e riprovare.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Non c’è stata risposta. Verificare la rete e riprovare.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -870,6 +914,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 è disponibile.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>L’elenco delle versioni è scaduto.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>La ricerca di aggiornamenti non è riuscita.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>

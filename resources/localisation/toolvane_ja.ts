@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>一覧にアプリはありません。</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>再読み込み(&amp;R)</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane について</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>作成するビデオを選択</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ja.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -752,12 +760,24 @@
         <translation>Toolvane %1 をインストールする準備ができました。</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>ダウンロードしたファイルは検証済みです。ダウンロードフォルダーに %1 として保存されています。</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>ダウンロードしたファイルは検証済みです。保存場所は下に表示されています。</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 をダウンロードしています。</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>バージョンの一覧の有効期限は %1 でした。新しいバージョンが載っていない可能性があり、新しい一覧の配信が何者かに妨げられている可能性もあります。しばらくしてから、または別のネットワークでもう一度お試しください。</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>バージョンの一覧: %1</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>ダウンロードしたファイルのパス</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -784,8 +804,8 @@
         <translation>設定ファイル %1 の [Addresses] セクションに、開発元のフィードのアドレスを UpdateFeed として記入してください。その後、アップデートを確認してください。</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>この Toolvane は開発元の鍵なしでビルドされています。ダウンロードしたファイルの真偽を判別できないため、ダウンロードは提供されません。</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>この Toolvane は開発元の鍵なしでビルドされています。バージョンの真偽を確認できないため、お知らせの表示だけを行い、ダウンロードは提供されません。</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -794,6 +814,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 はダウンロードされませんでした。</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 は開かれませんでした。</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -806,6 +830,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>もう一度開く(&amp;O)</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>接続が途中で切れました。ネットワークを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>サーバーの証明書が有効でないため、サーバーの身元を確認できませんでした。このコンピューターの時計を確認するか、別のネットワークでお試しください。</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>ファイルがなくなったか、検証したものと異なります。もう一度ダウンロードしてください。</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>応答の内容が正しくありません。アップデートサーバーからの応答ではない可能性があります。アドレスを確認するか、別のネットワークでお試しください。</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -826,6 +866,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>ファイルを保存できませんでした: %1。ダウンロードフォルダーに書き込めることと空き容量があることを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>このファイルを開けるプログラムがありませんでした。「フォルダーを表示」でファイルの場所を開けます。</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -848,8 +892,8 @@
         <translation>サーバーから通知されたサイズまたは上限を超えるデータが届いたため、何も保存していません。</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>接続できなかったか、接続が途中で切れました。ネットワークを確認してから、もう一度お試しください。</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>応答がありませんでした。ネットワークを確認してから、もう一度お試しください。</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -870,6 +914,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 を利用できます。</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>バージョンの一覧の有効期限が切れています。</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>アップデートを確認できませんでした。</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>列表中没有应用。</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>重新加载(&amp;R)</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>关于 Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>选择要生成的视频</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_zh_CN.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -752,12 +760,24 @@
         <translation>Toolvane %1 已可安装。</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>下载的文件已通过验证，保存在“下载”文件夹中，文件名为 %1。</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>下载的文件已通过验证。其路径见下方。</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>正在下载 Toolvane %1。</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>版本列表的有效期到 %1 为止，因此可能缺少更新的版本。可能有人阻止了新列表的传送。请稍后重试，或换一个网络。</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>版本列表：%1。</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>下载文件的路径</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -784,8 +804,8 @@
         <translation>请在设置文件 %1 的 [Addresses] 部分，将开发者的更新源地址写为 UpdateFeed 的值，然后检查更新。</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>此 Toolvane 在构建时未包含开发者的密钥，无法辨别下载文件的真伪，因此不提供下载。</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>此 Toolvane 在构建时未包含开发者的密钥，无法验证版本的真伪，因此只显示公布的内容，不提供下载。</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -794,6 +814,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>未完成 Toolvane %1 的下载。</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>未打开 Toolvane %1。</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -806,6 +830,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>再次打开(&amp;O)</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>连接已中断。请检查网络，然后重试。</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>服务器无法证明其身份：证书无效。请检查此计算机的时间，或换一个网络。</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>文件已不存在，或不是通过验证的那个文件。请重新下载。</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>回应无法识别，可能并非来自更新服务器。请检查其地址，或换一个网络。</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -826,6 +866,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>无法保存文件：%1。请确认“下载”文件夹可写且有足够空间，然后重试。</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>没有程序能打开此文件。请使用“在文件夹中显示”找到它。</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -848,8 +892,8 @@
         <translation>服务器发送的数据超过其声明的大小或允许的上限，因此未保留任何内容。</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>无法建立连接，或连接已中断。请检查网络，然后重试。</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>没有收到回应。请检查网络，然后重试。</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -870,6 +914,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 现已可用。</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>版本列表已过期。</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>检查更新失败。</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
