@@ -1,5 +1,5 @@
-# What CPack needs to know for the Debian package. scripts/package is the way to build it.
-# Why each package is a dependency, a recommendation or a suggestion stands in docs/packaging.md.
+# The description of the Debian package for CPack. Build it with scripts/package. docs/packaging.md
+# says why each package is a dependency, a recommendation or a suggestion.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME toolvane)

@@ -8,6 +8,7 @@
 #include "HoverTableView.h"
 #include "JobStrip.h"
 #include "PageControls.h"
+#include "Tool.h"
 
 #include <QApplication>
 #include <QEnterEvent>
@@ -17,7 +18,7 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-constexpr int zip = 3;
+const int zip = rowOfTool(u"zip"_s).value();
 
 class Window
 {
