@@ -22,7 +22,7 @@ constexpr std::size_t freeBuffer = 4096; ///< What each connection may hold of h
 /// What all of them together may hold beyond that, before their requests are accepted.
 constexpr std::size_t buffers = 12 * 1024 * 1024;
 constexpr int connections = 1500;
-constexpr int tlsConnections = 256; ///< Each needs about 90 KB.
+constexpr int tlsConnections = 192; ///< Each needs about 90 KB.
 constexpr auto idleTimeout = 120s;
 constexpr auto handshakeTimeout = 10s;
 constexpr auto headersTimeout = 10s; ///< From the first byte to the last.

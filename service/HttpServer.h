@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RecordBody.h"
+
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -53,7 +55,7 @@ struct HttpSettings {
     std::string certificateFile = {}; ///< PEM, with its chain. Empty: no TLS.
     std::string keyFile = {};
     bool isBehindProxy = false;
-    std::size_t maxBody = 1024 * 1024;
+    std::size_t maxBody = RecordBody::maxLength;
 };
 
 /// An HTTP/1.1 server with one thread, which holds nothing but a few kilobytes for an idle client.

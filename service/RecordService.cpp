@@ -2,9 +2,13 @@
 
 #include "Log.h"
 
+#include <boost/asio/post.hpp>
+#include <boost/asio/thread_pool.hpp>
+
 #include <array>
 #include <cstdio>
 
+namespace asio = boost::asio;
 using namespace std::chrono_literals;
 
 namespace
@@ -50,16 +54,16 @@ Outcome outcomeOf(HttpFault fault)
 
 RecordService::RecordService(std::string base, const std::vector<TableSchema> &tables,
                              Accounts &accounts, Engine &engine)
-    : m_base(std::move(base)), m_tables(tables), m_accounts(accounts), m_engine(engine)
+    : m_base(std::move(base)), m_tables(tables), m_accounts(accounts), m_engine(engine),
+      m_readers(std::make_unique<asio::thread_pool>(readerCount)),
+      m_hashing(std::make_unique<asio::thread_pool>(1))
 {
-    m_readers.setMaxThreadCount(readerCount);
-    m_hashing.setMaxThreadCount(1);
 }
 
 RecordService::~RecordService()
 {
-    m_readers.waitForDone();
-    m_hashing.waitForDone();
+    m_readers->join();
+    m_hashing->join();
 }
 
 void RecordService::admit(HttpRequest &request,
@@ -95,7 +99,7 @@ void RecordService::hash(Credentials credentials, HttpRequest &request,
         --m_waitingHashes;
         return respond(replyTo(request, {}, {Status::NotNow, "too many log in, try again later"}));
     }
-    m_hashing.start([this, credentials = std::move(credentials), &request,
+    asio::post(*m_hashing, [this, credentials = std::move(credentials), &request,
                      respond = std::move(respond)] {
         const auto role = m_accounts.check(credentials, request.clientAddress);
         --m_waitingHashes;
@@ -204,7 +208,7 @@ void RecordService::select(HttpRequest &request, const RecordQuery &query, Respo
         return respond(replyTo(request, subject, {Status::NotNow, "too many selects wait"}));
     }
     Selection selection{query.table, std::move(std::get<Clause>(clause)), query.page};
-    m_readers.start([this, &request, subject, selection = std::move(selection),
+    asio::post(*m_readers, [this, &request, subject, selection = std::move(selection),
                      respond = std::move(respond)] {
         auto result = m_engine.select(selection);
         --m_waitingSelects;
@@ -218,7 +222,7 @@ void RecordService::select(HttpRequest &request, const RecordQuery &query, Respo
 
 void RecordService::tellHealth(HttpRequest &request, Respond respond)
 {
-    m_readers.start([this, &request, respond = std::move(respond)] {
+    asio::post(*m_readers, [this, &request, respond = std::move(respond)] {
         bool isHealthy = false;
         {
             const std::lock_guard lock(m_healthMutex);

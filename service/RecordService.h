@@ -5,9 +5,12 @@
 #include "HttpServer.h"
 #include "Metrics.h"
 
-#include <QThreadPool>
-
 #include <atomic>
+
+namespace boost::asio
+{
+class thread_pool;
+}
 
 /// Answers the requests of the application's record store, see docs/records-service.md: who may do
 /// it, what is asked for, the engine's answer, and a line in the log.
@@ -57,6 +60,6 @@ private:
     std::mutex m_healthMutex; ///< Over the two that follow.
     Accounts::Clock::time_point m_healthUntil;
     bool m_isHealthy = false;
-    QThreadPool m_readers;
-    QThreadPool m_hashing; ///< One thread: a hash takes 12 MB.
+    const std::unique_ptr<boost::asio::thread_pool> m_readers;
+    const std::unique_ptr<boost::asio::thread_pool> m_hashing; ///< One thread: a hash takes 12 MB.
 };

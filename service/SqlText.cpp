@@ -1,5 +1,8 @@
 #include "SqlText.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace
 {
 
@@ -20,6 +23,14 @@ std::string orderOf(const TableSchema &table, const std::vector<Ordering> &order
     for (const Ordering &part : order)
         text += table.columns[std::size_t(part.column)].name + (part.isDescending ? " DESC," : ",");
     return text + "ID";
+}
+
+int depth(const Condition &condition)
+{
+    int deepest = 0;
+    for (const Condition &part : condition.parts)
+        deepest = std::max(deepest, depth(part));
+    return deepest + 1;
 }
 
 } // namespace
@@ -57,53 +68,81 @@ SqlText SqlText::update(const TableSchema &table, const RecordBody &record, cons
     return sql;
 }
 
-void SqlText::append(const TableSchema &table, const Condition &condition)
+/// A negation is carried down to the tests. It means the same there, also for NULL, and leaves less
+/// nesting: SQLite's own parser gives up after a hundred symbols that wait for their end.
+void SqlText::append(const TableSchema &table, const Condition &condition, bool isNegated)
 {
     using Kind = Condition::Kind;
-    const std::string &column = table.columns[std::size_t(condition.column)].name;
     switch (condition.kind) {
     case Kind::Always:
     case Kind::Never:
-        text += condition.kind == Kind::Always ? "1=1" : "0=1";
-        return;
-    case Kind::Compare:
-        text.append(column).append(condition.comparison);
-        return appendPlaces(condition.values, "");
-    case Kind::In:
-        text.append(column).append(" IN (");
-        appendPlaces(condition.values, ",");
-        text += ")";
-        return;
-    case Kind::Between:
-        text.append(column).append(" BETWEEN ");
-        return appendPlaces(condition.values, " AND ");
-    case Kind::IsNull:
-    case Kind::IsNotNull:
-        text.append(column).append(condition.kind == Kind::IsNull ? " IS NULL" : " IS NOT NULL");
+        text += (condition.kind == Kind::Always) != isNegated ? "1=1" : "0=1";
         return;
     case Kind::Not:
-        text += "NOT ";
-        return appendJoined(table, condition.parts, "");
+        return append(table, condition.parts[0], !isNegated);
     case Kind::And:
-        return appendJoined(table, condition.parts, " AND ");
-    case Kind::Or:
-        return appendJoined(table, condition.parts, " OR ");
+    case Kind::Or: {
+        std::vector<const Condition *> parts;
+        for (const Condition &part : condition.parts)
+            parts.push_back(&part);
+        return appendJoined(table, std::move(parts),
+                            (condition.kind == Kind::And) != isNegated ? " AND " : " OR ",
+                            isNegated);
+    }
+    default:
+        text += isNegated ? "NOT " : "";
+        return appendTest(table, condition);
     }
 }
 
-/// Halved again and again: a database limits how deeply an expression is nested, and a chain of a
-/// thousand parts counts as a thousand levels.
-void SqlText::appendJoined(const TableSchema &table, std::span<const Condition> parts,
-                           std::string_view word)
+void SqlText::appendTest(const TableSchema &table, const Condition &test)
 {
-    text += "(";
-    if (parts.size() == 1) {
-        append(table, parts[0]);
-    } else {
-        appendJoined(table, parts.first(parts.size() / 2), word);
-        text += word;
-        appendJoined(table, parts.subspan(parts.size() / 2), word);
+    const std::string &column = table.columns[std::size_t(test.column)].name;
+    switch (test.kind) {
+    case Condition::Kind::In:
+        text.append(column).append(" IN (");
+        appendPlaces(test.values, ",");
+        text += ")";
+        return;
+    case Condition::Kind::Between:
+        text.append(column).append(" BETWEEN ");
+        return appendPlaces(test.values, " AND ");
+    case Condition::Kind::IsNull:
+        text.append(column).append(" IS NULL");
+        return;
+    case Condition::Kind::IsNotNull:
+        text.append(column).append(" IS NOT NULL");
+        return;
+    default:
+        text.append(column).append(test.comparison);
+        return appendPlaces(test.values, "");
     }
+}
+
+/// The most deeply nested part comes first: to the left of everything else it costs the parser one
+/// symbol a level.
+void SqlText::appendJoined(const TableSchema &table, std::vector<const Condition *> parts,
+                           std::string_view word, bool isNegated)
+{
+    std::ranges::stable_sort(parts, std::greater(),
+                             [](const Condition *part) { return depth(*part); });
+    text += "(";
+    append(table, *parts[0], isNegated);
+    text += word;
+    appendHalves(table, std::span(parts).subspan(1), word, isNegated);
+    text += ")";
+}
+
+/// Halved again and again: SQLite counts a chain of a thousand parts as a thousand levels.
+void SqlText::appendHalves(const TableSchema &table, std::span<const Condition *const> parts,
+                           std::string_view word, bool isNegated)
+{
+    if (parts.size() == 1)
+        return append(table, *parts[0], isNegated);
+    text += "(";
+    appendHalves(table, parts.first(parts.size() / 2), word, isNegated);
+    text += word;
+    appendHalves(table, parts.subspan(parts.size() / 2), word, isNegated);
     text += ")";
 }
 

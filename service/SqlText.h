@@ -14,8 +14,11 @@ struct SqlText {
     static SqlText update(const TableSchema &table, const RecordBody &record, const Value &key);
 
 private:
-    void append(const TableSchema &table, const Condition &condition);
-    void appendJoined(const TableSchema &table, std::span<const Condition> parts,
-                      std::string_view word);
+    void append(const TableSchema &table, const Condition &condition, bool isNegated = false);
+    void appendTest(const TableSchema &table, const Condition &test);
+    void appendJoined(const TableSchema &table, std::vector<const Condition *> parts,
+                      std::string_view word, bool isNegated);
+    void appendHalves(const TableSchema &table, std::span<const Condition *const> parts,
+                      std::string_view word, bool isNegated);
     void appendPlaces(std::span<const Value> bound, std::string_view separator);
 };

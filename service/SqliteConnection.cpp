@@ -30,9 +30,9 @@ void bind(sqlite3_stmt *statement, int place, const Value &value)
 
 } // namespace
 
-SqliteStatement::SqliteStatement(sqlite3_stmt *statement, bool isKept,
+SqliteStatement::SqliteStatement(int code, sqlite3_stmt *statement, bool isKept,
                                  std::span<const Value *const> values)
-    : m_statement(statement), m_isKept(isKept)
+    : m_code(code), m_statement(statement), m_isKept(isKept)
 {
     for (std::size_t i = 0; i < values.size() && m_statement; ++i)
         bind(m_statement, int(i) + 1, *values[i]);
@@ -40,6 +40,8 @@ SqliteStatement::SqliteStatement(sqlite3_stmt *statement, bool isKept,
 
 SqliteStatement::~SqliteStatement()
 {
+    if (!m_statement)
+        return;
     sqlite3_reset(m_statement);
     sqlite3_clear_bindings(m_statement);
     if (!m_isKept)
@@ -48,7 +50,7 @@ SqliteStatement::~SqliteStatement()
 
 int SqliteStatement::step()
 {
-    return m_statement ? sqlite3_step(m_statement) : SQLITE_ERROR;
+    return m_statement ? sqlite3_step(m_statement) : m_code;
 }
 
 std::unique_ptr<SqliteConnection> SqliteConnection::open(const std::string &path, Access access)
@@ -103,17 +105,18 @@ SqliteStatement SqliteConnection::prepare(const SqlText &sql)
     m_steps = 0;
     const auto known = m_statements.find(sql.text);
     if (known != m_statements.end())
-        return {known->second, true, sql.values};
+        return {SQLITE_OK, known->second, true, sql.values};
     const bool isKept = sql.text.size() <= maxKeptLength;
     sqlite3_stmt *statement = nullptr;
-    sqlite3_prepare_v3(m_database, sql.text.data(), int(sql.text.size()),
-                       isKept ? SQLITE_PREPARE_PERSISTENT : 0, &statement, nullptr);
+    const int code =
+        sqlite3_prepare_v3(m_database, sql.text.data(), int(sql.text.size()),
+                           isKept ? SQLITE_PREPARE_PERSISTENT : 0, &statement, nullptr);
     if (!isKept || !statement)
-        return {statement, false, sql.values};
+        return {code, statement, false, sql.values};
     if (m_statements.size() >= maxKeptStatements)
         forgetStatements();
     m_statements.emplace(sql.text, statement);
-    return {statement, true, sql.values};
+    return {code, statement, true, sql.values};
 }
 
 int SqliteConnection::run(const char *sql)
@@ -142,6 +145,16 @@ std::int64_t SqliteConnection::changedRows() const
 std::string SqliteConnection::message() const
 {
     return sqlite3_errmsg(m_database);
+}
+
+std::string_view SqliteConnection::conditionFault(int code) const
+{
+    if (code == SQLITE_INTERRUPT)
+        return "the condition takes too long";
+    const std::string words = code == SQLITE_ERROR ? message() : "";
+    const bool isTooComplex = words.find("stack overflow") != words.npos
+        || words.find("Expression tree is too large") != words.npos;
+    return isTooComplex ? "the condition is too deeply nested" : "";
 }
 
 /// Called while a statement is prepared. A statement that is kept was allowed for its own table.

@@ -13,16 +13,20 @@ struct sqlite3_stmt;
 class SqliteStatement
 {
 public:
-    SqliteStatement(sqlite3_stmt *statement, bool isKept, std::span<const Value *const> values);
+    /// `code` is that of preparing it.
+    SqliteStatement(int code, sqlite3_stmt *statement, bool isKept,
+                    std::span<const Value *const> values);
     ~SqliteStatement();
     SqliteStatement(const SqliteStatement &) = delete;
     SqliteStatement &operator=(const SqliteStatement &) = delete;
 
-    /// SQLITE_ROW, SQLITE_DONE or an error. After SQLITE_DONE it begins anew.
+    /// SQLITE_ROW, SQLITE_DONE or an error, that of preparing it too. After SQLITE_DONE it begins
+    /// anew.
     int step();
     sqlite3_stmt *get() const { return m_statement; }
 
 private:
+    const int m_code;
     sqlite3_stmt *const m_statement; ///< Null if it could not be prepared.
     const bool m_isKept;
 };
@@ -51,6 +55,8 @@ public:
     bool isInTransaction() const;
     std::int64_t changedRows() const; ///< By the last insert, update or delete.
     std::string message() const; ///< Of the last error.
+    /// Why the condition is at fault for this code, and not the database; empty if it is not.
+    std::string_view conditionFault(int code) const;
 
 private:
     SqliteConnection(sqlite3 *database, std::int64_t maxSteps);

@@ -72,8 +72,8 @@ int readPage(SqliteStatement &statement, const TableSchema &table, const Page &p
 /// The reply, or why there is none.
 Parsed<std::string> resultOf(int code, JsonRows &rows, const SqliteConnection &reader)
 {
-    if (code == SQLITE_INTERRUPT)
-        return Outcome{Status::ConditionRefused, "the condition takes too long"};
+    if (const auto fault = reader.conditionFault(code); !fault.empty())
+        return Outcome{Status::ConditionRefused, fault};
     if (code != SQLITE_DONE) {
         logLine("database: cannot read: " + reader.message());
         return Outcome{Status::NotNow, "the database cannot be read, try again later"};
@@ -135,7 +135,7 @@ Parsed<std::string> SqliteEngine::select(const Selection &selection)
                               : readAll(statement, table, rows);
     }
     auto result = resultOf(code, rows, *reader);
-    if (code == SQLITE_DONE || code == SQLITE_INTERRUPT)
+    if (code == SQLITE_DONE || !reader->conditionFault(code).empty())
         putBack(std::move(reader));
     return result;
 }

@@ -148,8 +148,8 @@ std::optional<Outcome> SqliteWriter::make(const Change &change)
     const int code = runToEnd(table,
                               isUpdate ? SqlText::update(table, change.record, key)
                                        : SqlText::remove(table, change.condition));
-    if (code == SQLITE_INTERRUPT)
-        return Outcome{Status::ConditionRefused, "the condition takes too long"};
+    if (const auto fault = m_database->conditionFault(code); !fault.empty())
+        return Outcome{Status::ConditionRefused, fault};
     if (code != SQLITE_DONE)
         return std::nullopt;
     if (m_database->changedRows() == 0 && (isUpdate || change.condition.isOneKey()))
