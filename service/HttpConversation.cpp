@@ -14,6 +14,7 @@
 #include <boost/beast/http/string_body.hpp>
 
 #include <array>
+#include <mutex>
 
 namespace asio = boost::asio;
 namespace beast = boost::beast;
@@ -51,21 +52,57 @@ private:
     std::list<HttpConnection *>::iterator m_place;
 };
 
-/// Calls `start` with a function that resumes the coroutine, on the server's thread, with a result.
+/// A result that the handler gives on any thread, and the coroutine that may wait for it.
+template <class Result>
+struct Pending {
+    std::mutex mutex;
+    std::optional<Result> result;
+    std::function<void()> resume; ///< Empty unless the coroutine waits.
+
+    void give(Result given)
+    {
+        std::unique_lock lock(mutex);
+        result = std::move(given);
+        const std::function<void()> waiter = std::exchange(resume, {});
+        lock.unlock();
+        if (waiter)
+            waiter();
+    }
+    void await(std::function<void()> waiter)
+    {
+        std::unique_lock lock(mutex);
+        if (!result) {
+            resume = std::move(waiter);
+            return;
+        }
+        lock.unlock();
+        waiter();
+    }
+};
+
+/// Calls `start` with a function that takes a result, and waits for it if it is not there at once.
 template <class Result, class Start>
 asio::awaitable<Result> answerOf(Start start)
 {
-    return asio::async_initiate<const asio::use_awaitable_t<> &, void(Result)>(
-        [](auto handler, Start begin) {
-            const auto shared = std::make_shared<decltype(handler)>(std::move(handler));
-            const auto work = asio::make_work_guard(*shared);
-            begin([shared, work](Result result) {
-                asio::post(work.get_executor(), [shared, result = std::move(result)]() mutable {
-                    (*shared)(std::move(result));
+    const auto pending = std::make_shared<Pending<Result>>();
+    start([pending](Result result) { pending->give(std::move(result)); });
+    const bool isThere = [&] {
+        const std::lock_guard lock(pending->mutex);
+        return pending->result.has_value();
+    }();
+    if (!isThere) {
+        // g++ 12 destroys what stands in an await expression twice: nothing in it may own anything.
+        co_await asio::async_initiate<const asio::use_awaitable_t<> &, void()>(
+            [&pending](auto handler) {
+                const auto shared = std::make_shared<decltype(handler)>(std::move(handler));
+                const auto work = asio::make_work_guard(*shared);
+                pending->await([shared, work] {
+                    asio::post(work.get_executor(), [shared] { (*shared)(); });
                 });
-            });
-        },
-        asio::use_awaitable, std::move(start));
+            },
+            asio::use_awaitable);
+    }
+    co_return std::move(*pending->result);
 }
 
 std::string_view view(beast::string_view text)
@@ -222,7 +259,8 @@ private:
         else if (!isHttpError(error) || !came.starts_with("POST /"))
             co_return;
         m_isKept = false;
-        if (co_await write(m_handler.refuse(fault, came), false))
+        const HttpReply reply = m_handler.refuse(fault, came);
+        if (co_await write(reply, false))
             co_await drain();
     }
 

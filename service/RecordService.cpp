@@ -203,21 +203,28 @@ void RecordService::select(HttpRequest &request, const RecordQuery &query, Respo
     auto clause = Clause::parse(*query.table, query.clause);
     if (const auto *fault = std::get_if<Outcome>(&clause))
         return respond(replyTo(request, subject, *fault));
+    Selection selection{query.table, std::move(std::get<Clause>(clause)), query.page};
+    if (auto records = m_engine.selectAtOnce(selection))
+        return respond(found(request, subject, std::move(*records)));
     if (++m_waitingSelects > maxWaitingSelects) {
         --m_waitingSelects;
         return respond(replyTo(request, subject, {Status::NotNow, "too many selects wait"}));
     }
-    Selection selection{query.table, std::move(std::get<Clause>(clause)), query.page};
     asio::post(*m_readers, [this, &request, subject, selection = std::move(selection),
                      respond = std::move(respond)] {
         auto result = m_engine.select(selection);
         --m_waitingSelects;
         if (const auto *fault = std::get_if<Outcome>(&result))
             return respond(replyTo(request, subject, *fault));
-        log(request, subject, Status::Done);
-        respond({.body = std::move(std::get<std::string>(result)),
-                 .contentType = "application/json"});
+        respond(found(request, subject, std::move(std::get<std::string>(result))));
     });
+}
+
+HttpReply RecordService::found(const HttpRequest &request, const Subject &subject,
+                               std::string records)
+{
+    log(request, subject, Status::Done);
+    return {.body = std::move(records), .contentType = "application/json"};
 }
 
 void RecordService::tellHealth(HttpRequest &request, Respond respond)

@@ -47,6 +47,7 @@ private:
     bool isFound(const HttpRequest &request, std::string_view name) const;
 
     HttpReply replyTo(const HttpRequest &request, const Subject &subject, const Outcome &outcome);
+    HttpReply found(const HttpRequest &request, const Subject &subject, std::string records);
     HttpReply bare(const HttpRequest &request, std::string_view operation, HttpReply reply);
     void log(const HttpRequest &request, const Subject &subject, Status status);
 

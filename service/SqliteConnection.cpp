@@ -90,7 +90,7 @@ void SqliteConnection::forgetStatements()
 
 void SqliteConnection::configure()
 {
-    sqlite3_busy_timeout(m_database, busyTimeoutMilliseconds);
+    setWaiting(true);
     sqlite3_db_config(m_database, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(m_database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(m_database, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
@@ -98,6 +98,11 @@ void SqliteConnection::configure()
     sqlite3_set_authorizer(m_database, &SqliteConnection::authorize, this);
     sqlite3_progress_handler(m_database, stepsPerCall, &SqliteConnection::countSteps, this);
     run("PRAGMA cell_size_check=ON");
+}
+
+void SqliteConnection::setWaiting(bool waits)
+{
+    sqlite3_busy_timeout(m_database, waits ? busyTimeoutMilliseconds : 0);
 }
 
 SqliteStatement SqliteConnection::prepare(const SqlText &sql)

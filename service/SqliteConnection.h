@@ -48,6 +48,7 @@ public:
     /// The statements that follow may use this table alone; null takes the restriction away, for
     /// statements that hold nothing of a client's.
     void restrictTo(const TableSchema *table) { m_table = table; }
+    void setWaiting(bool waits); ///< Whether statements wait for locks of others; at first they do.
     SqliteStatement prepare(const SqlText &sql);
 
     int run(const char *sql); ///< Statements without values.

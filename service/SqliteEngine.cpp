@@ -124,6 +124,24 @@ Parsed<std::string> SqliteEngine::select(const Selection &selection)
     auto reader = takeReader();
     if (!reader)
         return Outcome{Status::NotNow, "the database cannot be read, try again later"};
+    return selectWith(std::move(reader), selection);
+}
+
+std::optional<std::string> SqliteEngine::selectAtOnce(const Selection &selection)
+{
+    auto reader = selection.clause.condition.isOneKey() && !selection.page ? takeIdleReader()
+                                                                           : nullptr;
+    if (!reader)
+        return std::nullopt;
+    reader->setWaiting(false);
+    auto result = selectWith(std::move(reader), selection);
+    auto *const reply = std::get_if<std::string>(&result);
+    return reply ? std::optional(std::move(*reply)) : std::nullopt;
+}
+
+Parsed<std::string> SqliteEngine::selectWith(std::unique_ptr<SqliteConnection> reader,
+                                             const Selection &selection)
+{
     const TableSchema &table = *selection.table;
     reader->restrictTo(&table);
     const SqlText sql = SqlText::select(selection);
@@ -155,15 +173,21 @@ bool SqliteEngine::isHealthy()
     return true;
 }
 
+std::unique_ptr<SqliteConnection> SqliteEngine::takeIdleReader()
+{
+    const std::lock_guard lock(m_mutex);
+    if (m_readers.empty())
+        return nullptr;
+    auto reader = std::move(m_readers.back());
+    m_readers.pop_back();
+    return reader;
+}
+
 std::unique_ptr<SqliteConnection> SqliteEngine::takeReader()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        if (!m_readers.empty()) {
-            auto reader = std::move(m_readers.back());
-            m_readers.pop_back();
-            return reader;
-        }
+    if (auto reader = takeIdleReader()) {
+        reader->setWaiting(true);
+        return reader;
     }
     auto reader = SqliteDatabase::openReader(m_path);
     if (!reader)

@@ -15,11 +15,15 @@ public:
 
     void change(Change change, std::function<void(Outcome)> done) override;
     Parsed<std::string> select(const Selection &selection) override;
+    std::optional<std::string> selectAtOnce(const Selection &selection) override;
     bool isHealthy() override;
 
 private:
     SqliteEngine(const std::string &path, const std::vector<TableSchema> &tables,
                  FileDescriptor lock);
+    Parsed<std::string> selectWith(std::unique_ptr<SqliteConnection> reader,
+                                   const Selection &selection);
+    std::unique_ptr<SqliteConnection> takeIdleReader(); ///< Null if none is idle.
     std::unique_ptr<SqliteConnection> takeReader();
     void putBack(std::unique_ptr<SqliteConnection> reader);
 
