@@ -1,7 +1,5 @@
 #include "JsonRows.h"
 
-#include "TableSchema.h"
-
 #include <array>
 #include <charconv>
 
@@ -14,12 +12,6 @@ bool isEscaped(char character)
 }
 
 } // namespace
-
-JsonRows::JsonRows(const TableSchema &table)
-{
-    for (std::size_t i = 0; i < table.columns.size(); ++i)
-        m_begins.push_back((i == 0 ? "{\"" : ",\"") + table.columns[i].name + "\":");
-}
 
 void JsonRows::add(std::int64_t number)
 {
@@ -53,16 +45,17 @@ std::string JsonRows::take()
 
 void JsonRows::beginValue()
 {
-    if (m_column == m_begins.size()) {
+    if (m_column == m_table.columns.size()) {
         m_text += ',';
         m_column = 0;
     }
-    m_text += m_begins[m_column];
+    m_text += m_column == 0 ? "{\"" : ",\"";
+    m_text.append(m_table.columns[m_column].name).append("\":");
 }
 
 void JsonRows::endValue()
 {
-    if (++m_column == m_begins.size())
+    if (++m_column == m_table.columns.size())
         m_text += '}';
 }
 

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <cstdint>
-#include <string>
-#include <string_view>
-#include <vector>
-
-struct TableSchema;
+#include "TableSchema.h"
 
 /// Writes the reply to a select: {"RESULT":[…]} with one object per record. The values of a record
 /// are added in the order of the columns.
@@ -14,7 +9,7 @@ class JsonRows
 public:
     static constexpr std::size_t maxLength = 64 * 1024 * 1024;
 
-    explicit JsonRows(const TableSchema &table);
+    explicit JsonRows(const TableSchema &table) : m_table(table) { m_text.reserve(256); }
 
     void add(std::int64_t number);
     void add(std::string_view text); ///< UTF-8.
@@ -27,7 +22,7 @@ private:
     void endValue();
     void appendEscaped(std::string_view text);
 
-    std::vector<std::string> m_begins; ///< What stands before each column's value.
-    std::size_t m_column = 0;
+    const TableSchema &m_table;
+    std::size_t m_column = 0; ///< The next one; past the last at the end of a record.
     std::string m_text = "{\"RESULT\":[";
 };

@@ -4,26 +4,28 @@
 
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <ctime>
 #include <string>
 
 namespace
 {
 
+/// "2026-11-23T10:43:25.057Z ". The seconds are kept: there are many lines in one.
 std::string now()
 {
     using namespace std::chrono;
+    thread_local std::time_t last = -1;
+    thread_local std::array<char, 24> text{};
     const auto time = system_clock::now();
     const std::time_t seconds = system_clock::to_time_t(time);
-    std::tm parts{};
-    gmtime_r(&seconds, &parts);
-    std::array<char, 40> text;
-    const std::size_t length =
-        std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S", &parts);
+    if (seconds != last) {
+        std::tm parts{};
+        gmtime_r(&seconds, &parts);
+        std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S.", &parts);
+        last = seconds;
+    }
     const auto milli = duration_cast<milliseconds>(time.time_since_epoch()).count() % 1000;
-    std::snprintf(text.data() + length, text.size() - length, ".%03dZ ", int(milli));
-    return text.data();
+    return text.data() + std::to_string(1000 + milli).substr(1) + "Z ";
 }
 
 } // namespace

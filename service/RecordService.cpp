@@ -5,9 +5,6 @@
 #include <boost/asio/post.hpp>
 #include <boost/asio/thread_pool.hpp>
 
-#include <array>
-#include <cstdio>
-
 namespace asio = boost::asio;
 using namespace std::chrono_literals;
 
@@ -25,9 +22,8 @@ constexpr std::string_view challenge =
 
 std::string durationText(std::chrono::nanoseconds duration)
 {
-    std::array<char, 32> text;
-    std::snprintf(text.data(), text.size(), "%.1fms", double(duration.count()) * 1e-6);
-    return text.data();
+    const auto tenths = duration / 100us;
+    return std::to_string(tenths / 10) + '.' + std::to_string(tenths % 10) + "ms";
 }
 
 bool isSelect(const HttpRequest &request)
