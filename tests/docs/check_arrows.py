@@ -17,7 +17,7 @@ LIBRARIES = {"SQLite": "sqlite3.h", "libcurl": "curl/", "libsodium": "sodium.h",
              "libcanberra": "canberra.h", "simdjson": "simdjson.h", "libdeflate": "libdeflate.h",
              "libzip": "zip.h", "zlib": "zlib.h", "Boost": "boost/", "libmariadb": "mysql.h",
              "OpenSSL": "openssl/"}
-SYSTEM = re.compile(r"(sys|linux)/\w+\.h|(dirent|fcntl|poll|pwd|signal|sysexits|unistd)\.h|[a-z_]+")
+SYSTEM = re.compile(r"(arpa|sys|linux)/\w+\.h|(dirent|fcntl|poll|pwd|signal|sysexits|termios|unistd)\.h|[a-z_]+")
 faults = []
 
 
