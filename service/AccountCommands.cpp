@@ -6,7 +6,6 @@
 #include <sodium.h>
 #include <sysexits.h>
 #include <termios.h>
-
 #include <unistd.h>
 
 #include <cstdio>

@@ -3,10 +3,9 @@
 #include "FileDescriptor.h"
 #include "Log.h"
 
+#include <fcntl.h>
 #include <sodium.h>
 #include <sys/stat.h>
-
-#include <fcntl.h>
 
 #include <algorithm>
 #include <array>
@@ -17,7 +16,8 @@
 namespace
 {
 
-/// The weakest setting that the field recommends for Argon2id: the service promises to live in 64 MB.
+/// The weakest setting that the field recommends for Argon2id: the service promises to live in 64
+/// MB.
 constexpr unsigned long long hashOperations = 3;
 constexpr std::size_t hashMemory = 12 * 1024 * 1024;
 constexpr std::size_t maxFileLength = 1024 * 1024;
@@ -58,7 +58,8 @@ bool writeWhole(int file, std::string_view text)
 /// An administrator may add accounts of a service that runs as somebody else.
 bool giveToOwnerOf(const std::string &folder, int file)
 {
-    struct stat status{};
+    struct stat status {
+    };
     return geteuid() != 0
         || (stat(folder.c_str(), &status) == 0 && fchown(file, status.st_uid, status.st_gid) == 0);
 }
@@ -97,8 +98,7 @@ bool isAccountName(std::string_view name)
 std::string passwordHash(const std::string &password)
 {
     std::array<char, crypto_pwhash_STRBYTES> hash{};
-    if (crypto_pwhash_str(hash.data(), password.data(), password.size(), hashOperations,
-                          hashMemory)
+    if (crypto_pwhash_str(hash.data(), password.data(), password.size(), hashOperations, hashMemory)
         != 0)
         return {};
     return hash.data();
@@ -106,7 +106,8 @@ std::string passwordHash(const std::string &password)
 
 std::optional<AccountList> AccountFile::read() const
 {
-    struct stat status{};
+    struct stat status {
+    };
     if (stat(m_path.c_str(), &status) != 0 && errno == ENOENT)
         return AccountList();
     std::ifstream file(m_path);
@@ -122,12 +123,15 @@ bool AccountFile::write(const AccountList &accounts) const
 {
     std::string text;
     for (const auto &[name, account] : accounts)
-        text.append(name).append(":").append(roleName(account.role)).append(":").append(
-            account.passwordHash + "\n");
+        text.append(name)
+            .append(":")
+            .append(roleName(account.role))
+            .append(":")
+            .append(account.passwordHash + "\n");
     const std::string temporary = m_path + ".new";
     unlink(temporary.c_str());
-    const FileDescriptor file(open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC,
-                                   S_IRUSR | S_IWUSR));
+    const FileDescriptor file(
+        open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (file && giveToOwnerOf(folderOf(m_path), file.get()) && writeWhole(file.get(), text)
         && rename(temporary.c_str(), m_path.c_str()) == 0)
         return true;
@@ -138,7 +142,8 @@ bool AccountFile::write(const AccountList &accounts) const
 
 std::string AccountFile::fingerprint() const
 {
-    struct stat status{};
+    struct stat status {
+    };
     if (stat(m_path.c_str(), &status) != 0)
         return {};
     std::ostringstream text;

@@ -116,7 +116,8 @@ Token ClauseTokens::numberToken()
     const std::size_t end = sign + lengthOf(m_rest.substr(sign), digits);
     const std::string_view after = m_rest.substr(end);
     const bool goesOn = !after.empty()
-        && (isOneOf(wordCharacters, after[0]) || after[0] == '.' || after[0] == '$' || after[0] < 0);
+        && (isOneOf(wordCharacters, after[0]) || after[0] == '.' || after[0] == '$'
+            || after[0] < 0);
     return cut(end == sign || goesOn ? Token::Unknown : Token::Number, end + (goesOn ? 1 : 0));
 }
 

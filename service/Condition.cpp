@@ -145,15 +145,13 @@ private:
 
     Condition null(Condition test)
     {
-        test.kind =
-            m_tokens.takeWord("NOT") ? Condition::Kind::IsNotNull : Condition::Kind::IsNull;
+        test.kind = m_tokens.takeWord("NOT") ? Condition::Kind::IsNotNull : Condition::Kind::IsNull;
         return m_tokens.takeWord("NULL") ? test : fail("only NULL stands behind IS");
     }
 
     void takeLiteral(Condition &test)
     {
-        const bool isText =
-            m_table.columns[std::size_t(test.column)].kind == ColumnKind::Text;
+        const bool isText = m_table.columns[std::size_t(test.column)].kind == ColumnKind::Text;
         const Token token = m_tokens.take();
         if (token.kind == Token::Number && !isText) {
             if (const auto number = token.number())

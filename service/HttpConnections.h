@@ -21,6 +21,7 @@ constexpr std::size_t headers = 64 * 1024;
 constexpr std::size_t freeBuffer = 4096; ///< What each connection may hold of headers.
 /// What all of them together may hold beyond that, before their requests are accepted.
 constexpr std::size_t buffers = 12 * 1024 * 1024;
+constexpr std::size_t replies = 256 * 1024 * 1024; ///< All that wait for their readers.
 constexpr int connections = 1500;
 constexpr int tlsConnections = 192; ///< Each needs about 90 KB.
 constexpr auto idleTimeout = 120s;
@@ -57,6 +58,7 @@ class HttpConnections
 public:
     std::list<HttpConnection *> all;
     bool isEnding = false;
+    std::size_t replyBytes = 0; ///< Of the replies that are being written.
 
     /// Closes the client that has waited longest if there are too many; false if none waits.
     bool makeRoom();

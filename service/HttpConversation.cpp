@@ -1,6 +1,7 @@
 // What is said on one connection, from its first byte to its last.
 
 #include "HttpConnections.h"
+#include "PendingAnswer.h"
 
 #include <boost/asio/as_tuple.hpp>
 #include <boost/asio/ssl/stream.hpp>
@@ -14,7 +15,6 @@
 #include <boost/beast/http/string_body.hpp>
 
 #include <array>
-#include <mutex>
 
 namespace asio = boost::asio;
 namespace beast = boost::beast;
@@ -51,59 +51,6 @@ private:
     HttpConnection &m_connection;
     std::list<HttpConnection *>::iterator m_place;
 };
-
-/// A result that the handler gives on any thread, and the coroutine that may wait for it.
-template <class Result>
-struct Pending {
-    std::mutex mutex;
-    std::optional<Result> result;
-    std::function<void()> resume; ///< Empty unless the coroutine waits.
-
-    void give(Result given)
-    {
-        std::unique_lock lock(mutex);
-        result = std::move(given);
-        const std::function<void()> waiter = std::exchange(resume, {});
-        lock.unlock();
-        if (waiter)
-            waiter();
-    }
-    void await(std::function<void()> waiter)
-    {
-        std::unique_lock lock(mutex);
-        if (!result) {
-            resume = std::move(waiter);
-            return;
-        }
-        lock.unlock();
-        waiter();
-    }
-};
-
-/// Calls `start` with a function that takes a result, and waits for it if it is not there at once.
-template <class Result, class Start>
-asio::awaitable<Result> answerOf(Start start)
-{
-    const auto pending = std::make_shared<Pending<Result>>();
-    start([pending](Result result) { pending->give(std::move(result)); });
-    const bool isThere = [&] {
-        const std::lock_guard lock(pending->mutex);
-        return pending->result.has_value();
-    }();
-    if (!isThere) {
-        // g++ 12 destroys what stands in an await expression twice: nothing in it may own anything.
-        co_await asio::async_initiate<const asio::use_awaitable_t<> &, void()>(
-            [&pending](auto handler) {
-                const auto shared = std::make_shared<decltype(handler)>(std::move(handler));
-                const auto work = asio::make_work_guard(*shared);
-                pending->await([shared, work] {
-                    asio::post(work.get_executor(), [shared] { (*shared)(); });
-                });
-            },
-            asio::use_awaitable);
-    }
-    co_return std::move(*pending->result);
-}
 
 std::string_view view(beast::string_view text)
 {
@@ -184,7 +131,7 @@ private:
         m_connection.allow(HttpLimit::answerTimeout);
         const HttpReply reply = co_await answerOf<HttpReply>(
             [this, &request](auto respond) { m_handler.answer(request, std::move(respond)); });
-        co_return co_await write(reply, request.method == "HEAD") && m_isKept;
+        co_return co_await writeWithin(reply, request);
     }
 
     asio::awaitable<beast::error_code> readHeaders(Parser &parser)
@@ -277,7 +224,7 @@ private:
         const bool isWritten = co_await write(reply, false);
         if (isWritten && !isWhole)
             co_await drain();
-        co_return isWritten && m_isKept;
+        co_return isWritten &&m_isKept;
     }
 
     asio::awaitable<bool> write(const HttpReply &reply, bool withoutBody)
@@ -288,7 +235,8 @@ private:
         m_isKept = m_isKept && !m_connections.isEnding;
         const std::string head = headOf(reply, m_isKept);
         const std::array<asio::const_buffer, 2> parts = {
-            asio::buffer(head), asio::buffer(reply.body.data(), withoutBody ? 0 : reply.body.size())};
+            asio::buffer(head),
+            asio::buffer(reply.body.data(), withoutBody ? 0 : reply.body.size())};
         beast::buffers_suffix<std::array<asio::const_buffer, 2>> rest(parts);
         while (asio::buffer_size(rest) > 0) {
             m_connection.allow(HttpLimit::writeTimeout);
@@ -300,8 +248,23 @@ private:
         co_return true;
     }
 
-    /// Reads on for a while after a refusal. A connection that is closed with bytes unread is reset,
-    /// and the client would lose the reply that it has not read yet.
+    /// Writes a reply as far as all the replies that wait for their readers are not too much.
+    asio::awaitable<bool> writeWithin(const HttpReply &reply, const HttpRequest &request)
+    {
+        const std::size_t size = reply.body.size();
+        if (m_connections.replyBytes + size > HttpLimit::replies) {
+            const HttpReply refusal =
+                m_handler.refuse(HttpFault::Overloaded, request.target.substr(0, 1024));
+            co_return co_await write(refusal, false) && m_isKept;
+        }
+        m_connections.replyBytes += size;
+        const bool isWritten = co_await write(reply, request.method == "HEAD");
+        m_connections.replyBytes -= size;
+        co_return isWritten &&m_isKept;
+    }
+
+    /// Reads on for a while after a refusal. A connection that is closed with bytes unread is
+    /// reset, and the client would lose the reply that it has not read yet.
     asio::awaitable<void> drain()
     {
         static std::array<char, 16 * 1024> nobodyReadsThis;
@@ -311,8 +274,8 @@ private:
         m_connection.socket.shutdown(tcp::socket::shutdown_send, ignored);
         bool goesOn = true;
         for (std::size_t sum = 0; goesOn && sum < HttpLimit::drained;) {
-            auto [error, count] = co_await m_connection.socket.async_read_some(
-                asio::buffer(nobodyReadsThis), token);
+            auto [error, count] =
+                co_await m_connection.socket.async_read_some(asio::buffer(nobodyReadsThis), token);
             sum += count;
             goesOn = !error;
         }

@@ -149,8 +149,8 @@ private:
                 co_await m_pause.async_wait(token);
             } else if (m_connections.makeRoom()) {
                 asio::co_spawn(m_context,
-                               converse(std::move(socket), m_tls ? &*m_tls : nullptr,
-                                        m_connections, m_settings, m_handler),
+                               converse(std::move(socket), m_tls ? &*m_tls : nullptr, m_connections,
+                                        m_settings, m_handler),
                                asio::detached);
             }
         }

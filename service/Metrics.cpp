@@ -5,8 +5,8 @@
 void Metrics::count(std::string_view operation, Status status, std::chrono::nanoseconds duration)
 {
     const auto known = std::ranges::find(operations, operation);
-    const auto row = known == operations.end() ? operations.size() - 1
-                                               : std::size_t(known - operations.begin());
+    const auto row =
+        known == operations.end() ? operations.size() - 1 : std::size_t(known - operations.begin());
     ++m_counts[row][std::size_t(status)];
     m_nanoseconds += duration.count();
 }
@@ -28,8 +28,8 @@ std::string Metrics::text(int connections) const
     lines += "# HELP toolvane_records_request_seconds Time from a request's headers to its reply.\n"
              "# TYPE toolvane_records_request_seconds summary\n"
              "toolvane_records_request_seconds_sum "
-        + std::to_string(double(m_nanoseconds) * 1e-9)
-        + "\ntoolvane_records_request_seconds_count " + std::to_string(sum)
+        + std::to_string(double(m_nanoseconds) * 1e-9) + "\ntoolvane_records_request_seconds_count "
+        + std::to_string(sum)
         + "\n# HELP toolvane_records_connections Open connections.\n"
           "# TYPE toolvane_records_connections gauge\ntoolvane_records_connections "
         + std::to_string(connections) + "\n";

@@ -95,16 +95,17 @@ void RecordService::hash(Credentials credentials, HttpRequest &request,
         --m_waitingHashes;
         return respond(replyTo(request, {}, {Status::NotNow, "too many log in, try again later"}));
     }
-    asio::post(*m_hashing, [this, credentials = std::move(credentials), &request,
-                     respond = std::move(respond)] {
-        const auto role = m_accounts.check(credentials, request.clientAddress);
-        --m_waitingHashes;
-        if (!role)
-            return respond(unknownAccount(request));
-        request.account = credentials.name;
-        request.mayWrite = *role == Role::Writer;
-        respond(std::nullopt);
-    });
+    asio::post(
+        *m_hashing,
+        [this, credentials = std::move(credentials), &request, respond = std::move(respond)] {
+            const auto role = m_accounts.check(credentials, request.clientAddress);
+            --m_waitingHashes;
+            if (!role)
+                return respond(unknownAccount(request));
+            request.account = credentials.name;
+            request.mayWrite = *role == Role::Writer;
+            respond(std::nullopt);
+        });
 }
 
 /// The same, after the same time, whether the name or the password is wrong.
@@ -183,8 +184,8 @@ Parsed<Change> writing(const RecordQuery &query, std::string_view body)
 void RecordService::change(HttpRequest &request, const RecordQuery &query, Respond respond)
 {
     const Subject subject{operationName(query.operation), query.table->name};
-    auto change = query.operation == Operation::Delete ? deletion(query)
-                                                       : writing(query, request.body);
+    auto change =
+        query.operation == Operation::Delete ? deletion(query) : writing(query, request.body);
     if (const auto *fault = std::get_if<Outcome>(&change))
         return respond(replyTo(request, subject, *fault));
     m_engine.change(std::move(std::get<Change>(change)),
@@ -206,14 +207,15 @@ void RecordService::select(HttpRequest &request, const RecordQuery &query, Respo
         --m_waitingSelects;
         return respond(replyTo(request, subject, {Status::NotNow, "too many selects wait"}));
     }
-    asio::post(*m_readers, [this, &request, subject, selection = std::move(selection),
-                     respond = std::move(respond)] {
-        auto result = m_engine.select(selection);
-        --m_waitingSelects;
-        if (const auto *fault = std::get_if<Outcome>(&result))
-            return respond(replyTo(request, subject, *fault));
-        respond(found(request, subject, std::move(std::get<std::string>(result))));
-    });
+    asio::post(
+        *m_readers,
+        [this, &request, subject, selection = std::move(selection), respond = std::move(respond)] {
+            auto result = m_engine.select(selection);
+            --m_waitingSelects;
+            if (const auto *fault = std::get_if<Outcome>(&result))
+                return respond(replyTo(request, subject, *fault));
+            respond(found(request, subject, std::move(std::get<std::string>(result))));
+        });
 }
 
 HttpReply RecordService::found(const HttpRequest &request, const Subject &subject,
@@ -249,8 +251,11 @@ HttpReply RecordService::refuse(HttpFault fault, std::string_view beginning)
 {
     std::string_view target = beginning.substr(std::min(beginning.find('/'), beginning.size()));
     target = target.substr(0, target.find(' '));
-    return replyTo({.method = {}, .target = std::string(target), .authorization = {},
-                    .clientAddress = {}, .begin = Accounts::Clock::now()},
+    return replyTo({.method = {},
+                    .target = std::string(target),
+                    .authorization = {},
+                    .clientAddress = {},
+                    .begin = Accounts::Clock::now()},
                    {}, outcomeOf(fault));
 }
 
@@ -259,11 +264,10 @@ HttpReply RecordService::replyTo(const HttpRequest &request, const Subject &subj
 {
     log(request, subject, outcome.status);
     const std::string text = outcome.text(); // words of ours, nothing to escape
-    return isSelect(request)
-        ? HttpReply{.status = outcome.httpStatus,
-                    .body = "{\"RESULT\":[],\"ERROR\":\"" + text + "\"}",
-                    .contentType = "application/json"}
-        : HttpReply{.status = outcome.httpStatus, .body = text + "\n"};
+    return isSelect(request) ? HttpReply{.status = outcome.httpStatus,
+                                         .body = "{\"RESULT\":[],\"ERROR\":\"" + text + "\"}",
+                                         .contentType = "application/json"}
+                             : HttpReply{.status = outcome.httpStatus, .body = text + "\n"};
 }
 
 HttpReply RecordService::bare(const HttpRequest &request, std::string_view operation,

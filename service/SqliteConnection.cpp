@@ -23,8 +23,7 @@ void bind(sqlite3_stmt *statement, int place, const Value &value)
         sqlite3_bind_int64(statement, place, *number);
     } else {
         const auto &text = std::get<std::string>(value);
-        sqlite3_bind_text64(statement, place, text.data(), text.size(), SQLITE_STATIC,
-                            SQLITE_UTF8);
+        sqlite3_bind_text64(statement, place, text.data(), text.size(), SQLITE_STATIC, SQLITE_UTF8);
     }
 }
 
@@ -55,8 +54,8 @@ int SqliteStatement::step()
 
 std::unique_ptr<SqliteConnection> SqliteConnection::open(const std::string &path, Access access)
 {
-    const int flags = access == Access::Read ? SQLITE_OPEN_READONLY
-                                             : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    const int flags =
+        access == Access::Read ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     sqlite3 *database = nullptr;
     const int code = sqlite3_open_v2(path.c_str(), &database, flags | SQLITE_OPEN_NOMUTEX, nullptr);
     const bool isReader = access == Access::Read;

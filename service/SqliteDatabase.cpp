@@ -31,7 +31,8 @@ bool isReadable(SqliteConnection &connection)
 /// Looks with a connection that cannot write.
 bool isAcceptable(const std::string &path)
 {
-    struct stat status{};
+    struct stat status {
+    };
     if (stat(path.c_str(), &status) != 0 || status.st_size == 0)
         return true; // to be made
     const auto connection = SqliteConnection::open(path, SqliteConnection::Access::Read);
@@ -58,7 +59,8 @@ bool hasOurColumns(SqliteConnection &connection, const TableSchema &table)
     const SqlText text{"SELECT name FROM pragma_table_info('" + table.name + "') ORDER BY cid", {}};
     SqliteStatement statement = connection.prepare(text);
     while (statement.step() == SQLITE_ROW)
-        names.append(reinterpret_cast<const char *>(sqlite3_column_text(statement.get(), 0))) += ' ';
+        names.append(reinterpret_cast<const char *>(sqlite3_column_text(statement.get(), 0))) +=
+            ' ';
     for (const ColumnSchema &column : table.columns)
         ours += column.name + ' ';
     if (names == ours)
@@ -76,14 +78,13 @@ bool makeTables(SqliteConnection &connection, const std::vector<TableSchema> &ta
             return false;
     }
     const std::string version = "PRAGMA user_version=" + std::to_string(currentVersion);
-    return connection.run(version.c_str()) == SQLITE_OK
-        && connection.run("COMMIT") == SQLITE_OK;
+    return connection.run(version.c_str()) == SQLITE_OK && connection.run("COMMIT") == SQLITE_OK;
 }
 
 } // namespace
 
-std::unique_ptr<SqliteConnection> SqliteDatabase::openWriter(
-    const std::string &path, const std::vector<TableSchema> &tables)
+std::unique_ptr<SqliteConnection> SqliteDatabase::openWriter(const std::string &path,
+                                                             const std::vector<TableSchema> &tables)
 {
     if (!isAcceptable(path))
         return nullptr;

@@ -6,12 +6,12 @@
 
 #include <QByteArrayView>
 
+#include <fcntl.h>
 #include <sqlite3.h>
 #include <sys/file.h>
 
-#include <fcntl.h>
-
 #include <cstring>
+#include <filesystem>
 
 namespace
 {
@@ -55,8 +55,7 @@ int skip(SqliteStatement &statement, std::int64_t count)
     return SQLITE_DONE;
 }
 
-int readPage(SqliteStatement &statement, const TableSchema &table, const Page &page,
-             JsonRows &rows)
+int readPage(SqliteStatement &statement, const TableSchema &table, const Page &page, JsonRows &rows)
 {
     int code = skip(statement, page.from);
     for (int i = -2; i < page.step && code == SQLITE_DONE && !rows.isTooLong(); ++i) {
@@ -90,10 +89,13 @@ Parsed<std::string> resultOf(int code, JsonRows &rows, const SqliteConnection &r
 
 } // namespace
 
-std::unique_ptr<SqliteEngine> SqliteEngine::open(const std::string &path,
+std::unique_ptr<SqliteEngine> SqliteEngine::open(const std::string &name,
                                                  const std::vector<TableSchema> &tables,
                                                  std::string &fault)
 {
+    // Whatever links lead to the file, there is one lock.
+    std::error_code error;
+    const std::string path = std::filesystem::weakly_canonical(name, error).string();
     const std::string lockPath = path + ".lock";
     FileDescriptor lock(
         ::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR));
@@ -129,8 +131,8 @@ Parsed<std::string> SqliteEngine::select(const Selection &selection)
 
 std::optional<std::string> SqliteEngine::selectAtOnce(const Selection &selection)
 {
-    auto reader = selection.clause.condition.isOneKey() && !selection.page ? takeIdleReader()
-                                                                           : nullptr;
+    auto reader =
+        selection.clause.condition.isOneKey() && !selection.page ? takeIdleReader() : nullptr;
     if (!reader)
         return std::nullopt;
     reader->setWaiting(false);

@@ -3,15 +3,15 @@
 #include "FileDescriptor.h"
 #include "SqliteWriter.h"
 
-/// Keeps the records in an SQLite file. A file that cannot be used (locked, damaged, made by a newer
-/// version) is tried again with later requests; nobody has to start the service anew.
+/// Keeps the records in an SQLite file. A file that cannot be used (locked, damaged, made by a
+/// newer version) is tried again with later requests; nobody has to start the service anew.
 class SqliteEngine : public Engine
 {
 public:
-    /// Null if another service uses the file, or if its folder cannot be written; `fault` then says which.
-    static std::unique_ptr<SqliteEngine> open(const std::string &path,
-                                              const std::vector<TableSchema> &tables,
-                                              std::string &fault);
+    /// Null if another service uses the file, or if its folder cannot be written; `fault` then says
+    /// which.
+    static std::unique_ptr<SqliteEngine>
+    open(const std::string &path, const std::vector<TableSchema> &tables, std::string &fault);
 
     void change(Change change, std::function<void(Outcome)> done) override;
     Parsed<std::string> select(const Selection &selection) override;

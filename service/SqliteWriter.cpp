@@ -22,8 +22,7 @@ Outcome notNow()
 
 SqliteWriter::SqliteWriter(std::string path, const std::vector<TableSchema> &tables)
     : m_path(std::move(path)), m_tables(tables),
-      m_database(SqliteDatabase::openWriter(m_path, m_tables)),
-      m_thread(&SqliteWriter::run, this)
+      m_database(SqliteDatabase::openWriter(m_path, m_tables)), m_thread(&SqliteWriter::run, this)
 {
 }
 

@@ -64,7 +64,8 @@ int TableSchema::columnNamed(std::string_view column) const
 std::vector<TableSchema> TableSchema::readAll()
 {
     std::vector<TableSchema> tables;
-    const QStringList names = QDir(u":/schema"_s).entryList({u"*.plist"_s}, QDir::Files, QDir::Name);
+    const QStringList names =
+        QDir(u":/schema"_s).entryList({u"*.plist"_s}, QDir::Files, QDir::Name);
     for (const QString &name : names)
         tables.push_back(tableOf(name.chopped(qsizetype(sizeof ".plist") - 1)));
     return tables;

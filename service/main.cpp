@@ -12,7 +12,6 @@
 #include <sys/stat.h>
 #include <sys/un.h>
 #include <sysexits.h>
-
 #include <unistd.h>
 
 #include <csignal>

@@ -1,12 +1,11 @@
 #include "Peers.h"
 
 #include <arpa/inet.h>
+#include <fcntl.h>
 #include <netinet/tcp.h>
 #include <spawn.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
-
-#include <fcntl.h>
 
 #include <array>
 #include <csignal>
@@ -87,8 +86,8 @@ std::string HttpClient::receive()
         const std::size_t head = m_came.find("\r\n\r\n");
         if (head != m_came.npos) {
             const std::size_t mark = m_came.find(lengthMark);
-            const std::size_t length = std::strtoul(
-                m_came.c_str() + mark + lengthMark.size(), nullptr, 10);
+            const std::size_t length =
+                std::strtoul(m_came.c_str() + mark + lengthMark.size(), nullptr, 10);
             if (m_came.size() >= head + 4 + length) {
                 std::string reply = m_came.substr(0, head + 4 + length);
                 m_came.erase(0, reply.size());

@@ -44,8 +44,7 @@ asio::awaitable<void> accept(tcp::acceptor &acceptor, std::string reply)
         if (error)
             co_return;
         socket.set_option(tcp::no_delay(true));
-        asio::co_spawn(acceptor.get_executor(), converse(std::move(socket), reply),
-                       asio::detached);
+        asio::co_spawn(acceptor.get_executor(), converse(std::move(socket), reply), asio::detached);
     }
 }
 

@@ -1,12 +1,11 @@
 // What the record service costs: against a bare handler of its HTTP library, against SQLite used by
-// hand, and how it grows. Runs in a folder of its own, see tests/support/isolated; ends with 1 when a
-// limit is passed.
+// hand, and how it grows. Runs in a folder of its own, see tests/support/isolated; ends with 1 when
+// a limit is passed.
 
 #include "AccountFile.h"
 #include "Peers.h"
 #include "Ratio.h"
 #include "SqliteEngine.h"
-
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -54,9 +53,11 @@ sqlite3 *filled(const std::string &path, int count)
     sqlite3_open(path.c_str(), &database);
     const std::string sql =
         "PRAGMA synchronous=OFF; DELETE FROM User; WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL "
-        "SELECT i+1 FROM n WHERE i<" + std::to_string(count) + ") INSERT INTO User SELECT i, 0, "
-        "i%10, 'user%20' || i, 'secret' || i, 'a memo of some length ' || i FROM n;"
-        "PRAGMA synchronous=FULL";
+        "SELECT i+1 FROM n WHERE i<"
+        + std::to_string(count)
+        + ") INSERT INTO User SELECT i, 0, "
+          "i%10, 'user%20' || i, 'secret' || i, 'a memo of some length ' || i FROM n;"
+          "PRAGMA synchronous=FULL";
     expect(sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK, "fill");
     return database;
 }
@@ -66,8 +67,14 @@ std::vector<std::string> serving(const Place &place)
     expect(AccountFile(place.path("accounts"))
                .write({{"bench", {Role::Writer, passwordHash("bench")}}}),
            "accounts");
-    return {TOOLVANE_BUILD_DIR "/bin/toolvane-records", "serve", "--listen", "127.0.0.1:0",
-            "--database", "sqlite:" + place.path("records"), "--accounts", place.path("accounts")};
+    return {TOOLVANE_BUILD_DIR "/bin/toolvane-records",
+            "serve",
+            "--listen",
+            "127.0.0.1:0",
+            "--database",
+            "sqlite:" + place.path("records"),
+            "--accounts",
+            place.path("accounts")};
 }
 
 /// What a server needs for a number of requests of eight clients that wait for each reply.
@@ -94,19 +101,18 @@ bool selectsByKey(const Place &place)
     sqlite3_close(filled(place.path("records"), 1000));
     const std::string request = recordRequest("User?OPERATION=SELECT&CLAUSE=ID=7");
     const ServerProcess ours(serving(place));
-    const ServerProcess bare(
-        {TOOLVANE_BUILD_DIR "/benchmarks/bare_handler", [&] {
-             HttpClient client(ours.port());
-             client.send(request);
-             return client.receive();
-         }()});
+    const ServerProcess bare({TOOLVANE_BUILD_DIR "/benchmarks/bare_handler", [&] {
+                                  HttpClient client(ours.port());
+                                  client.send(request);
+                                  return client.receive();
+                              }()});
     const auto turns = Turns<double>::taken(
         7, [&] { return serverTime(ours, request); }, [&] { return serverTime(bare, request); });
     return Row{.work = "select by ID, with a bare handler",
                .figure = turns.ratio([](double time) { return time; }),
                .limit = 2.0,
-               .detail = against(median(turns.ours) / 8e3 * 1e6, median(turns.peers) / 8e3 * 1e6,
-                                 "us")}
+               .detail =
+                   against(median(turns.ours) / 8e3 * 1e6, median(turns.peers) / 8e3 * 1e6, "us")}
         .print();
 }
 
@@ -184,8 +190,10 @@ double rawInsertTime(sqlite3 *database, int &number)
     constexpr int count = 200;
     const auto begin = Clock::now();
     for (int i = 0; i < count; ++i) {
-        const std::string sql = "INSERT INTO User(ShopID,UserGroupID,User,Password,Memo) VALUES(0,1,"
-                                "'new" + std::to_string(++number) + "','secret','')";
+        const std::string sql =
+            "INSERT INTO User(ShopID,UserGroupID,User,Password,Memo) VALUES(0,1,"
+            "'new"
+            + std::to_string(++number) + "','secret','')";
         expect(sqlite3_exec(database, sql.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK, "raw");
     }
     return Milliseconds(Clock::now() - begin).count() / count;
@@ -199,7 +207,8 @@ bool insertsTogether(const Place &place)
     int number = 0;
     int rawNumber = 0;
     const auto turns = Turns<double>::taken(
-        7, [&] { return insertTime(server, number); }, [&] { return rawInsertTime(raw, rawNumber); });
+        7, [&] { return insertTime(server, number); },
+        [&] { return rawInsertTime(raw, rawNumber); });
     sqlite3_close(raw);
     return Row{.work = "a durable insert of 32 clients, with raw",
                .figure = turns.ratio([](double time) { return time; }),
@@ -221,12 +230,14 @@ bool findsInManyRecords(const Place &place)
             rounds.push_back(Ratio::seconds([&] {
                 for (int i = 0; i < 2000; ++i) {
                     auto clause = Clause::parse(
-                        userTable(), "User='user%20" + std::to_string(i % 500 * (count / 500) + 1)
-                            + "'");
-                    expect(std::get<std::string>(engine->select(
-                               {&userTable(), std::move(std::get<Clause>(clause)), {}}))
-                                   .size() > 60,
-                           "found");
+                        userTable(),
+                        "User='user%20" + std::to_string(i % 500 * (count / 500) + 1) + "'");
+                    expect(
+                        std::get<std::string>(
+                            engine->select({&userTable(), std::move(std::get<Clause>(clause)), {}}))
+                                .size()
+                            > 60,
+                        "found");
                 }
             }));
         times.push_back(median(rounds) / 2000 * 1e6);

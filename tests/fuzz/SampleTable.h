@@ -7,13 +7,12 @@
 /// The application's table of users, without reading its description.
 inline const std::vector<TableSchema> &sampleTables()
 {
-    static const std::vector<TableSchema> tables = {
-        {"User",
-         {{"ID", ColumnKind::Integer, ""},
-          {"UserGroupID", ColumnKind::Integer, ""},
-          {"User", ColumnKind::Text, ""}},
-         {},
-         2}};
+    static const std::vector<TableSchema> tables = {{"User",
+                                                     {{"ID", ColumnKind::Integer, ""},
+                                                      {"UserGroupID", ColumnKind::Integer, ""},
+                                                      {"User", ColumnKind::Text, ""}},
+                                                     {},
+                                                     2}};
     return tables;
 }
 

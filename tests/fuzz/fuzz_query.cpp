@@ -1,4 +1,5 @@
-// Whatever stands in an address, reading it never leaves the text, and what is read is within limits.
+// Whatever stands in an address, reading it never leaves the text, and what is read is within
+// limits.
 
 #include "RecordQuery.h"
 #include "SampleTable.h"

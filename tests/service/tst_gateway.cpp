@@ -92,10 +92,10 @@ private Q_SLOTS:
         QCOMPARE(first.UserGroupID, 7);
         first.Memo = u"changed"_s;
         QVERIFY(users.update(first));
-        QCOMPARE(users.select("Memo = 'changed' AND UserGroupID IN (7,8)", UserSchema{})->size(), 1);
+        QCOMPARE(users.select("Memo = 'changed' AND UserGroupID IN (7,8)", UserSchema{})->size(),
+                 1);
         QVERIFY(users.delete_("ID=1"));
-        QCOMPARE(names(users, u"1=1 ORDER BY ID DESC"_s),
-                 QStringList({odd[3], odd[2], odd[1]}));
+        QCOMPARE(names(users, u"1=1 ORDER BY ID DESC"_s), QStringList({odd[3], odd[2], odd[1]}));
     }
 
     void refusalsAreNoSuccess()
