@@ -22,13 +22,13 @@ def _add(parent, tag, text=None, **attributes):
 
 
 def _date_after(earlier):
-    """Now, but always later than the feed that is replaced: programs refuse an older one."""
+    """Now, but always later than the replaced feed: programs refuse an older one."""
     now = datetime.datetime.now(datetime.timezone.utc).replace(microsecond=0)
     return max(now, earlier + datetime.timedelta(seconds=1)) if earlier else now
 
 
 def date_of(path):
-    """The date of a feed that was built before; None when there is none."""
+    """The date of the feed that was built before; None if there is none."""
     if not os.path.exists(path):
         return None
     text = ElementTree.parse(path).findtext("channel/lastBuildDate")
@@ -77,7 +77,7 @@ def _add_item(channel, version, files, address, key):
 
 
 def build(versions, files, address, key, earlier, days):
-    """The feed's bytes: its XML and, as the last line, the signature over all before."""
+    """The feed's bytes: its XML, with the signature of everything before as the last line."""
     date = _date_after(earlier)
     rss = ElementTree.Element("rss", {"version": "2.0"})
     channel = _add(rss, "channel")
