@@ -44,10 +44,10 @@ bool download(const QStringList &arguments)
                           .signature = QByteArray::fromBase64(arguments[3].toLatin1())};
     std::atomic<qint64> received = 0;
     sayBegin();
-    const FetchedFile file = fetchFile(item, QByteArray::fromBase64(arguments[2].toLatin1()),
-                                       arguments[4], received, {});
-    qInfo().noquote() << file.problem.detail;
-    return !file.path.isEmpty();
+    const FetchedFile fetched = fetchFile(item, QByteArray::fromBase64(arguments[2].toLatin1()),
+                                          arguments[4], received, {});
+    qInfo().noquote() << fetched.problem.detail;
+    return !fetched.file.path.isEmpty();
 }
 
 bool grant(const QStringList &)
