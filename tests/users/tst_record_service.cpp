@@ -9,6 +9,7 @@
 
 #include <QAccessible>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include <atomic>
@@ -122,6 +123,8 @@ class TestRecordService : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(u"secret"_s)); }
+
     void loginAndPagesUseTheService()
     {
         RecordsTrial trial;

@@ -123,6 +123,7 @@ void AbstractViewController::refresh()
 void AbstractViewController::setStorable(bool isStorable)
 {
     m_isStorable = isStorable;
+    table->setEmptyText(isStorable ? qtTrId("Records.Empty") : QString());
     page->buttons->setEnabled(isStorable);
     panelParts->saveButton->setEnabled(isStorable && m_isSaveAllowed);
     if (auto *question = findChild<QMessageBox *>(deleteQuestionName))

@@ -81,6 +81,7 @@ void RecordWindow::watchService(const QString &address)
 {
     auto *bar = new ServiceBar(address);
     ui->windowLayout->insertWidget(0, bar);
+    ui->windowLayout->setStretchFactor(ui->pages, 1);
     connect(bar, &ServiceBar::reachableChanged, this, [this](bool isReachable) {
         for (int i = 0; i < ui->pages->count(); ++i)
             static_cast<AbstractViewController *>(ui->pages->widget(i))->setStorable(isReachable);

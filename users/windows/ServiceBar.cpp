@@ -20,7 +20,7 @@ namespace
 
 constexpr int maxPlaceWidth = 400; // a longer address loses its middle
 constexpr auto maxCheckTime = 10s;
-constexpr QMargins margins(12, 6, 12, 6);
+constexpr QMargins margins(24, 12, 24, 0); // under each other: this line, the tabs, the pages
 
 /// Kept from left to right also in a sentence from right to left. An "@" in it may end a password
 /// that holds an unescaped slash.
@@ -40,6 +40,7 @@ QLabel *line(QLabel *label, const QString &text)
 {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    label->setContentsMargins(margins);
     label->setText(text);
     return label;
 }
@@ -55,7 +56,6 @@ ServiceBar::ServiceBar(const QString &address, QWidget *parent)
     m_placeLine->setObjectName(u"servicePlaceLabel"_s);
     m_lostLine->setObjectName(u"serviceLostLabel"_s);
     m_lostLine->setForegroundRole(QPalette::BrightText);
-    m_lines->setContentsMargins(margins);
     m_lines->addWidget(m_placeLine);
     m_lines->addWidget(m_lostLine);
     connect(&m_timer, &QTimer::timeout, this, &ServiceBar::check);
