@@ -8,12 +8,6 @@
 
 using namespace Qt::StringLiterals;
 
-// The user's settings first, then what was compiled in.
-static QString webSiteAddress()
-{
-    return QSettings().value("Addresses/WebSite"_L1, QLatin1String(TOOLVANE_WEB_SITE)).toString();
-}
-
 void AppDelegate::applicationDidFinishLaunching()
 {
     MiscTool::showWindow(window);
@@ -22,5 +16,6 @@ void AppDelegate::applicationDidFinishLaunching()
 
 void AppDelegate::goWebsite()
 {
-    QDesktopServices::openUrl(QUrl(webSiteAddress()));
+    const QLatin1String compiledIn(TOOLVANE_WEB_SITE);
+    QDesktopServices::openUrl(QSettings().value("Addresses/WebSite"_L1, compiledIn).toUrl());
 }

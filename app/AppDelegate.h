@@ -8,7 +8,8 @@ class QToolBar;
 class QWidget;
 
 /// The application's delegate. Its outlets are the windows and the main window's parts, set by
-/// MainWindow::connectOutlets() and Application; it owns none of them.
+/// MainWindow::connectOutlets() and Application; it owns none of them, and they are null before.
+/// Interface thread only.
 class AppDelegate : public QObject
 {
     Q_OBJECT
@@ -17,10 +18,14 @@ public:
     using QObject::QObject;
 
     QToolBar *toolbar = nullptr;
-    QAction *appNameItem = nullptr; ///< Carries the application's name in the toolbar.
-    ContainerBox *container = nullptr; ///< The main window's page area.
-    QWidget *window = nullptr; ///< The main window.
-    QWidget *loginWindow = nullptr; ///< May be missing.
+    /// Carries the application's name in the toolbar.
+    QAction *appNameItem = nullptr;
+    /// The main window's page area, and the parent of all pages.
+    ContainerBox *container = nullptr;
+    /// The main window.
+    QWidget *window = nullptr;
+    /// May stay null: then there is none to hide.
+    QWidget *loginWindow = nullptr;
 
     /// Shows the main window and hides the login window: the tools need no login.
     void applicationDidFinishLaunching();

@@ -24,7 +24,9 @@ public:
     /// texts of the user's language. Call once, before any window is made.
     static void prepare();
 
-    /// Shows the window, with a tool's page if the argument is its command name.
+    /// Takes the address of the web service from the settings and shows the window, with a
+    /// tool's page if the argument is its command name. Call once. The icon of the window follows a
+    /// moment later, so that the first paint need not wait for it.
     void start(const QString &page = {});
     /// Brings the window to the front for a later start of the program, and opens the page if its
     /// name is a tool's. Returns false and does nothing if the window is closed already.

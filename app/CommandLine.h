@@ -5,12 +5,14 @@
 
 #include <optional>
 
-/// The program's arguments, parsed and checked. Opens no window and prints nothing.
+/// The program's arguments, parsed and checked. Opens no window and prints nothing: what the user
+/// is to read is returned, in the user's language.
 class CommandLine
 {
 public:
     /// Whether the program is only to print a text (help, version), which must work without a
-    /// screen.
+    /// screen. It looks at `main()`'s own arguments, because the application object that parses
+    /// them depends on the answer: one with windows, or one without.
     static bool asksForText(int argc, char **argv);
 
     /// Takes QCoreApplication::arguments(): the program's name first, Qt's own options removed.

@@ -5,7 +5,7 @@
 
 /// The main window's page area: a frame with one replaceable content view. A view that is replaced
 /// stays alive, hidden, with everything that was typed into it. A view that does not fit can be
-/// scrolled, and its mnemonics are kept unique.
+/// scrolled, and its mnemonics are kept unique. Interface thread only.
 class ContainerBox : public QStackedWidget
 {
     Q_OBJECT

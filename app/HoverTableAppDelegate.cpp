@@ -110,8 +110,10 @@ void HoverTableAppDelegate::showRunningJobs()
     for (int row = 0; row < m_viewItems.size(); ++row) {
         if (HoverTableRowView *rowView = m_tableView.rowView(row))
             rowView->setRunning(isRunning(row));
-        Q_EMIT dataChanged(index(row), index(row), {Qt::AccessibleDescriptionRole});
     }
+    if (!m_viewItems.isEmpty())
+        Q_EMIT dataChanged(index(0), index(numberOfRowsInTableView() - 1),
+                           {Qt::AccessibleDescriptionRole});
 }
 
 bool HoverTableAppDelegate::isRunning(int row) const

@@ -12,7 +12,7 @@ struct RunningJob;
 
 /// The sidebar's data source and delegate, and the owner of the tool pages: it makes each page
 /// once, in the order of the list, and puts the page of the chosen row into the main window's
-/// container.
+/// container. Interface thread only.
 class HoverTableAppDelegate : public QAbstractListModel
 {
     Q_OBJECT
@@ -32,12 +32,13 @@ public:
     /// replaced again.
     static NaviItem getNaviItem(const QString &name, const QString &image);
 
+    /// All rows must be in range: 0 up to this number.
     int numberOfRowsInTableView() const { return static_cast<int>(m_naviItems.size()); }
     NaviItem objectValueForTableColumn(int row) const { return m_naviItems.at(row); }
     /// Makes the selected row's name bold and shows its page.
     void tableViewSelectionDidChange();
 
-    /// The page of a row, owned by the container.
+    /// The page of a row, owned by the container. Not after closePages().
     QWidget *viewItem(int row) const { return m_viewItems.at(row); }
     void selectTool(int row); ///< As if the user had clicked it.
     /// Selects the tool whose page has this name: its class name, as in JobDescription::page.

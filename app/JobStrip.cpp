@@ -1,12 +1,20 @@
 #include "JobStrip.h"
 
-#include "JobRow.h"
+#include "NamedImage.h"
+#include "PlainToolTip.h"
 
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QStyleOptionButton>
+#include <QStylePainter>
 #include <QVBoxLayout>
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace
@@ -14,8 +22,157 @@ namespace
 
 constexpr std::chrono::milliseconds showDelay = 300ms;
 constexpr std::size_t maxVisibleRows = 3;
+constexpr int sideMargin = 8;
+constexpr int stopSize = 32;
+constexpr int stopIconSize = 18;
+constexpr int textMargin = 10;
+constexpr int topMargin = 5;
+constexpr int gap = 8;
+
+// Names the job: its title and how long it has run, and below them what it is done to, shortened in
+// the middle. What it says can change every second without any layout being done again.
+class JobRowButton : public QPushButton
+{
+public:
+    JobRowButton(const QString &title, const QString &subject, QWidget *parent)
+        : QPushButton(parent), m_title(title), m_subject(subject)
+    {
+        setFlat(true);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        setAccessibleName(subject.isEmpty() ? title : title + u": "_s + subject);
+        const QString tip = qtTrId("Jobs.Show.Tip");
+        setToolTip(plainToolTip(subject.isEmpty() ? tip : subject + u'\n' + tip));
+    }
+
+    void setElapsed(const QString &elapsed)
+    {
+        if (std::exchange(m_elapsed, elapsed) != elapsed)
+            update();
+    }
+
+    QSize minimumSizeHint() const override { return {0, 2 * (fontMetrics().height() + topMargin)}; }
+    QSize sizeHint() const override;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QString m_title;
+    QString m_subject;
+    QString m_elapsed;
+};
+
+QSize JobRowButton::sizeHint() const
+{
+    const int widest = std::max(fontMetrics().horizontalAdvance(m_title + m_elapsed) + gap,
+                                fontMetrics().horizontalAdvance(m_subject));
+    return {widest + 2 * textMargin, minimumSizeHint().height()};
+}
+
+// Set when the focus comes, not every second: a screen reader would read out the seconds.
+void JobRowButton::focusInEvent(QFocusEvent *event)
+{
+    setAccessibleDescription(m_elapsed + u". "_s + qtTrId("Jobs.Show.Tip"));
+    QPushButton::focusInEvent(event);
+}
+
+void JobRowButton::paintEvent(QPaintEvent *)
+{
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    QStylePainter painter(this);
+    painter.drawControl(QStyle::CE_PushButtonBevel, option);
+    const QRect inner = rect().adjusted(textMargin, topMargin, -textMargin, -topMargin);
+    QRect line = inner;
+    line.setHeight(inner.height() / 2);
+    const auto draw = [&](const QString &text, Qt::Alignment side, QPalette::ColorRole role) {
+        const auto flags = QStyle::visualAlignment(option.direction, side | Qt::AlignVCenter);
+        // A path reads from left to right in a window that does not.
+        const int direction =
+            text.isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
+        painter.drawItemText(line, static_cast<int>(flags) | Qt::TextSingleLine | direction,
+                             option.palette, true, text, role);
+    };
+    draw(m_elapsed, Qt::AlignRight, QPalette::PlaceholderText);
+    const int room = inner.width() - fontMetrics().horizontalAdvance(m_elapsed) - gap;
+    draw(fontMetrics().elidedText(m_title, Qt::ElideRight, room), Qt::AlignLeft,
+         QPalette::WindowText);
+
+    line.moveBottom(inner.bottom());
+    draw(fontMetrics().elidedText(m_subject, Qt::ElideMiddle, inner.width()), Qt::AlignLeft,
+         QPalette::PlaceholderText);
+}
 
 } // namespace
+
+// One running job: a button that names the job and leads to its page, and a button that stops it.
+// It shows the job as it was at first; the row does not follow the list.
+class JobRow : public QWidget
+{
+public:
+    JobRow(const RunningJob &job, JobList &jobs, JobStrip &strip);
+
+    JobId id() const { return m_id; }
+    void showElapsed() { m_button->setElapsed(elapsedText(m_started.elapsed())); }
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPushButton *makeStopButton(const QString &title, JobList &jobs);
+
+    JobId m_id;
+    QElapsedTimer m_started;
+    JobRowButton *m_button;
+};
+
+JobRow::JobRow(const RunningJob &job, JobList &jobs, JobStrip &strip)
+    : m_id(job.id), m_started(job.started),
+      m_button(new JobRowButton(job.description.title, job.description.subject, this))
+{
+    connect(m_button, &QPushButton::clicked, &strip,
+            [&strip, page = job.description.page] { Q_EMIT strip.pageWanted(page); });
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_button, 1);
+    layout->addWidget(makeStopButton(job.description.title, jobs));
+    showElapsed();
+}
+
+QPushButton *JobRow::makeStopButton(const QString &title, JobList &jobs)
+{
+    auto *button = new QPushButton(this);
+    button->setFlat(true);
+    button->setIcon(namedImage(u"stop"_s));
+    button->setIconSize({stopIconSize, stopIconSize});
+    button->setFixedSize(stopSize, stopSize);
+    button->setToolTip(qtTrId("Jobs.Stop"));
+    button->setAccessibleName(qtTrId("Jobs.Stop.Name").arg(title));
+    connect(button, &QPushButton::clicked, &jobs, [&jobs, button, id = m_id] {
+        button->setEnabled(false); // the run may take some seconds to end
+        jobs.stop(id);
+    });
+    return button;
+}
+
+// Qt gives Return to a dialog's default button only.
+void JobRow::keyPressEvent(QKeyEvent *event)
+{
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    if (button && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
+        button->click();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void JobRow::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(0, 0, width(), 1, palette().color(QPalette::Midlight));
+}
 
 JobStrip::JobStrip(QWidget *parent) : QScrollArea(parent)
 {
@@ -87,9 +244,7 @@ void JobStrip::addRows()
 
 void JobStrip::addRow(const RunningJob &job)
 {
-    auto *row = new JobRow(job);
-    connect(row, &JobRow::pageWanted, this, &JobStrip::pageWanted);
-    connect(row, &JobRow::stopWanted, m_jobs, &JobList::stop);
+    auto *row = new JobRow(job, *m_jobs, *this);
     widget()->layout()->addWidget(row);
     m_rows.push_back(row);
 }

@@ -12,7 +12,7 @@ class JobRow;
 /// The strip below the sidebar's list that shows the running jobs. It is visible only while
 /// something runs, takes its room from the empty end of the list of tools, so that no page moves,
 /// and scrolls from the fourth row on. A job is shown after 300 ms: shorter ones would only
-/// flicker.
+/// flicker. Interface thread only.
 class JobStrip : public QScrollArea
 {
     Q_OBJECT
@@ -27,10 +27,12 @@ public:
     QSize minimumSizeHint() const override { return {0, sizeHint().height()}; }
 
 Q_SIGNALS:
-    void pageWanted(const QString &page); ///< The name of a page, as in JobDescription.
+    /// The user pressed a job's button. The name is that of JobDescription::page.
+    void pageWanted(const QString &page);
 
 private:
-    void updateRows(); ///< Makes the rows those of the list, and the strip visible or hidden.
+    /// Makes the rows those of the list, and the strip visible or hidden.
+    void updateRows();
     void removeEnded();
     void addRows();
     void addRow(const RunningJob &job);

@@ -17,7 +17,7 @@ class JobList;
 class LoginDelegate;
 
 /// The one window: toolbar, menu bar, sidebar and page area. Remembers its place and size, and asks
-/// before it closes while something runs.
+/// before it closes while something runs. Interface thread only.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
@@ -30,10 +30,11 @@ public:
     /// Fills the delegate's outlets with this window and its parts.
     void connectOutlets(AppDelegate &delegate);
     /// Lists the tools in the menu, with Ctrl+1 and so on as shortcuts, and lets the rows of the
-    /// job strip lead to their pages.
+    /// job strip lead to their pages. Call once.
     void connectTools(HoverTableAppDelegate &tools);
 
-    /// Lets the Records menu open the login window and the record pages.
+    /// Lets the Records menu open the login window and the record pages. A login closes the record
+    /// windows that are open: they belong to the user before.
     void connectRecords(LoginDelegate &login);
 
     HoverTableView &tableView() const; ///< The sidebar's list.

@@ -59,15 +59,13 @@ void Notifier::onJobEnded(const RunningJob &job, JobOutcome outcome)
 void Notifier::notify(const JobDescription &job, JobOutcome outcome)
 {
     connectToBus();
-    const Message message{
-        .summary = jobSummary(job, outcome), .body = job.subject, .page = job.page};
     auto *asked = new QDBusPendingCallWatcher(m_bus->asyncCall(callOf(u"GetCapabilities"_s)), this);
     connect(asked, &QDBusPendingCallWatcher::finished, this,
-            [this, message](QDBusPendingCallWatcher *watcher) {
+            [this, job, outcome](QDBusPendingCallWatcher *watcher) {
                 watcher->deleteLater();
                 const QDBusPendingReply<QStringList> reply = *watcher;
                 if (reply.isValid()) // else no server runs
-                    send(message, reply.value());
+                    send(job, outcome, reply.value());
             });
 }
 
@@ -85,21 +83,21 @@ void Notifier::connectToBus()
     listen(u"NotificationClosed"_s, SLOT(onNotificationClosed(uint, uint)));
 }
 
-void Notifier::send(const Message &message, const QStringList &capabilities)
+void Notifier::send(const JobDescription &job, JobOutcome outcome, const QStringList &capabilities)
 {
     const QString body =
-        capabilities.contains("body-markup"_L1) ? message.body.toHtmlEscaped() : message.body;
+        capabilities.contains("body-markup"_L1) ? job.subject.toHtmlEscaped() : job.subject;
     const QString show = qtTrId("Notice.Show");
     const QStringList actions = capabilities.contains("actions"_L1)
         ? QStringList{u"default"_s, show, u"show"_s, show}
         : QStringList();
     const QVariantMap hints{{u"desktop-entry"_s, u"toolvane"_s}};
     QDBusMessage call = callOf(u"Notify"_s);
-    call << u"Toolvane"_s << 0U << u"toolvane"_s << message.summary << body << actions << hints
-         << defaultTimeout;
+    call << u"Toolvane"_s << 0U << u"toolvane"_s << jobSummary(job, outcome) << body << actions
+         << hints << defaultTimeout;
     auto *sent = new QDBusPendingCallWatcher(m_bus->asyncCall(call), this);
     connect(sent, &QDBusPendingCallWatcher::finished, this,
-            [this, page = message.page](QDBusPendingCallWatcher *watcher) {
+            [this, page = job.page](QDBusPendingCallWatcher *watcher) {
                 watcher->deleteLater();
                 const QDBusPendingReply<uint> reply = *watcher;
                 if (reply.isValid())

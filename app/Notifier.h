@@ -45,16 +45,11 @@ private:
         QString page;
         QString activationToken;
     };
-    struct Message {
-        QString summary;
-        QString body;
-        QString page;
-    };
 
     void onJobEnded(const RunningJob &job, JobOutcome outcome);
     void notify(const JobDescription &job, JobOutcome outcome);
     void connectToBus();
-    void send(const Message &message, const QStringList &capabilities);
+    void send(const JobDescription &job, JobOutcome outcome, const QStringList &capabilities);
     Shown *shownBySender(uint id);
 
     const QWidget &m_window;

@@ -1,5 +1,5 @@
-# Run by CPack on the staged tree: takes what debuggers and compilers left out of the programs, as
-# the distribution does it.
+# Run by CPack on the staged tree: strips the programs and removes the sections that the
+# distribution removes.
 file(GLOB programs "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/bin/*"
     "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/libexec/toolvane/*")
 if(NOT programs)

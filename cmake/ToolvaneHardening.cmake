@@ -1,7 +1,7 @@
-# The distribution's own hardening flags, all of them, and no trace of where the build took place.
+# All of the distribution's hardening flags, and no paths of the build machine.
 
-# toolvane_debian_flags(KIND VARIABLE): what dpkg-buildflags says for CXXFLAGS, CPPFLAGS or LDFLAGS.
-# Debugging symbols are left out, the optimisation is the preset's, paths are mapped below.
+# toolvane_debian_flags(KIND VARIABLE): the output of dpkg-buildflags for CXXFLAGS, CPPFLAGS or
+# LDFLAGS, without debugging symbols. The preset sets the optimisation; paths are mapped below.
 function(toolvane_debian_flags kind variable)
     execute_process(
         COMMAND "${CMAKE_COMMAND}" -E env
@@ -17,6 +17,6 @@ toolvane_debian_flags(CPPFLAGS preprocessor_flags)
 toolvane_debian_flags(CXXFLAGS compiler_flags)
 toolvane_debian_flags(LDFLAGS linker_flags)
 add_compile_options(${preprocessor_flags} ${compiler_flags}
-    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." # of two that match, the compiler takes the later
+    "-ffile-prefix-map=${CMAKE_SOURCE_DIR}=." # if two match, the compiler uses the later one
     "-ffile-prefix-map=${CMAKE_BINARY_DIR}=build")
 add_link_options(${linker_flags})

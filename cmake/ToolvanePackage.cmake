@@ -1,5 +1,5 @@
-# What CPack needs to know for the Debian package. scripts/package is the way to build it.
-# Why each package is a dependency, a recommendation or a suggestion stands in docs/packaging.md.
+# The description of the Debian package for CPack. Build it with scripts/package. docs/packaging.md
+# says why each package is a dependency, a recommendation or a suggestion.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME toolvane)
@@ -48,4 +48,27 @@ list(APPEND recommended
 list(JOIN recommended ", " CPACK_DEBIAN_PACKAGE_RECOMMENDS)
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "systemd, xdg-desktop-portal")
 
+# The service is a package of its own, made of the same tree: a second configuration of CPack packs
+# what was installed for it, the first packs the rest.
+set(CPACK_INSTALL_CMAKE_PROJECTS
+    "${CMAKE_BINARY_DIR};${PROJECT_NAME};Unspecified;/;${CMAKE_BINARY_DIR};${PROJECT_NAME};desktop;/")
 include(CPack)
+
+file(WRITE "${CMAKE_BINARY_DIR}/CPackRecordsConfig.cmake" [[
+include("${CMAKE_CURRENT_LIST_DIR}/CPackConfig.cmake")
+set(CPACK_INSTALL_CMAKE_PROJECTS "${CMAKE_CURRENT_LIST_DIR};Toolvane;records;/")
+set(CPACK_PACKAGE_NAME toolvane-records)
+set(CPACK_DEBIAN_PACKAGE_NAME toolvane-records)
+set(CPACK_DEBIAN_PACKAGE_SECTION net)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "sqlite3, toolvane")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "records that several Toolvane desktops share")
+set(CPACK_PACKAGE_DESCRIPTION
+"A small server for the record pages of Toolvane: several desktops work with
+one set of users, groups and stock. It needs no other server, keeps the
+records in an SQLite database, and wants an account for every request.
+.
+After the installation it does not run yet:
+systemctl enable --now toolvane-records")
+]])

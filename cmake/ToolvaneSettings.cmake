@@ -1,5 +1,5 @@
-# One place for what every target shares: language level, warnings, sanitizers, Qt strictness,
-# and the layout of the build tree, which is that of an installation.
+# What all targets share: language standard, warnings, sanitizers, Qt strictness, and the layout of
+# the build tree, which is that of an installation.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,7 +16,7 @@ if(TOOLVANE_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${TOOLVANE_CCACHE}")
 endif()
 
-# Linked by every target of ours, whether it uses Qt or not.
+# Linked by all our targets, with or without Qt.
 add_library(toolvane_settings INTERFACE)
 target_compile_options(toolvane_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion -Wold-style-cast
@@ -30,7 +30,7 @@ if(TOOLVANE_SANITIZE)
     target_link_options(toolvane_settings INTERFACE -fsanitize=${TOOLVANE_SANITIZE})
 endif()
 
-# Linked by the targets that use Qt: no silent conversions between bytes and text, no keywords.
+# Linked by the targets that use Qt: no implicit conversions between bytes and text, no keywords.
 add_library(toolvane_qt_settings INTERFACE)
 target_link_libraries(toolvane_qt_settings INTERFACE toolvane_settings)
 target_compile_definitions(toolvane_qt_settings INTERFACE

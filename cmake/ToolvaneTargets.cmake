@@ -1,9 +1,9 @@
-# The few shapes of target that this project has. A library's own folder is its only include root,
-# so code that reaches for a folder which its target does not link fails to compile.
+# The kinds of target in this project. A library's own folder is its only include root, so including
+# a header of a folder that the target does not link is an error. The test `arrows` finds the rest.
 
 # toolvane_library(NAME SOURCES file… [PUBLIC lib…] [PRIVATE lib…] [INTERFACES ui-name…])
-# A static library over Qt. INTERFACES names files of resources/interface (without ".ui") that are
-# compiled to ui_<name>.h for this library.
+# A static library that uses Qt. INTERFACES names files of resources/interface (without ".ui") that
+# are compiled to ui_<name>.h for this library.
 function(toolvane_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE;INTERFACES")
     add_library(${name} STATIC ${arg_SOURCES})
@@ -16,7 +16,7 @@ function(toolvane_library name)
     endforeach()
 endfunction()
 
-# Texts in interface descriptions carry an id of the localisation tables (idbasedtr="true").
+# Texts in interface descriptions have an id of the localisation tables (idbasedtr="true").
 function(toolvane_compile_interface target interface)
     set(input "${PROJECT_SOURCE_DIR}/resources/interface/${interface}.ui")
     set(output "${CMAKE_CURRENT_BINARY_DIR}/interface/ui_${interface}.h")
@@ -29,8 +29,8 @@ function(toolvane_compile_interface target interface)
 endfunction()
 
 # toolvane_standin(NAME SOURCES file… [PRIVATE lib…])
-# A stand-in program, placed where the command runner looks for it. Of Qt it may use QtCore; one that
-# uses nothing of it is not linked to it.
+# A stand-in program, in the folder where the command runner looks for it. It may use QtCore and
+# nothing else of Qt. One that does not use QtCore is not linked to it.
 function(toolvane_standin name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PRIVATE")
     add_executable(standin_${name} ${arg_SOURCES})
@@ -45,14 +45,14 @@ function(toolvane_standin name)
     install(TARGETS standin_${name} DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/toolvane")
 endfunction()
 
-# Whether what links the target compiles against Qt Widgets.
+# Whether code that links the target is compiled with Qt Widgets.
 function(toolvane_exposes_widgets target result)
     set(exposes OFF)
     if(target STREQUAL "Qt6::Widgets")
         set(exposes ON)
     elseif(TARGET ${target})
         get_target_property(links ${target} INTERFACE_LINK_LIBRARIES)
-        foreach(link IN LISTS links) # private ones are $<LINK_ONLY:…>, which is no target
+        foreach(link IN LISTS links) # private ones are $<LINK_ONLY:…>, which is not a target
             toolvane_exposes_widgets(${link} link_exposes)
             if(link_exposes)
                 set(exposes ON)
@@ -63,7 +63,7 @@ function(toolvane_exposes_widgets target result)
     set(${result} ${exposes} PARENT_SCOPE)
 endfunction()
 
-# What the sanitizers' builds of a test share, see tests/CMakeLists.txt.
+# Precompiled headers for tests in builds with sanitizers, see tests/CMakeLists.txt.
 function(toolvane_share_test_headers name)
     set(headers toolvane_test_headers)
     foreach(link IN LISTS ARGN)
@@ -77,8 +77,8 @@ function(toolvane_share_test_headers name)
 endfunction()
 
 # toolvane_test(NAME SOURCES file… [LINK lib…] [LABELS label…])
-# One Qt Test program under CTest. It runs through tests/support/isolated, which gives it a user
-# database, a home folder and settings of its own: no test can reach the real ones.
+# One Qt Test program for CTest. It runs through tests/support/isolated, with a separate user
+# database, home folder and settings, so that no test can reach the real ones.
 function(toolvane_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINK;LABELS")
     add_executable(${name} ${arg_SOURCES})

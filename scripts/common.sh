@@ -5,7 +5,7 @@ started_in=$PWD
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 cd "$root"
 
-# Where ccache is installed, clones and work trees share what they have compiled.
+# If ccache is installed, clones and work trees share compiled files.
 export CCACHE_BASEDIR=$root CCACHE_NOHASHDIR=1
 
 say() { printf '%s\n' "toolvane: $*"; }
@@ -18,7 +18,7 @@ packages_of() {
     ' packaging/debian-packages.txt
 }
 
-# install_packages SECTION…: installs what is missing, through sudo when not root.
+# install_packages SECTION…: installs what is missing, with sudo if not root.
 install_packages() {
     local missing=() package
     for package in $(packages_of "$@"); do
@@ -53,7 +53,7 @@ build() {
     cmake --build --preset "$preset" ${1:+--target "$@"}
 }
 
-# on_virtual_display COMMAND…: runs it on an X server of its own, which ends with it.
+# on_virtual_display COMMAND…: runs it on a separate X server, which ends with it.
 on_virtual_display() {
     xvfb-run --auto-servernum --server-args '-screen 0 1600x1000x24' "$@"
 }

@@ -72,9 +72,17 @@ std::optional<FolderAccess::Entry> FolderAccess::entry(int parent, const char *n
 {
     struct statx status = {};
     constexpr int flags = AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT | AT_STATX_DONT_SYNC;
-    if (::statx(parent, name, flags, STATX_SIZE | STATX_TYPE, &status) != 0)
+    constexpr unsigned wanted = STATX_SIZE | STATX_TYPE | STATX_NLINK | STATX_BLOCKS;
+    constexpr std::uint64_t block = 512; // the unit of stx_blocks on every file system
+    if (::statx(parent, name, flags, wanted, &status) != 0)
         return std::nullopt;
-    return Entry{.size = status.stx_size, .isFolder = S_ISDIR(status.stx_mode)};
+    const bool isFolder = S_ISDIR(status.stx_mode);
+    const bool isLastName = isFolder || status.stx_nlink <= 1;
+    return Entry{.size = status.stx_size,
+                 .freed = isLastName
+                     ? std::min<std::uint64_t>(status.stx_size, status.stx_blocks * block)
+                     : 0,
+                 .isFolder = isFolder};
 }
 
 bool FolderAccess::isOnDisk(int folder)

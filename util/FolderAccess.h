@@ -38,6 +38,9 @@ FileDescriptor openFolderBelow(int parent, const char *way);
 
 struct Entry {
     std::uint64_t size = 0; ///< In bytes; of a folder, its own entry.
+    /// Bytes that removing this name gives back: 0 if the item has other names, not more than the
+    /// size, and of a file with holes only what is on the disk.
+    std::uint64_t freed = 0;
     bool isFolder = false;
 };
 

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace
@@ -23,7 +24,7 @@ constexpr std::size_t manyEntries = 10'000;
 class Emptier
 {
 public:
-    explicit Emptier(const std::stop_token &stop) : m_stop(stop) { }
+    Emptier(const std::stop_token &stop, FreedBytes freed) : m_stop(stop), m_freed(freed) { }
 
     void removeEntries(FolderDescent &descent);
     void removeWaiting(FolderDescent &descent, FolderShare &share);
@@ -41,6 +42,7 @@ private:
     void sortPlaces(int folder);
 
     const std::stop_token &m_stop;
+    FreedBytes m_freed;
     FolderRemovalResult m_result;
     FolderEntries m_entries{entriesBlock};
     std::vector<Place> m_places;
@@ -95,8 +97,10 @@ void Emptier::removeEntry(FolderDescent &descent, const FolderEntries::Entry &en
 // False with errno set if the item stays.
 bool Emptier::removeItem(int parent, const char *name, int flags)
 {
+    const auto entry =
+        m_freed == FreedBytes::Count ? FolderAccess::entry(parent, name) : std::nullopt;
     if (::unlinkat(parent, name, flags) == 0) {
-        ++m_result.removed;
+        m_result.gone(entry ? entry->freed : 0);
         return true;
     }
     const int error = errno;
@@ -151,15 +155,15 @@ void Emptier::removeWaiting(FolderDescent &descent, FolderShare &share)
 } // namespace
 
 FolderRemovalResult emptyFolder(FileDescriptor folder, unsigned helpers,
-                                const std::stop_token &stop)
+                                const std::stop_token &stop, FreedBytes freed)
 {
     FolderDescent descent({.folder = std::move(folder), .names = {}});
-    Emptier first(stop);
+    Emptier first(stop, freed);
     first.removeEntries(descent);
     FolderRemovalResult total = first.result();
     std::mutex mutex;
     FolderShare::run(helpers, descent, [&](FolderShare &share, FolderDescent &part) {
-        Emptier emptier(stop);
+        Emptier emptier(stop, freed);
         emptier.removeWaiting(part, share);
         const std::scoped_lock lock(mutex);
         total.add(emptier.result());

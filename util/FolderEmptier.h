@@ -9,4 +9,4 @@
 /// call. The folder must not have been read before through this descriptor. After a stop request it
 /// leaves what it has not removed yet. Any thread.
 FolderRemovalResult emptyFolder(FileDescriptor folder, unsigned helpers,
-                                const std::stop_token &stop);
+                                const std::stop_token &stop, FreedBytes freed);

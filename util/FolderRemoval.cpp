@@ -21,11 +21,16 @@ namespace
 // A program that keeps putting new items into the folder must not keep this going for ever.
 constexpr int maxPasses = 4;
 
+QString reason(int error)
+{
+    return error == EXDEV ? u"something is mounted there"_s : qt_error_string(error);
+}
+
 FolderRemovalResult refusal(int error, const QByteArray &base, const QByteArray &path)
 {
     qInfo().noquote() << u"Nothing removed at \"%1\" below \"%2\": %3"_s.arg(
-        QFile::decodeName(path), QFile::decodeName(base), qt_error_string(error));
-    return {.removed = 0, .refused = 1, .firstError = error};
+        QFile::decodeName(path), QFile::decodeName(base), reason(error));
+    return {.refused = 1, .firstError = error};
 }
 
 bool isPlainPath(const QByteArray &path)
@@ -58,19 +63,25 @@ FileDescriptor openBase(const QByteArray &base)
 // Removes the named item if it need not be emptied first; true if it is a folder to be emptied.
 bool openOrRemove(int parent, const char *name, FileDescriptor &folder, FolderRemovalResult &total)
 {
-    folder = FolderAccess::openFolder(parent, name);
+    folder = FolderAccess::openFolderOfSameMount(parent, name);
     if (folder || errno == ENOENT)
         return static_cast<bool>(folder);
     const int error = errno;
+    if (error == EXDEV) {
+        total.refuse(error);
+        return false;
+    }
     const int flags = error == ENOTDIR || error == ELOOP ? 0 : AT_REMOVEDIR;
+    const auto entry = FolderAccess::entry(parent, name);
     if (::unlinkat(parent, name, flags) == 0)
-        ++total.removed;
+        total.gone(flags == 0 && entry ? entry->freed : 0);
     else
         total.refuse(error == EACCES ? EACCES : errno);
     return false;
 }
 
-FolderRemovalResult removeItem(int parent, const char *name, const std::stop_token &stop)
+FolderRemovalResult removeItem(int parent, const char *name, const std::stop_token &stop,
+                               FreedBytes freed)
 {
     const unsigned helpers = std::clamp(std::thread::hardware_concurrency(), 1u, 2u) - 1;
     FolderRemovalResult total;
@@ -83,10 +94,10 @@ FolderRemovalResult removeItem(int parent, const char *name, const std::stop_tok
         if (!openOrRemove(parent, name, folder, total))
             return total;
         const FolderRemovalResult emptied =
-            emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop);
+            emptyFolder(std::move(folder), pass == 0 ? helpers : 0, stop, freed);
         total.add(emptied);
         if (::unlinkat(parent, name, AT_REMOVEDIR) == 0) {
-            ++total.removed;
+            total.gone(0);
             return total;
         }
         const int error = stop.stop_requested() ? ECANCELED : errno;
@@ -101,6 +112,12 @@ FolderRemovalResult removeItem(int parent, const char *name, const std::stop_tok
 
 } // namespace
 
+void FolderRemovalResult::gone(std::uint64_t bytes)
+{
+    ++removed;
+    freed += bytes;
+}
+
 void FolderRemovalResult::refuse(int error)
 {
     ++refused;
@@ -111,13 +128,14 @@ void FolderRemovalResult::refuse(int error)
 void FolderRemovalResult::add(const FolderRemovalResult &other)
 {
     removed += other.removed;
+    freed += other.freed;
     refused += other.refused;
     if (firstError == 0)
         firstError = other.firstError;
 }
 
 FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
-                                const std::stop_token &stop)
+                                const std::stop_token &stop, FreedBytes freed)
 {
     if (stop.stop_requested())
         return refusal(ECANCELED, base, path);
@@ -135,10 +153,10 @@ FolderRemovalResult removeBelow(const QByteArray &base, const QByteArray &path,
             return refusal(errno, base, path);
     }
     const FolderRemovalResult result =
-        removeItem(parent.get(), path.mid(slash + 1).constData(), stop);
+        removeItem(parent.get(), path.mid(slash + 1).constData(), stop, freed);
     if (result.refused > 0)
         qInfo().noquote() << u"%1 items stayed at \"%2\" below \"%3\": %4"_s.arg(
             QString::number(result.refused), QFile::decodeName(path), QFile::decodeName(base),
-            qt_error_string(result.firstError));
+            reason(result.firstError));
     return result;
 }

@@ -85,10 +85,29 @@ bool isAcceptable(const QByteArray &address, HttpSchemes schemes)
             || (schemes == HttpSchemes::Any && hasScheme(address, "http:/")));
 }
 
+/// The environment's exceptions from its proxy, and this machine: what is meant for it must not be
+/// led outside.
+QByteArray hostsWithoutProxy()
+{
+    const QByteArray lower = qgetenv("no_proxy");
+    const QByteArray hosts = lower.isEmpty() ? qgetenv("NO_PROXY") : lower;
+    if (hosts.trimmed() == "*") // counts by itself alone
+        return hosts;
+    return hosts + ",localhost,127.0.0.0/8,::1";
+}
+
 bool isHeader(QByteArrayView line, QByteArrayView name)
 {
     return line.size() > name.size() && line[name.size()] == ':'
         && line.first(name.size()).compare(name, Qt::CaseInsensitive) == 0;
+}
+
+/// libcurl would unpack such a body, up to five times over, although nobody requested that.
+bool isCompressedTransfer(QByteArrayView line)
+{
+    constexpr QByteArrayView name("Transfer-Encoding");
+    return isHeader(line, name)
+        && line.sliced(name.size() + 1).trimmed().compare("chunked", Qt::CaseInsensitive) != 0;
 }
 
 /// A full disk takes a part without an error: the error comes with the next write.
@@ -127,10 +146,10 @@ public:
         }
         const CURLcode code = m_curl.easyPerform(m_easy.get());
         if (code != CURLE_OK)
-            return {endOf(code), 0, {}, m_curl.easyStrerror(code)};
+            return {endOf(code), 0, {}, m_curl.easyStrerror(code), isHeard()};
         long status = 0;
         m_curl.easyGetinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
-        return {HttpReply::End::Answered, int(status), std::move(m_body), {}};
+        return {HttpReply::End::Answered, int(status), std::move(m_body), {}, true};
     }
 
 private:
@@ -146,6 +165,7 @@ private:
         const char *schemes = limits.schemes == HttpSchemes::Any ? "http,https" : "https";
         set(CURLOPT_URL, m_request.address.constData());
         set(CURLOPT_PATH_AS_IS, 1L);
+        set(CURLOPT_NOPROXY, hostsWithoutProxy().constData());
         set(CURLOPT_PROTOCOLS_STR, schemes);
         set(CURLOPT_REDIR_PROTOCOLS_STR, schemes);
         set(CURLOPT_FOLLOWLOCATION, limits.redirects > 0 ? 1L : 0L);
@@ -191,9 +211,14 @@ private:
     {
         switch (code) {
         case CURLE_URL_MALFORMAT:
-        case CURLE_UNSUPPORTED_PROTOCOL:
-        case CURLE_TOO_MANY_REDIRECTS:
             return HttpReply::End::Refused;
+        case CURLE_UNSUPPORTED_PROTOCOL: // of a redirect; or what came is no HTTP
+            return isHeard() ? HttpReply::End::Refused : HttpReply::End::Garbled;
+        case CURLE_TOO_MANY_REDIRECTS:
+        case CURLE_WEIRD_SERVER_REPLY:
+            return HttpReply::End::Garbled;
+        case CURLE_PEER_FAILED_VERIFICATION:
+            return HttpReply::End::Untrusted;
         case CURLE_OPERATION_TIMEDOUT:
             return HttpReply::End::TimedOut;
         case CURLE_FILESIZE_EXCEEDED:
@@ -206,6 +231,8 @@ private:
             return HttpReply::End::Failed;
         }
     }
+
+    bool isHeard() const { return m_headerBytes > 0; }
 
     // libcurl ends the transfer if a callback returns any other number than the given size.
     static constexpr std::size_t refused = 0;
@@ -228,13 +255,16 @@ private:
         return refused;
     }
 
-    static std::size_t takeHeader(const char *, std::size_t, std::size_t size, void *transfer)
+    static std::size_t takeHeader(const char *data, std::size_t, std::size_t size, void *transfer)
     {
         auto *self = static_cast<Transfer *>(transfer);
         self->m_headerBytes += qint64(size);
-        if (self->m_headerBytes <= maxHeaderBytes)
+        if (self->m_headerBytes > maxHeaderBytes)
+            self->m_refusal = HttpReply::End::TooLarge;
+        else if (isCompressedTransfer(QByteArrayView(data, qsizetype(size))))
+            self->m_refusal = HttpReply::End::Garbled;
+        else
             return size;
-        self->m_refusal = HttpReply::End::TooLarge;
         return refused;
     }
 

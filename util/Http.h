@@ -15,8 +15,8 @@ class QIODevice;
 ///
 /// Only http and https are used, also after a redirect; certificates and host names are checked
 /// against the system's store; nothing is decompressed, no cookie or password is looked up, a proxy
-/// is taken from the environment alone. A request carries Host, User-Agent, the length of its body,
-/// and the headers that the caller gives.
+/// is taken from the environment alone, and none leads to this machine itself. A request carries
+/// Host, User-Agent, the length of its body, and the headers that the caller gives.
 
 enum class HttpSchemes { Any, SecureOnly }; ///< http and https, or https alone.
 
@@ -51,18 +51,21 @@ struct HttpRequest {
 struct HttpReply {
     enum class End {
         Answered, ///< The reply came whole; its status may still be an error.
-        Refused, ///< The address, a redirect or the server's protocol is not allowed.
+        Refused, ///< The address, or one that it leads to, is not allowed.
+        Garbled, ///< What came is not HTTP, is compressed on its way, or leads in circles.
+        Untrusted, ///< The server's certificate is not valid.
         TimedOut,
         TooLarge,
         Cancelled,
         NotWritten, ///< The target of the body did not take it.
-        Failed, ///< Host not found, connection or certificate refused, reply cut short, …
+        Failed, ///< Host not found, connection refused, reply cut short, …
     };
 
     End end = End::Failed;
     int status = 0; ///< 200, 404, …; 0 if no reply came.
     QByteArray body = {}; ///< Empty unless answered, and if it went into a target.
     QByteArray message = {}; ///< English words if the request failed.
+    bool isHeard = false; ///< At least a byte of HTTP came, whatever the end.
 
     bool answered() const { return end == End::Answered; }
     bool succeeded() const { return answered() && status >= 200 && status < 300; }
@@ -72,8 +75,8 @@ struct HttpReply {
 HttpReply httpGet(const HttpRequest &request);
 
 /// Writes the body into the open target piece by piece, whatever the reply's status is. The target
-/// holds a part of it, or an error page, unless the reply succeeded: give a QSaveFile and commit it
-/// only then.
+/// holds a part of it, or an error page, unless the reply succeeded: give a file that nobody sees
+/// before then.
 HttpReply httpGet(const HttpRequest &request, QIODevice &target);
 
 /// The body is sent with its length; there is no Content-Type unless the headers hold one. Nothing

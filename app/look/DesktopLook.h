@@ -19,19 +19,22 @@ class DesktopLook : public QObject
 
 public:
     /// Shows what the desktop preferred last time, so that the first paint is right already. The
-    /// portal is called after that paint, and its answer is not waited for.
+    /// portal is called after that paint, and its answer is not waited for. Needs the application
+    /// object and Theme::install().
     DesktopLook();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
-private Q_SLOTS:
+private Q_SLOTS: // called over the bus, for signals of the portal
     void settingChanged(const QString &group, const QString &key, const QDBusVariant &value);
 
 private:
     void openPortal();
+    /// Remembers the portal's preference in the settings and shows it.
     void prefer(uint preference);
     void show();
+    /// Takes over what the platform has now: its font, and its scheme if the portal has none.
     void readPlatform();
 
     uint m_preference; ///< In the portal's numbers: 0 none, 1 dark, 2 light.

@@ -21,6 +21,7 @@ void focusRing(QPainter &painter, const QStyleOption &option);
 /// The face of a push button, a tool button or a combo box. A flat one has a face only under the
 /// pointer and pressed. The focus is shown on all but tool buttons, which Fusion gives a ring.
 void button(QPainter &painter, const QStyleOption &option);
+/// The box of a check box with its tick.
 void checkMark(QPainter &painter, const QStyleOption &option);
 /// A ground with a line at its bottom: a tool bar, the header of a table.
 void ruledArea(QPainter &painter, const QStyleOption &option, QPalette::ColorRole ground);

@@ -22,12 +22,14 @@ public:
                          SubControl subControl, const QWidget *widget) const override;
     QRect subElementRect(SubElement element, const QStyleOption *option,
                          const QWidget *widget) const override;
+    /// Controls in one row share one height, which grows with the font.
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
                            const QWidget *widget) const override;
     int pixelMetric(PixelMetric metric, const QStyleOption *option,
                     const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *data) const override;
+    /// The icons of message boxes and of a crowded toolbar are the application's own.
     QIcon standardIcon(StandardPixmap standard, const QStyleOption *option,
                        const QWidget *widget) const override;
     using QProxyStyle::polish;

@@ -6,8 +6,8 @@
 
 #include <cstdlib>
 
-/// Ends the program once the window has been painted for the first time, everything in it included.
-/// At once: what taking the program down would cost is no part of its start.
+/// Ends the program when the window has been painted for the first time, with everything in it. It
+/// ends at once, because the cost of a clean exit is not part of the start.
 class FirstPaint : public QObject
 {
 public:

@@ -1,5 +1,5 @@
-// What starting Toolvane costs up to the first painted window, against a window with one label.
-// Rows end with the ratio, its limit and "ok" or "PASSED"; the exit status is 1 when one is passed.
+// The cost of starting Toolvane up to the first painted window, compared with a window with one
+// label. The exit status is 1 if a figure is over its limit.
 
 #include "ProcessCost.h"
 #include "Row.h"

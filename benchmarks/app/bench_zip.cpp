@@ -1,6 +1,5 @@
-// How alive the Zip page stays while it packs 500 MB, and what running a command through it adds.
-// Rows end with the figure, its limit and "ok" or "PASSED"; the exit status is 1 when one is
-// passed.
+// How responsive the Zip page stays while it packs 500 MB, and what the runner adds to a command.
+// The exit status is 1 if a figure is over its limit.
 
 #include "CommandRunner.h"
 #include "JobList.h"
@@ -35,7 +34,7 @@ double milliseconds(const QElapsedTimer &clock)
     return double(clock.nsecsElapsed()) / 1e6;
 }
 
-// A pause is the time between two beats of a timer, less the beat itself.
+// A pause is the time between two timer events minus the interval.
 class Pauses : public QObject
 {
 public:
@@ -87,7 +86,7 @@ bool staysAlive()
         return false;
     page.findChild<QLineEdit *>(u"srcFolderField"_s)->setText(folder.filePath(u"source"_s));
     page.findChild<QLineEdit *>(u"outputField"_s)->setText(folder.filePath(u"out.zip"_s));
-    QTest::qWait(200); // what showing the window costs is not the question
+    QTest::qWait(200); // the cost of showing the window is not measured
 
     Pauses pauses;
     double longest = 0;
@@ -117,7 +116,7 @@ double throughRunner()
     const auto run = runner.run({.launchPath = u"/bin/true"_s, .arguments = {}},
                                 jobs.begin({.page = {}, .title = {}}));
     QFutureWatcher<CommandResult> watcher;
-    QEventLoop loop; // woken by the end itself, not by a look every now and then
+    QEventLoop loop; // woken by the end itself, without polling
     QObject::connect(&watcher, &QFutureWatcherBase::finished, &loop, &QEventLoop::quit);
     watcher.setFuture(run);
     loop.exec();

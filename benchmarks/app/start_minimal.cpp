@@ -1,4 +1,4 @@
-// The least that a Qt program with a window can be, for comparison.
+// The smallest Qt program with a window, for comparison.
 
 #include "FirstPaint.h"
 

@@ -17,7 +17,7 @@ namespace
 
 constexpr double maxMegabytes = 20;
 
-// Grows only, so the last look before the end is the peak.
+// It only grows, so the last reading before the end is the peak.
 double peakOf(pid_t process)
 {
     std::ifstream status("/proc/" + std::to_string(process) + "/status");
@@ -30,7 +30,7 @@ double peakOf(pid_t process)
     return kibibytes / 1024;
 }
 
-// Each writes a new file: replacing one makes some file systems flush it for a careless program.
+// Each writes a new file: some file systems flush a file that replaces another one.
 ProcessCost costOf(const Command &command)
 {
     for (const auto &entry : std::filesystem::directory_iterator(workFolder())) {

@@ -5,7 +5,7 @@
 
 #include <sqlite3.h>
 
-/// The peer: what one would write by hand against SQLite for this one table.
+/// The peer: what one would write by hand with SQLite for this one table.
 struct PlainUser {
     int id;
     int shopId;

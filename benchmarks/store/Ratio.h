@@ -4,7 +4,7 @@
 
 #include <ctime>
 
-/// Compares work of ours with a peer's by the processor's time.
+/// Compares our work with a peer's by processor time.
 namespace Ratio
 {
 
@@ -15,8 +15,8 @@ inline double processorTime()
     return double(time.tv_sec) + double(time.tv_nsec) * 1e-9;
 }
 
-/// The processor's time, in our code and in the system's: unlike the clock on the wall it does not
-/// count the machine's other work, nor waits for the disk, which are the same on both sides.
+/// Processor time, user and system. Unlike clock time it does not include other work of the machine
+/// or waiting for the disk, which are the same on both sides.
 template <class Work>
 double seconds(Work work)
 {

@@ -28,7 +28,7 @@ inline UserSchema sampleUser(int number)
             text(QLatin1String("What is remarkable about user "))};
 }
 
-/// Puts so many rows into the open database's table, in place of those that are there.
+/// Replaces the rows of the open database's table by this many new ones.
 inline void fillUsers(int count)
 {
     const QString table = QStringLiteral("User");

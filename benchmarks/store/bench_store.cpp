@@ -1,5 +1,5 @@
-// What the record store costs compared with SQLite and Qt's JSON parser used by hand. Runs in a
-// home folder of its own, see tests/support/isolated; ends with 1 when a limit is passed.
+// Compares the record store with SQLite and Qt's JSON parser used by hand. Must run through
+// tests/support/isolated. The exit status is 1 if a figure is over its limit.
 
 #include "BLGeneral.h"
 #include "DB.h"

@@ -1,6 +1,6 @@
-// How a select grows with the number of records: the time of each stays the same, and memory is
-// that of the records. Runs in a home folder of its own, see tests/support/isolated; ends with 1
-// when a limit is passed.
+// How a select grows with the number of records: the time for each record stays the same, and the
+// memory is that of the records. Must run through tests/support/isolated. The exit status is 1 if a
+// figure is over its limit.
 
 #include "BLGeneral.h"
 #include "DB.h"
@@ -36,7 +36,7 @@ bool takesTheSameTimeForEach(BLGeneral &gateway)
         .print();
 }
 
-/// Kilobytes behind a word of /proc/self/status.
+/// The kilobytes that /proc/self/status gives for a word.
 double memory(const char *word)
 {
     QFile file(u"/proc/self/status"_s);
@@ -45,8 +45,8 @@ double memory(const char *word)
     return status.mid(status.indexOf(word)).simplified().split(' ').value(1).toDouble();
 }
 
-/// In a process of its own, as memory that was used once is there for the next: prints how far its
-/// peak is above what was in use before the select.
+/// Runs in a process of its own, because freed memory is reused by the next select. Prints how far
+/// the peak is above the memory in use before the select.
 int measurePeak(bool isOurs)
 {
     DBSession::openDB();

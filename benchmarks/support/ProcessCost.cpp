@@ -27,7 +27,7 @@ double secondsOf(const timeval &time)
     return double(time.tv_sec) + double(time.tv_usec) * 1e-6;
 }
 
-// Without a copy of this process in between, whose pages would have to be copied meanwhile.
+// Without a forked copy of this process, whose pages would have to be copied.
 pid_t start(const std::vector<std::string> &command)
 {
     std::vector<char *> arguments;

@@ -6,7 +6,7 @@
 bool Row::print() const
 {
     const bool isWithin = figure <= limit;
-    const std::string verdict = isWithin ? "ok" : (excuse.empty() ? "PASSED" : excuse);
+    const std::string verdict = isWithin ? "ok" : (excuse.empty() ? "over the limit" : excuse);
     std::printf("| %-40s | %6.2f | %6.2f | %-5s | %-44s | %s |\n", work.c_str(), figure, limit,
                 unit.c_str(), detail.c_str(), verdict.c_str());
     std::fflush(stdout);

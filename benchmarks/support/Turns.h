@@ -2,14 +2,14 @@
 
 #include "Row.h"
 
-/// What work of ours and a peer's cost in the same run, round by round.
+/// The cost of our work and of a peer's in the same run, round by round.
 template <class Cost>
 struct Turns {
     std::vector<Cost> ours;
     std::vector<Cost> peers;
 
-    /// Lets the two take turns. Each goes first in every other round, as the second finds warm
-    /// caches. Both are called without arguments and give what they cost.
+    /// Lets the two take turns. Each is first in every other round, because the second finds warm
+    /// caches. Both are called without arguments and return their cost.
     template <class Ours, class Peer>
     static Turns taken(int rounds, Ours ours, Peer peer)
     {
@@ -24,7 +24,7 @@ struct Turns {
         return turns;
     }
 
-    /// The median of the rounds' ratios: what disturbs the machine disturbs both sides of a round.
+    /// The median of the rounds' ratios: other load on the machine affects both sides of a round.
     template <class Figure>
     double ratio(Figure figure) const
     {

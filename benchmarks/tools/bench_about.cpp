@@ -1,6 +1,6 @@
-// What a list of 1,000 applications with cached icons costs on the About page: work of the
+// The cost of a list of 1,000 applications with cached icons on the About page: work of the
 // interface thread until it is shown, pauses while it scrolls, memory for its icons. The exit
-// status is 1 when a figure is over its limit.
+// status is 1 if a figure is over its limit.
 
 #include "AboutViewController.h"
 #include "MiscTool.h"
@@ -44,7 +44,7 @@ void writeFile(const QString &name, const QByteArray &bytes)
         qFatal("cannot write the sample list");
 }
 
-// Pictures that do not compress well, each a different one.
+// Different pictures that do not compress well.
 void writeIcon(int app)
 {
     QImage image(128, 128, QImage::Format_ARGB32);
@@ -113,7 +113,7 @@ double pageWork(std::unique_ptr<AboutViewController> &page)
     return work() - begin;
 }
 
-/// A bare table that has everything in memory already.
+/// A bare table with everything in memory already.
 double peerWork(const QIcon &icon)
 {
     const double begin = work();
@@ -155,8 +155,8 @@ bool appears(std::unique_ptr<AboutViewController> &page)
         && isQuick;
 }
 
-// A pause is what one turn of the wheel keeps the interface thread from anything else: the scroll,
-// its repaint, and what arrives meanwhile.
+// A pause is the time for which one turn of the wheel blocks the interface thread: the scrolling,
+// the repaint, and the events that arrive meanwhile.
 bool scrolls(AboutViewController &page)
 {
     auto &table = *page.findChild<QTableView *>();

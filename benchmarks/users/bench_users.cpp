@@ -1,8 +1,8 @@
-// How long the record pages hold up the interface thread with 10,000 users in 500 groups. A person
-// feels a tenth of a second, so that is the limit of each step. What counts is the thread's own
-// time on a processor, the median of the rounds. The clock's time, which includes the disk's, is
-// printed next to it. Behind a web service, the time of the plain transfers is added to the limit
-// of the page. usage: tests/support/isolated bench_users
+// How long the record pages block the interface thread with 10,000 users in 500 groups. People
+// notice a tenth of a second, so that is the limit for each step. What counts is the thread's own
+// processor time, the median of the rounds. The clock time, which includes the disk, is printed
+// next to it. Behind a web service, the time of the plain transfers is added to the limit.
+// usage: tests/support/isolated bench_users
 
 #include "DB.h"
 #include "Global.h"
@@ -43,7 +43,7 @@ double threadTime()
     return double(time.tv_sec) * 1e3 + double(time.tv_nsec) * 1e-6;
 }
 
-/// Times one step in each round, with what must precede it untimed.
+/// Times one step in each round; its preparation is not timed.
 bool isWithin(const char *name, const std::function<void()> &prepare,
               const std::function<void()> &step, double limit = maxStepTime)
 {
@@ -65,7 +65,7 @@ bool isWithin(const char *name, const std::function<void()> &prepare,
         .print();
 }
 
-/// Names out of order, so that sorting has work to do, with escapes, so that showing them has.
+/// Names are unsorted, so that sorting has work to do, and have escapes, so that showing them has.
 bool fillDatabase()
 {
     Global::openDB();
@@ -160,7 +160,7 @@ bool sortsInTime(const QWidget &page)
         });
 }
 
-/// The table is sorted meanwhile, so a new user costs a sorting as well.
+/// The table is sorted, so a new user also costs a sort.
 bool addsInTime(const QWidget &page)
 {
     auto &name = control<QLineEdit>(page, "userField");

@@ -2,6 +2,6 @@
 
 #include <string>
 
-/// The minimum that the sizes of one folder's items can cost: raw getdents64 and one statx an item,
-/// with nothing around them. Returns their sum; ends the program if the folder cannot be read.
+/// The minimum cost of measuring the items of one folder: raw getdents64 and one statx for each
+/// item, nothing else. Returns their sum; ends the program if the folder cannot be read.
 long long sizeFloor(const std::string &folder);

@@ -1,11 +1,12 @@
-// What measuring and removing folders cost compared with "du -slb" and "rm -rf" on the same trees,
-// in the same run and taking turns. Every figure is a median, less the cost of an empty folder.
-// The exit status is 1 when a limit is passed.
+// Compares measuring and removing folders with "du -slb" and "rm -rf" on the same trees, in turns
+// and in the same run. Every figure is a median minus the cost of an empty folder. The exit status
+// is 1 if a figure is over its limit.
 //   bench_folders [--million] [--calls] [TREE]
-// also on a million files; also counts system calls by strace; only trees with TREE in their name
+// --million: also a million files; --calls: also counts system calls with strace; TREE: only trees
+// with TREE in their name
 // Small trees are in TMPDIR, mostly on a disk, large ones in /dev/shm, which takes up to 6 GB.
-// Time by the clock counts only on an idle machine with two cores. In one flat folder nearly all
-// the time is the system's: if even the bare calls cost more than the limit allows, a figure within
+// Clock time counts only on an idle machine with two cores. In one flat folder nearly all
+// the time is spent in the system: if even the bare calls cost more than the limit, a figure within
 // a twentieth of theirs is excused.
 
 #include "FolderRemoval.h"
@@ -35,7 +36,7 @@ using Costs = std::vector<ProcessCost>;
 struct Limits {
     double processor = 0;
     double wall = 0; ///< 0 if more than one thread cannot help.
-    bool isFlat = false; ///< One folder holds it all, so the bare calls can be measured as well.
+    bool isFlat = false; ///< One folder has everything, so the bare calls can be measured, too.
 };
 
 struct Tree {
@@ -84,7 +85,7 @@ private:
     double m_sizeMemory = 0;
 };
 
-// A program of its own, as the peers are.
+// In a process of its own, like the peers.
 const std::string &self()
 {
     static const std::string path = std::filesystem::read_symlink("/proc/self/exe");
@@ -199,7 +200,7 @@ void FolderBench::run(const Tree &tree)
         return;
     const std::string path = m_folder + "/tree";
     tree.make(path);
-    ::sync(); // what is on its way to the disk would keep the second core busy
+    ::sync(); // data on its way to the disk would keep the second core busy
     compareSize(tree.name, path, tree.sizeRounds, tree.size);
     removalCost(m_folder, "tree");
     compareRemoval(tree);
@@ -234,7 +235,7 @@ void FolderBench::countCalls()
     }
 }
 
-/// A folder of the benchmark's own, removed at its end.
+/// A temporary folder for the benchmark, removed at its end.
 class ScratchFolder
 {
 public:
@@ -279,7 +280,7 @@ void compareOnDisk(FolderBench &bench)
     bench.removalMemory(100'000);
 }
 
-// Trees that would take a disk minutes to make, once for each round.
+// Trees that a disk would need minutes to make; once for each round.
 void compareInMemory(FolderBench &bench, bool million)
 {
     bench.run({"100,000 nested, tmpfs", nested(100'000), 7, 3, nestedSize, nestedRemoval});

@@ -1,4 +1,4 @@
-"""Prints the package's changelog in Debian's format, made of CHANGELOG.md.
+"""Prints the package's changelog in Debian's format, made from CHANGELOG.md.
 usage: make_debian_changelog.py CHANGELOG MAINTAINER"""
 
 import sys

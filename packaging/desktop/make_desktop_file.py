@@ -3,7 +3,7 @@ usage: make_desktop_file.py FOLDER-OF-TABLES"""
 
 import sys
 
-from texts import PAGES, phrase, read_tables, translated
+from texts import pages, phrase, read_tables, translated
 
 HEAD = """[Desktop Entry]
 Type=Application
@@ -19,22 +19,22 @@ Categories=Utility;FileTools;Archiving;"""
 
 
 def entry(key, tables, text_of):
-    """KEY=… and KEY[language]=…, with what desktop files want escaped."""
+    """KEY=… and KEY[language]=…, escaped as desktop files require."""
     for language, text in translated(tables, text_of):
         suffix = "" if language == "en" else f"[{language}]"
         yield f"{key}{suffix}=" + text.replace("\\", "\\\\").replace("\n", " ")
 
 
 def keywords(table):
-    return "".join(table[name].replace(";", " ") + ";" for name in PAGES.values())
+    return "".join(table[name].replace(";", " ") + ";" for name in pages().values())
 
 
 def desktop_file(tables):
     yield HEAD
-    yield "Actions=" + "".join(page + ";" for page in PAGES)
+    yield "Actions=" + "".join(page + ";" for page in pages())
     yield from entry("Comment", tables, lambda table: phrase(table["Welcome.Sentence"]))
     yield from entry("Keywords", tables, keywords)
-    for page, name in PAGES.items():
+    for page, name in pages().items():
         yield f"\n[Desktop Action {page}]"
         yield from entry("Name", tables, lambda table: table[name])
         yield f"Exec=toolvane {page}"

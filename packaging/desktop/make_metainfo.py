@@ -6,7 +6,7 @@ from pathlib import Path
 from xml.sax.saxutils import escape
 
 from releases import read_releases
-from texts import PAGES, phrase, read_tables, translated
+from texts import pages, phrase, read_tables, translated
 
 
 def element(name, tables, text_of, indent="  "):
@@ -17,7 +17,7 @@ def element(name, tables, text_of, indent="  "):
 
 def keywords(tables):
     yield "  <keywords>"
-    for key in PAGES.values():
+    for key in pages().values():
         yield from element("keyword", tables, lambda table: table[key], indent="    ")
     yield "  </keywords>"
 

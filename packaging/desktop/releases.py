@@ -1,4 +1,4 @@
-"""CHANGELOG.md, from which the metainfo and the Debian changelog are made."""
+"""Reads CHANGELOG.md, the source of the metainfo's releases and of the Debian changelog."""
 
 import re
 import sys
@@ -13,7 +13,7 @@ class Release(NamedTuple):
 
 
 def read_releases(path):
-    """The releases, newest first. Ends the program where none is dated."""
+    """The releases, newest first. Ends the program if none has a date."""
     parts = re.split(r"^## ", Path(path).read_text(encoding="utf-8"), flags=re.MULTILINE)
     releases = [release for part in parts[1:] if (release := _release(part))]
     if not releases:
@@ -28,7 +28,7 @@ def _release(part):
 
 
 def _changes(body):
-    """The items of the lists: lines that go on are joined, Markdown's marks are taken off."""
+    """The items of the lists: continued lines are joined, and Markdown's marks are removed."""
     items = re.findall(r"^[-*] (.+(?:\n[ \t]+\S.*)*)", body, flags=re.MULTILINE)
     return [_plain(" ".join(item.split())) for item in items]
 

@@ -1,24 +1,23 @@
-"""The program's own tables of texts, for the files by which a desktop describes it."""
+"""The program's pages and its tables of texts, for the desktop integration files."""
 
 import re
 import xml.etree.ElementTree as xml
 from pathlib import Path
 
-# What `toolvane PAGE` takes, in the sidebar's order, and the key of the page's name.
-PAGES = {
-    "video": "AV Convert",
-    "cache": "UserCache",
-    "speech": "Speech Synthesis",
-    "zip": "Zip",
-    "unzip": "Unzip",
-    "dmg": "DMG",
-    "iso": "ISO",
-    "update": "Update",
-}
+TOOL_LIST = Path(__file__).parents[2] / "app/ToolList.cpp"
+
+
+def pages():
+    """{what `toolvane PAGE` takes: key of the page's name}, in the sidebar's order."""
+    tools = re.findall(r'\{QT_TRID_NOOP\("([^"]+)"\),\s*"[^"]*",\s*"([^"]+)"',
+                       TOOL_LIST.read_text(encoding="utf-8"))
+    if not tools:
+        raise ValueError(f"no tools found in {TOOL_LIST}")
+    return {command_name: key for key, command_name in tools}
 
 
 def read_tables(folder):
-    """{language: {key: text}}, English first, then by name. Languages of tests (XA…XZ) are left out."""
+    """{language: {key: text}}, English first, then by name, without the languages of tests (XA…XZ)."""
     tables = {}
     for path in sorted(Path(folder).glob("toolvane_*.ts")):
         language = path.stem.removeprefix("toolvane_")
@@ -36,7 +35,7 @@ def _read_table(path):
 
 
 def phrase(text):
-    """A sentence as menus and software centres want it: without its full stop."""
+    """A sentence as menus and software centres expect it: without its full stop."""
     return text.rstrip(".。।")
 
 
@@ -47,7 +46,7 @@ def translated(tables, text_of):
     for language, table in list(tables.items())[1:]:
         try:
             text = text_of(table)
-        except KeyError:  # not translated yet; English answers
+        except KeyError:  # not translated yet; English is used
             continue
         if text != english:
             yield language, text

@@ -76,14 +76,17 @@ def _add_item(channel, version, files, address, key):
         _add_file(item, version, files, address, key)
 
 
-def build(versions, files, address, key, earlier):
+def build(versions, files, address, key, earlier, days):
     """The feed's bytes: its XML and, as the last line, the signature over all before."""
+    date = _date_after(earlier)
     rss = ElementTree.Element("rss", {"version": "2.0"})
     channel = _add(rss, "channel")
     _add(channel, "title", "Toolvane")
     _add(channel, "link", address)
     _add(channel, "description", "Versions of Toolvane")
-    _add(channel, "lastBuildDate", email.utils.format_datetime(_date_after(earlier)))
+    _add(channel, "lastBuildDate", email.utils.format_datetime(date))
+    _add(channel, f"{{{OWN}}}expires",
+         email.utils.format_datetime(date + datetime.timedelta(days=days)))
     for version in versions:
         _add_item(channel, version, files, address, key)
     ElementTree.indent(rss)

@@ -14,7 +14,7 @@ def _openssl(*arguments, data=None):
 
 
 def make_key(path):
-    """A new private key, for its owner alone; never in place of another one."""
+    """Makes a private key that only its owner may read. Never replaces another one."""
     key = _openssl("genpkey", "-algorithm", "ed25519")
     try:
         target = os.open(path, os.O_WRONLY | os.O_CREAT | os.O_EXCL, 0o600)
@@ -37,7 +37,7 @@ def signature(path, key):
 
 
 def signature_of_bytes(data, key):
-    # openssl wants to know the size of what it signs beforehand, so a pipe will not do.
+    # openssl needs the size of what it signs beforehand, so a pipe does not work.
     with tempfile.NamedTemporaryFile() as file:
         file.write(data)
         file.flush()

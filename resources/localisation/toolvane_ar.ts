@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>لا توجد تطبيقات في القائمة.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>إعادة الت&amp;حميل</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>حول Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>اختيار الفيديو المراد إنشاؤه</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ar.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>إصدار Toolvane %1 جاهز للتثبيت.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>جرى التحقق من الملف المنزَّل، وهو الآن في مجلد التنزيلات بالاسم ‎%1‎.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>جرى التحقق من الملف المنزَّل. مساره أدناه.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>يجري تنزيل Toolvane %1.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>كانت قائمة الإصدارات صالحة حتى %1، فقد تنقصها إصدارات أحدث. ربما يحجب أحدهم القوائم الأحدث. حاول لاحقًا أو عبر شبكة أخرى.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>قائمة الإصدارات: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>مسار الملف المنزَّل</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>اكتب عنوان تغذية المطوّر في ملف الإعدادات ‎%1‎ بالاسم UpdateFeed في القسم ‎[Addresses]‎. ثم تحقّق من التحديثات.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>بُنيت هذه النسخة من Toolvane بلا مفتاح المطوّر، فلا يمكنها تمييز الملف الأصلي من المزيّف، ولذلك لا تعرض أي تنزيل.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>بُنيت هذه النسخة من Toolvane بلا مفتاح المطوّر، فلا يمكنها التحقق من أن الإصدارات أصلية. لذلك تعرض المعلن فقط ولا تعرض أي تنزيل.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>لم يُنزَّل Toolvane %1.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>لم يُفتح Toolvane %1.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>إعادة ال&amp;فتح</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>انقطع الاتصال. تحقّق من الشبكة ثم حاول مرة أخرى.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>لم يتمكن الخادم من إثبات هويته: شهادته غير صالحة. تحقّق من ساعة هذا الحاسوب أو حاول عبر شبكة أخرى.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>الملف لم يعد موجودًا، أو ليس هو الملف الذي جرى التحقق منه. نزّله مرة أخرى.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>الرد غير مفهوم، فقد لا يكون من خادم التحديث. تحقّق من عنوانه أو حاول عبر شبكة أخرى.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>تعذّر حفظ الملف: ‎%1‎. تحقّق من إمكانية الكتابة في مجلد التنزيلات ومن وجود مساحة كافية، ثم حاول مرة أخرى.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>لم يتمكن أي برنامج من فتح الملف. استخدم «عرض في المجلد» للوصول إليه.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>أرسل الخادم أكثر مما أعلنه أو أكثر من المسموح، ولذلك لم يُحفظ شيء.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>تعذّر الاتصال أو انقطع. تحقّق من الشبكة ثم حاول مرة أخرى.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>لم يصل أي رد. تحقّق من الشبكة ثم حاول مرة أخرى.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>يتوفر Toolvane %1.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>انتهت صلاحية قائمة الإصدارات.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>فشل التحقق من التحديثات.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>حذف المجلدات المؤشَّر عليها نهائيًا دون سؤال آخر</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% مستخدم</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 بايت</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>تم تحرير &#x2068;%1&#x2069;</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>تم تحرير &#x2068;%1&#x2069; وبقي الباقي: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>مجلد المنزل، بعد أن تمنح إذن الوصول إليه</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>غير موجود</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>تم الإيقاف. لم يستجب أحد المجلدات فتُرك كما هو. قد يتعذر الوصول إلى شيء موصول بداخله.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>تعذر البدء لأن النظام لا يسمح بمزيد من مسارات التنفيذ. أغلق برامج أخرى ثم حاول مرة أخرى.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>ليس مجلدًا</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>تتعذر قراءة جزء منه</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>يمر الطريق إليه عبر رابط</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>يوجد شيء موصول هناك</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>لا يوجد إذن</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>تم الإيقاف</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>لم يُحذف شيء: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>يقيس الملفات الزائدة في مجلد المنزل ويحذف المجلدات التي تؤشّر عليها.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>لم يُمنح إذن الوصول</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>تتعذر القراءة</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

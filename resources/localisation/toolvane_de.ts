@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>Es sind keine Anwendungen aufgeführt.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>Neu &amp;laden</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Info zu Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Zu erstellendes Video auswählen</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_de.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 kann jetzt installiert werden.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>Die heruntergeladene Datei wurde geprüft und liegt als %1 im Ordner „Downloads“.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>Die heruntergeladene Datei wurde geprüft. Ihr Pfad steht unten.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 wird heruntergeladen.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>Die Liste der Versionen galt bis %1. Deshalb können neuere Versionen darin fehlen. Möglicherweise hält jemand neuere Listen zurück. Versuchen Sie es später oder in einem anderen Netzwerk noch einmal.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Liste der Versionen: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Pfad der heruntergeladenen Datei</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Tragen Sie die Adresse des Update-Feeds, die Sie vom Hersteller erhalten, in der Einstellungsdatei %1 als UpdateFeed im Abschnitt [Addresses] ein. Suchen Sie danach nach Updates.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Diese Fassung von Toolvane wurde ohne den Schlüssel des Herstellers gebaut. Sie könnte einen echten Download nicht von einem gefälschten unterscheiden und bietet deshalb keinen an.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Diese Fassung von Toolvane wurde ohne den Schlüssel des Herstellers gebaut. Sie kann nicht prüfen, ob Versionen echt sind. Deshalb zeigt sie nur Ankündigungen und bietet keinen Download an.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 wurde nicht heruntergeladen.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 wurde nicht geöffnet.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>&amp;Erneut öffnen</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>Die Verbindung brach ab. Prüfen Sie Ihr Netzwerk und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>Der Server konnte sich nicht ausweisen: Sein Zertifikat ist nicht gültig. Prüfen Sie die Uhr dieses Computers oder versuchen Sie es in einem anderen Netzwerk.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>Die Datei ist nicht mehr da oder nicht die, die geprüft wurde. Laden Sie sie noch einmal herunter.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>Die Antwort ergibt keinen Sinn. Vielleicht kommt sie nicht vom Update-Server. Prüfen Sie dessen Adresse oder versuchen Sie es in einem anderen Netzwerk.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>Die Datei konnte nicht gespeichert werden: %1. Prüfen Sie, ob in den Ordner „Downloads“ geschrieben werden kann und dort genug Platz ist, und versuchen Sie es dann noch einmal.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Kein Programm konnte die Datei öffnen. Mit „Im Ordner zeigen“ gelangen Sie zu ihr.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>Der Server hat mehr gesendet, als er angekündigt hatte oder als zulässig ist. Deshalb wurde nichts davon behalten.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>Es kam keine Verbindung zustande oder sie brach ab. Prüfen Sie Ihr Netzwerk und versuchen Sie es noch einmal.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Es kam keine Antwort. Prüfen Sie Ihr Netzwerk und versuchen Sie es noch einmal.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 ist verfügbar.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>Die Liste der Versionen ist abgelaufen.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>Die Suche nach Updates ist fehlgeschlagen.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Löscht die angekreuzten Ordner endgültig und ohne Rückfrage</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% belegt</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 Bytes</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 frei geworden</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 frei, Rest bleibt: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Ihr persönlicher Ordner, sobald Sie den Zugriff erlaubt haben</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Nicht vorhanden</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Angehalten. Ein Ordner hat nicht geantwortet und wurde zurückgelassen. Etwas, das darin eingehängt ist, ist vielleicht nicht erreichbar.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>Der Vorgang konnte nicht beginnen, weil das System keine weiteren Threads zulässt. Schließen Sie andere Programme und versuchen Sie es noch einmal.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Kein Ordner</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Ein Teil ist nicht lesbar</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>der Weg führt über eine Verknüpfung</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>dort ist etwas eingehängt</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>keine Berechtigung</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Nichts gelöscht: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Misst, was sich in Ihrem persönlichen Ordner angesammelt hat, und löscht die Ordner, die Sie ankreuzen.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Zugriff nicht erlaubt</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Nicht lesbar</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>No applications are listed.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Reload</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>About Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Select the video to make</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 is ready to be installed.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>The download was checked and is now in your Downloads folder as %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>The download was checked. Its path is below.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 is being downloaded.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>List of versions: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Path of the downloaded file</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Write the address of the maker's feed into the settings file %1, as UpdateFeed in the section [Addresses]. Then check for updates.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 was not downloaded.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 was not opened.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>&amp;Open Again</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>The connection broke off. Check your network and try again.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>The file is gone, or it is not the one that was checked. Download it again.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>No program here could open the file. Use Show in Folder to get to it.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>The server sent more than it had announced or more than is allowed, so nothing was kept.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>There was no connection, or it broke off. Check your network and try again.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Nothing answered. Check your network and try again.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 is available.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>The list of versions has expired.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>The check for updates failed.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Deletes the ticked folders for good, without asking again</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% used</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 bytes</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 freed</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 freed, some stayed: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Your home folder, once you have granted access to it</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Not there</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>This could not start, because the system allows no more threads. Close other programs and try again.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Not a folder</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Some of it cannot be read</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>it is reached through a link</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>something is mounted there</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>no permission</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>stopped</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Nothing deleted: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Measures the clutter in your home folder and deletes the folders that you tick.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Access not granted</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Cannot be read</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>No hay aplicaciones en la lista.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Recargar</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Acerca de Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Elegir el vídeo que se creará</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_es.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 está listo para instalarse.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>Se ha comprobado la descarga y está en su carpeta Descargas con el nombre %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>Se ha comprobado la descarga. Su ruta está más abajo.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Se está descargando Toolvane %1.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>La lista de versiones era válida hasta el %1, así que pueden faltar versiones más recientes. Es posible que alguien esté reteniendo listas más recientes. Inténtelo de nuevo más tarde o desde otra red.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Lista de versiones: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Ruta del archivo descargado</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Escriba la dirección del canal del desarrollador en el archivo de configuración %1, como UpdateFeed en la sección [Addresses]. Después busque actualizaciones.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Esta copia de Toolvane se compiló sin la clave del desarrollador. No podría distinguir una descarga auténtica de una falsa, así que no ofrece ninguna.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Esta copia de Toolvane se compiló sin la clave del desarrollador. No puede comprobar si las versiones son auténticas, así que solo muestra lo que se anuncia y no ofrece ninguna descarga.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>No se ha descargado Toolvane %1.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>No se ha abierto Toolvane %1.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>Abrir de &amp;nuevo</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>La conexión se ha interrumpido. Compruebe la red e inténtelo de nuevo.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>El servidor no ha podido demostrar su identidad: su certificado no es válido. Compruebe el reloj de este equipo o pruebe desde otra red.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>El archivo ya no está o no es el que se comprobó. Descárguelo de nuevo.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>La respuesta no tiene sentido, así que quizá no venga del servidor de actualizaciones. Compruebe su dirección o pruebe desde otra red.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>No se ha podido guardar el archivo: %1. Compruebe que se puede escribir en la carpeta Descargas y que hay espacio en ella e inténtelo de nuevo.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Ningún programa ha podido abrir el archivo. Use «Mostrar en la carpeta» para llegar a él.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>El servidor ha enviado más de lo que había anunciado o de lo permitido, así que no se ha conservado nada.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>No se ha podido establecer la conexión o se ha interrumpido. Compruebe la red e inténtelo de nuevo.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>No ha habido respuesta. Compruebe la red e inténtelo de nuevo.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 está disponible.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>La lista de versiones ha caducado.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>La búsqueda de actualizaciones ha fallado.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Elimina definitivamente las carpetas marcadas, sin volver a preguntar</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% en uso</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 bytes</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 liberados</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 liberados; el resto no: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Su carpeta personal, una vez autorizado el acceso</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>No existe</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Detenido. Una carpeta no respondió y se dejó como estaba. Puede que algo montado en ella no esté accesible.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>No se ha podido empezar porque el sistema no permite más hilos. Cierre otros programas e inténtelo de nuevo.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>No es una carpeta</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Una parte no se puede leer</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>se llega a través de un enlace</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>hay algo montado ahí</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>sin permiso</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>detenido</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>No se ha eliminado nada: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Mide lo que ocupa espacio sin necesidad en su carpeta personal y elimina las carpetas que marque.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Acceso no autorizado</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>No se puede leer</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

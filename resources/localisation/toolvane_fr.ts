@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>Aucune application n’est répertoriée.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Recharger</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>À propos de Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Choisir la vidéo à créer</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_fr.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 est prêt à être installé.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>Le fichier téléchargé a été vérifié et se trouve dans votre dossier Téléchargements sous le nom %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>Le fichier téléchargé a été vérifié. Son chemin est indiqué ci-dessous.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Téléchargement de Toolvane %1 en cours.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>La liste des versions était valable jusqu’au %1. Des versions plus récentes peuvent donc y manquer. Quelqu’un retient peut-être les listes plus récentes. Réessayez plus tard ou depuis un autre réseau.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Liste des versions : %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Chemin du fichier téléchargé</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Inscrivez l’adresse du flux de l’éditeur dans le fichier de réglages %1, sous le nom UpdateFeed dans la section [Addresses]. Recherchez ensuite des mises à jour.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Cette copie de Toolvane a été compilée sans la clé de l’éditeur. Elle ne pourrait pas distinguer un téléchargement authentique d’un faux et n’en propose donc aucun.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Cette copie de Toolvane a été compilée sans la clé de l’éditeur. Elle ne peut pas vérifier que les versions sont authentiques : elle montre seulement ce qui est annoncé et ne propose aucun téléchargement.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 n’a pas été téléchargé.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 n’a pas été ouvert.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>Ouvrir à &amp;nouveau</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>La connexion a été interrompue. Vérifiez votre réseau et réessayez.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>Le serveur n’a pas pu prouver son identité : son certificat n’est pas valable. Vérifiez l’heure de cet ordinateur ou essayez depuis un autre réseau.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>Le fichier a disparu ou n’est plus celui qui a été vérifié. Téléchargez-le de nouveau.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>La réponse n’a pas de sens. Elle ne vient peut-être pas du serveur de mises à jour. Vérifiez son adresse ou essayez depuis un autre réseau.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>Le fichier n’a pas pu être enregistré : %1. Vérifiez que le dossier Téléchargements est accessible en écriture et dispose d’assez de place, puis réessayez.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Aucun programme n’a pu ouvrir le fichier. Utilisez « Afficher le dossier » pour y accéder.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>Le serveur a envoyé plus de données qu’annoncé ou que permis. Rien n’a donc été conservé.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>La connexion n’a pas pu être établie ou a été interrompue. Vérifiez votre réseau et réessayez.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Aucune réponse n’est arrivée. Vérifiez votre réseau et réessayez.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 est disponible.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>La liste des versions a expiré.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>La recherche de mises à jour a échoué.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Supprime définitivement les dossiers cochés, sans demander de confirmation</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% utilisés</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 octet</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 libérés</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 libérés, le reste non : %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Votre dossier personnel, une fois l’accès autorisé</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Absent</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Arrêté. Un dossier n’a pas répondu et a été laissé de côté. Un système de fichiers qui y est monté est peut-être inaccessible.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>L’opération n’a pas pu commencer, car le système n’autorise pas d’autres threads. Fermez d’autres programmes et réessayez.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Ce n’est pas un dossier</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Une partie est illisible</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>le chemin passe par un lien</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>un système de fichiers y est monté</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>autorisation manquante</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>arrêté</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Rien n’a été supprimé : %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Mesure ce qui encombre votre dossier personnel et supprime les dossiers que vous cochez.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Accès non autorisé</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Illisible</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

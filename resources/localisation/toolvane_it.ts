@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>Nessuna applicazione in elenco.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Ricarica</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Informazioni su Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Scegli il video da creare</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_it.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 è pronto per l’installazione.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>Il file scaricato è stato verificato e si trova nella cartella Scaricati con il nome %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>Il file scaricato è stato verificato. Il percorso è qui sotto.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Scaricamento di Toolvane %1 in corso.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>L’elenco delle versioni era valido fino al %1, quindi possono mancare versioni più recenti. È possibile che qualcuno trattenga gli elenchi più recenti. Riprovare più tardi o da un’altra rete.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Elenco delle versioni: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Percorso del file scaricato</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Scrivere l’indirizzo del feed dello sviluppatore nel file delle impostazioni %1, come UpdateFeed nella sezione [Addresses]. Poi cercare gli aggiornamenti.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Questa copia di Toolvane è stata compilata senza la chiave dello sviluppatore. Non potrebbe distinguere un file autentico da uno falso, quindi non ne propone nessuno.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Questa copia di Toolvane è stata compilata senza la chiave dello sviluppatore. Non può verificare se le versioni sono autentiche, quindi mostra solo gli annunci e non propone nessun download.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 non è stato scaricato.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 non è stato aperto.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>Apri di &amp;nuovo</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>La connessione si è interrotta. Verificare la rete e riprovare.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>Il server non ha potuto dimostrare la propria identità: il certificato non è valido. Verificare l’orologio di questo computer o provare da un’altra rete.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>Il file non c’è più o non è quello che è stato verificato. Scaricarlo di nuovo.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>La risposta non ha senso, quindi forse non viene dal server degli aggiornamenti. Verificare l’indirizzo o provare da un’altra rete.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>Impossibile salvare il file: %1. Verificare che la cartella Scaricati sia scrivibile e abbia spazio sufficiente, quindi riprovare.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Nessun programma ha potuto aprire il file. Usare “Mostra nella cartella” per raggiungerlo.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>Il server ha inviato più di quanto annunciato o consentito, quindi non è stato conservato nulla.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>Non è stato possibile stabilire la connessione oppure si è interrotta. Verificare la rete e riprovare.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Non c’è stata risposta. Verificare la rete e riprovare.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 è disponibile.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>L’elenco delle versioni è scaduto.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>La ricerca di aggiornamenti non è riuscita.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Elimina definitivamente le cartelle selezionate, senza chiedere conferma</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% in uso</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 byte</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 liberati</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 liberati, il resto no: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>La cartella Home, una volta autorizzato l’accesso</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Non presente</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Interrotto. Una cartella non ha risposto ed è stata lasciata indietro. Qualcosa che vi è montato potrebbe non essere raggiungibile.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>L’operazione non è potuta iniziare perché il sistema non consente altri thread. Chiuda altri programmi e riprovi.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Non è una cartella</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Una parte non è leggibile</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>ci si arriva tramite un collegamento</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>lì è montato qualcosa</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>permesso mancante</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>interrotto</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Nulla è stato eliminato: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Misura ciò che ingombra la cartella Home ed elimina le cartelle selezionate.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Accesso non autorizzato</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Non leggibile</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>一覧にアプリはありません。</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>再読み込み(&amp;R)</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane について</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>作成するビデオを選択</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ja.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 をインストールする準備ができました。</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>ダウンロードしたファイルは検証済みです。ダウンロードフォルダーに %1 として保存されています。</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>ダウンロードしたファイルは検証済みです。保存場所は下に表示されています。</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 をダウンロードしています。</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>バージョンの一覧の有効期限は %1 でした。新しいバージョンが載っていない可能性があり、新しい一覧の配信が何者かに妨げられている可能性もあります。しばらくしてから、または別のネットワークでもう一度お試しください。</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>バージョンの一覧: %1</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>ダウンロードしたファイルのパス</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>設定ファイル %1 の [Addresses] セクションに、開発元のフィードのアドレスを UpdateFeed として記入してください。その後、アップデートを確認してください。</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>この Toolvane は開発元の鍵なしでビルドされています。ダウンロードしたファイルの真偽を判別できないため、ダウンロードは提供されません。</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>この Toolvane は開発元の鍵なしでビルドされています。バージョンの真偽を確認できないため、お知らせの表示だけを行い、ダウンロードは提供されません。</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 はダウンロードされませんでした。</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 は開かれませんでした。</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>もう一度開く(&amp;O)</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>接続が途中で切れました。ネットワークを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>サーバーの証明書が有効でないため、サーバーの身元を確認できませんでした。このコンピューターの時計を確認するか、別のネットワークでお試しください。</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>ファイルがなくなったか、検証したものと異なります。もう一度ダウンロードしてください。</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>応答の内容が正しくありません。アップデートサーバーからの応答ではない可能性があります。アドレスを確認するか、別のネットワークでお試しください。</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>ファイルを保存できませんでした: %1。ダウンロードフォルダーに書き込めることと空き容量があることを確認してから、もう一度お試しください。</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>このファイルを開けるプログラムがありませんでした。「フォルダーを表示」でファイルの場所を開けます。</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>サーバーから通知されたサイズまたは上限を超えるデータが届いたため、何も保存していません。</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>接続できなかったか、接続が途中で切れました。ネットワークを確認してから、もう一度お試しください。</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>応答がありませんでした。ネットワークを確認してから、もう一度お試しください。</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 を利用できます。</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>バージョンの一覧の有効期限が切れています。</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>アップデートを確認できませんでした。</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>チェックを付けたフォルダーを、再確認なしで完全に削除します</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% 使用中</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 バイト</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 を解放しました</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 を解放、残りあり: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>アクセスを許可すると、ホームフォルダーが表示されます</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>ありません</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>停止しました。応答しないフォルダがあったため、途中で打ち切りました。その中にマウントされているものに接続できない可能性があります。</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>システムがこれ以上のスレッドを許可しないため、開始できませんでした。ほかのプログラムを終了してから、もう一度お試しください。</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>フォルダではありません</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>一部を読み取れません</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>途中にリンクがあります</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>マウントされているものがあります</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>権限がありません</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>停止しました</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>何も削除していません: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>ホームフォルダー内の不要なファイルを調べ、チェックを付けたフォルダーを削除します。</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>アクセスは許可されていません</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>読み取れません</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>목록에 앱이 없습니다.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>다시 불러오기(&amp;R)</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane 정보</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>만들 비디오 선택</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_ko.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 설치 준비가 되었습니다.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>다운로드한 파일을 검증했으며, 다운로드 폴더에 다음 이름으로 저장했습니다: %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>다운로드한 파일을 검증했습니다. 경로는 아래에 있습니다.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 다운로드 중입니다.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>버전 목록은 %1까지 유효했으므로 새 버전이 빠져 있을 수 있습니다. 누군가 새 목록이 전달되지 않게 막고 있을 수 있습니다. 나중에 또는 다른 네트워크에서 다시 시도하십시오.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>버전 목록: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>다운로드한 파일의 경로</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>설정 파일 %1의 [Addresses] 섹션에 제작사의 피드 주소를 UpdateFeed 값으로 입력하십시오. 그런 다음 업데이트를 확인하십시오.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>이 Toolvane은 제작사의 키 없이 빌드되었습니다. 다운로드한 파일이 진짜인지 구별할 수 없으므로 다운로드를 제공하지 않습니다.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>이 Toolvane은 제작사의 키 없이 빌드되었습니다. 버전이 진짜인지 확인할 수 없으므로 알려진 내용만 보여 주고 다운로드를 제공하지 않습니다.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 버전이 다운로드되지 않았습니다.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 파일을 열지 않았습니다.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>다시 열기(&amp;O)</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>연결이 끊어졌습니다. 네트워크를 확인한 다음 다시 시도하십시오.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>서버의 인증서가 올바르지 않아 서버의 신원을 확인할 수 없습니다. 이 컴퓨터의 시계를 확인하거나 다른 네트워크에서 시도하십시오.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>파일이 없어졌거나 검증한 파일과 다릅니다. 다시 다운로드하십시오.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>응답의 내용이 올바르지 않습니다. 업데이트 서버의 응답이 아닐 수 있습니다. 주소를 확인하거나 다른 네트워크에서 시도하십시오.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>파일을 저장하지 못했습니다: %1. 다운로드 폴더에 쓸 수 있고 공간이 있는지 확인한 다음 다시 시도하십시오.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>파일을 열 수 있는 프로그램이 없습니다. “폴더에서 보기”로 파일을 찾을 수 있습니다.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>서버가 알린 크기나 허용된 크기보다 많은 데이터를 보내서 아무것도 저장하지 않았습니다.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>연결할 수 없거나 연결이 끊어졌습니다. 네트워크를 확인한 다음 다시 시도하십시오.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>응답이 없습니다. 네트워크를 확인한 다음 다시 시도하십시오.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 버전을 사용할 수 있습니다.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>버전 목록의 유효 기간이 지났습니다.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>업데이트를 확인하지 못했습니다.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>체크한 폴더를 다시 묻지 않고 완전히 삭제합니다</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% 사용 중</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0바이트</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 확보함</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 확보, 나머지 남음: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>접근을 허용하면 홈 폴더가 표시됩니다</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>없음</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>중지했습니다. 응답하지 않는 폴더가 있어 그대로 두었습니다. 그 안에 마운트된 것에 연결할 수 없을 수 있습니다.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>시스템에서 스레드를 더 허용하지 않아 시작할 수 없었습니다. 다른 프로그램을 닫고 다시 시도하세요.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>폴더가 아님</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>일부를 읽을 수 없음</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>링크를 거치는 경로임</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>마운트된 것이 있음</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>권한 없음</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>중지됨</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>아무것도 삭제하지 않음: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>홈 폴더에 있는 불필요한 파일의 크기를 측정하고, 체크한 폴더를 삭제합니다.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>접근이 허용되지 않음</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>읽을 수 없음</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>Na liście nie ma programów.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>&amp;Wczytaj ponownie</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>O programie Toolvane</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Wybierz plik wideo do utworzenia</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_pl.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 jest gotowy do instalacji.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>Pobrany plik został sprawdzony i jest w katalogu Pobrane pod nazwą %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>Pobrany plik został sprawdzony. Jego ścieżka jest poniżej.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Trwa pobieranie programu Toolvane %1.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>Lista wersji była ważna do %1, więc może w niej brakować nowszych wersji. Możliwe, że ktoś zatrzymuje nowsze listy. Należy spróbować ponownie później lub w innej sieci.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Lista wersji: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>Ścieżka pobranego pliku</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Należy wpisać adres kanału producenta w pliku ustawień %1 jako UpdateFeed w sekcji [Addresses], a następnie wyszukać aktualizacje.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Ta kopia programu Toolvane została zbudowana bez klucza producenta. Nie odróżniłaby prawdziwej aktualizacji od fałszywej, więc żadnej nie proponuje.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Ta kopia programu Toolvane została zbudowana bez klucza producenta. Nie może sprawdzić, czy wersje są prawdziwe, więc pokazuje tylko zapowiedzi i nie proponuje pobierania.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Nie pobrano programu Toolvane %1.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Nie otwarto programu Toolvane %1.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>&amp;Otwórz ponownie</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>Połączenie zostało przerwane. Należy sprawdzić sieć i spróbować ponownie.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>Serwer nie potwierdził swojej tożsamości: jego certyfikat jest nieważny. Należy sprawdzić zegar tego komputera lub spróbować w innej sieci.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>Pliku już nie ma albo nie jest to plik, który został sprawdzony. Należy pobrać go ponownie.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>Odpowiedź jest bez sensu, więc może nie pochodzić z serwera aktualizacji. Należy sprawdzić jego adres lub spróbować w innej sieci.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>Nie udało się zapisać pliku: %1. Należy sprawdzić, czy w katalogu Pobrane można zapisywać i czy jest w nim dość miejsca, a następnie spróbować ponownie.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Żaden program nie mógł otworzyć pliku. Aby do niego przejść, należy użyć przycisku „Pokaż w katalogu”.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>Serwer przysłał więcej danych, niż zapowiedział lub niż jest dozwolone, więc niczego nie zachowano.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>Nie udało się nawiązać połączenia lub zostało ono przerwane. Należy sprawdzić sieć i spróbować ponownie.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Brak odpowiedzi. Należy sprawdzić sieć i spróbować ponownie.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 jest dostępny.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>Lista wersji straciła ważność.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>Wyszukiwanie aktualizacji nie powiodło się.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>Trwale usuwa zaznaczone katalogi, bez ponownego pytania</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% zajęte</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 bajtów</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>Zwolniono %1</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>Zwolniono %1, resztę nie: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>Katalog domowy, po przyznaniu do niego dostępu</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Nie istnieje</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Zatrzymano. Jeden z folderów nie odpowiedział i został pominięty. Coś, co jest w nim zamontowane, może być nieosiągalne.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>Nie można było rozpocząć, ponieważ system nie pozwala na więcej wątków. Zamknij inne programy i spróbuj ponownie.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>To nie jest folder</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Części nie można odczytać</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>droga prowadzi przez dowiązanie</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>coś jest tam zamontowane</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>brak uprawnień</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>zatrzymano</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Niczego nie usunięto: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Mierzy, co zajmuje miejsce w katalogu domowym, i usuwa zaznaczone katalogi.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Dostęp nieprzyznany</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Nie można odczytać</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -15,6 +15,10 @@
         <source>No applications are listed.</source>
         <translation>Listede uygulama yok.</translation>
     </message>
+    <message id="About.Reload">
+        <source>&amp;Reload</source>
+        <translation>Yeniden &amp;Yükle</translation>
+    </message>
     <message id="About.Title">
         <source>About Toolvane</source>
         <translation>Toolvane Hakkında</translation>
@@ -66,6 +70,10 @@
     <message id="AVConvert.OutputSelect.Name">
         <source>Select the video to make</source>
         <translation>Oluşturulacak videoyu seç</translation>
+    </message>
+    <message id="AVConvert.Presets">
+        <source>avconvert.plist</source>
+        <translation>avconvert_tr.plist</translation>
     </message>
     <message id="AVConvert.Source.Name">
         <source>Video to convert</source>
@@ -760,12 +768,24 @@
         <translation>Toolvane %1 kurulmaya hazır.</translation>
     </message>
     <message id="Update.Downloaded.Where">
-        <source>The download was checked and is now in your Downloads folder as %1.</source>
-        <translation>İndirilen dosya denetlendi ve İndirilenler klasörünüze şu adla kondu: %1.</translation>
+        <source>The download was checked. Its path is below.</source>
+        <translation>İndirilen dosya denetlendi. Yolu aşağıda.</translation>
     </message>
     <message id="Update.Downloading">
         <source>Toolvane %1 is being downloaded.</source>
         <translation>Toolvane %1 indiriliyor.</translation>
+    </message>
+    <message id="Update.Expired">
+        <source>The list of versions was valid until %1, so newer versions may be missing from it. Somebody may be holding back newer lists. Try again later, or in another network.</source>
+        <translation>Sürüm listesi şu tarihe kadar geçerliydi: %1. Bu yüzden daha yeni sürümler eksik olabilir. Biri yeni listeleri alıkoyuyor olabilir. Daha sonra ya da başka bir ağda yeniden deneyin.</translation>
+    </message>
+    <message id="Update.FeedDate">
+        <source>List of versions: %1.</source>
+        <translation>Sürüm listesi: %1.</translation>
+    </message>
+    <message id="Update.File.Name">
+        <source>Path of the downloaded file</source>
+        <translation>İndirilen dosyanın yolu</translation>
     </message>
     <message id="Update.Installed">
         <source>Toolvane %1 is installed.</source>
@@ -792,8 +812,8 @@
         <translation>Geliştiricinin güncelleme akışının adresini %1 ayar dosyasına, [Addresses] bölümündeki UpdateFeed değeri olarak yazın. Ardından güncellemeleri denetleyin.</translation>
     </message>
     <message id="Update.NoKey">
-        <source>This copy of Toolvane was built without the maker's key. It could not tell a genuine download from a false one, so it offers none.</source>
-        <translation>Bu Toolvane kopyası geliştiricinin anahtarı olmadan derlenmiş. Gerçek bir dosyayı sahtesinden ayırt edemeyeceği için indirme sunmuyor.</translation>
+        <source>This copy of Toolvane was built without the maker's key. It cannot check whether versions are genuine, so it only shows what is announced and offers no download.</source>
+        <translation>Bu Toolvane kopyası geliştiricinin anahtarı olmadan derlenmiş. Sürümlerin gerçek olup olmadığını denetleyemez; bu yüzden yalnızca duyurulanı gösterir ve indirme sunmaz.</translation>
     </message>
     <message id="Update.NoNotes">
         <source>No notes come with this version.</source>
@@ -802,6 +822,10 @@
     <message id="Update.NotDownloaded">
         <source>Toolvane %1 was not downloaded.</source>
         <translation>Toolvane %1 indirilmedi.</translation>
+    </message>
+    <message id="Update.NotOpened">
+        <source>Toolvane %1 was not opened.</source>
+        <translation>Toolvane %1 açılmadı.</translation>
     </message>
     <message id="Update.Notes">
         <source>What Is New</source>
@@ -814,6 +838,22 @@
     <message id="Update.Open">
         <source>&amp;Open Again</source>
         <translation>Y&amp;eniden Aç</translation>
+    </message>
+    <message id="Update.Problem.BrokenOff">
+        <source>The connection broke off. Check your network and try again.</source>
+        <translation>Bağlantı koptu. Ağınızı denetleyip yeniden deneyin.</translation>
+    </message>
+    <message id="Update.Problem.Certificate">
+        <source>The server could not prove who it is: its certificate is not valid. Check the clock of this computer, or try another network.</source>
+        <translation>Sunucu kimliğini kanıtlayamadı: sertifikası geçerli değil. Bu bilgisayarın saatini denetleyin ya da başka bir ağda deneyin.</translation>
+    </message>
+    <message id="Update.Problem.Changed">
+        <source>The file is gone, or it is not the one that was checked. Download it again.</source>
+        <translation>Dosya artık yok ya da denetlenen dosya değil. Yeniden indirin.</translation>
+    </message>
+    <message id="Update.Problem.Garbled">
+        <source>The answer makes no sense, so it may not come from the update server. Check its address, or try another network.</source>
+        <translation>Yanıt anlamsız, bu yüzden güncelleme sunucusundan gelmiyor olabilir. Sunucunun adresini denetleyin ya da başka bir ağda deneyin.</translation>
     </message>
     <message id="Update.Problem.Incomplete">
         <source>Less arrived than the server had announced. Try again.</source>
@@ -834,6 +874,10 @@
     <message id="Update.Problem.NotWritten">
         <source>The file could not be saved: %1. Look whether the Downloads folder can be written and has room, then try again.</source>
         <translation>Dosya kaydedilemedi: %1. İndirilenler klasörünün yazılabilir olduğuna ve yeterli yer bulunduğuna bakıp yeniden deneyin.</translation>
+    </message>
+    <message id="Update.Problem.NothingOpens">
+        <source>No program here could open the file. Use Show in Folder to get to it.</source>
+        <translation>Hiçbir program dosyayı açamadı. Dosyaya ulaşmak için “Klasörde Göster”i kullanın.</translation>
     </message>
     <message id="Update.Problem.Older">
         <source>It is older than the one you got before, so somebody may have kept it back. Try again later, or in another network.</source>
@@ -856,8 +900,8 @@
         <translation>Sunucu bildirdiğinden ya da izin verilenden fazlasını gönderdi, bu yüzden hiçbir şey saklanmadı.</translation>
     </message>
     <message id="Update.Problem.Unreachable">
-        <source>There was no connection, or it broke off. Check your network and try again.</source>
-        <translation>Bağlantı kurulamadı ya da koptu. Ağınızı denetleyip yeniden deneyin.</translation>
+        <source>Nothing answered. Check your network and try again.</source>
+        <translation>Yanıt gelmedi. Ağınızı denetleyip yeniden deneyin.</translation>
     </message>
     <message id="Update.Problem.UnsafeAddress">
         <source>Its address does not begin with https, or it leads to one that does not. Ask the maker for the right address.</source>
@@ -878,6 +922,14 @@
     <message id="Update.Result.Available">
         <source>Toolvane %1 is available.</source>
         <translation>Toolvane %1 kullanılabilir.</translation>
+    </message>
+    <message id="Update.Result.Expired">
+        <source>The list of versions has expired.</source>
+        <translation>Sürüm listesinin süresi doldu.</translation>
+    </message>
+    <message id="Update.Result.NotChecked">
+        <source>The check for updates failed.</source>
+        <translation>Güncelleme denetimi başarısız oldu.</translation>
     </message>
     <message id="Update.Result.NotReached">
         <source>The update server could not be reached.</source>
@@ -963,9 +1015,17 @@
         <source>Deletes the ticked folders for good, without asking again</source>
         <translation>İşaretli klasörleri yeniden sormadan kalıcı olarak sil</translation>
     </message>
-    <message id="UserCache.Gauge.Format">
-        <source>%p% used</source>
-        <translation>%p% dolu</translation>
+    <message id="UserCache.Empty">
+        <source>0 bytes</source>
+        <translation>0 bayt</translation>
+    </message>
+    <message id="UserCache.Freed">
+        <source>%1 freed</source>
+        <translation>%1 boşaltıldı</translation>
+    </message>
+    <message id="UserCache.FreedPartly">
+        <source>%1 freed, some stayed: %2</source>
+        <translation>%1 boşaltıldı, gerisi kaldı: %2</translation>
     </message>
     <message id="UserCache.Gauge.Name">
         <source>Used disk space</source>
@@ -983,6 +1043,46 @@
         <source>Your home folder, once you have granted access to it</source>
         <translation>İzin verdiğinizde ev klasörünüz burada görünür</translation>
     </message>
+    <message id="UserCache.Missing">
+        <source>Not there</source>
+        <translation>Yok</translation>
+    </message>
+    <message id="UserCache.NoAnswer">
+        <source>Stopped. A folder did not answer and was left behind. Something that is mounted in it may be out of reach.</source>
+        <translation>Durduruldu. Bir klasör yanıt vermedi ve geride bırakıldı. İçine bağlanmış bir şeye ulaşılamıyor olabilir.</translation>
+    </message>
+    <message id="UserCache.NoThread">
+        <source>This could not start, because the system allows no more threads. Close other programs and try again.</source>
+        <translation>Sistem daha fazla iş parçacığına izin vermediği için başlatılamadı. Başka programları kapatıp yeniden deneyin.</translation>
+    </message>
+    <message id="UserCache.NotAFolder">
+        <source>Not a folder</source>
+        <translation>Klasör değil</translation>
+    </message>
+    <message id="UserCache.PartlyUnreadable">
+        <source>Some of it cannot be read</source>
+        <translation>Bir bölümü okunamıyor</translation>
+    </message>
+    <message id="UserCache.Reason.Link">
+        <source>it is reached through a link</source>
+        <translation>yolu bir bağlantıdan geçiyor</translation>
+    </message>
+    <message id="UserCache.Reason.Mounted">
+        <source>something is mounted there</source>
+        <translation>oraya bir şey bağlı</translation>
+    </message>
+    <message id="UserCache.Reason.Permission">
+        <source>no permission</source>
+        <translation>izin yok</translation>
+    </message>
+    <message id="UserCache.Reason.Stopped">
+        <source>stopped</source>
+        <translation>durduruldu</translation>
+    </message>
+    <message id="UserCache.Stayed">
+        <source>Nothing deleted: %1</source>
+        <translation>Hiçbir şey silinmedi: %1</translation>
+    </message>
     <message id="UserCache.Subtitle">
         <source>Measures the clutter in your home folder and deletes the folders that you tick.</source>
         <translation>Ev klasörünüzdeki gereksiz dosyaları ölçer ve işaretlediğiniz klasörleri siler.</translation>
@@ -990,6 +1090,10 @@
     <message id="UserCache.Unauthorized">
         <source>Access not granted</source>
         <translation>Erişim izni verilmedi</translation>
+    </message>
+    <message id="UserCache.Unreadable">
+        <source>Cannot be read</source>
+        <translation>Okunamıyor</translation>
     </message>
     <message id="UserExistAlert">
         <source>A user with this name already exists. Choose another name.</source>

@@ -148,14 +148,15 @@ List conversionArguments(const Preset &preset, const Media &media, const std::st
                          const std::string &output)
 {
     const bool copies = preset.codec == VideoCodec::Copy;
-    return joined({{"-v", "error", "-nostdin", "-hide_banner", "-nostats", "-y"},
-                   readingOptions(),
-                   {"-fflags", "+genpts", "-i", "file:" + source},
-                   mapping(media),
-                   copies ? passThrough(media) : encoding(preset, media),
-                   coverCopy(media),
-                   {"-c:s", "mov_text", "-movflags", "+faststart", "-brand", "M4V ", "-f", "mp4"},
-                   {"file:" + output}});
+    return joined(
+        {{"-v", "error", "-nostdin", "-hide_banner", "-nostats", "-progress", "pipe:1", "-y"},
+         readingOptions(),
+         {"-fflags", "+genpts", "-i", "file:" + source},
+         mapping(media),
+         copies ? passThrough(media) : encoding(preset, media),
+         coverCopy(media),
+         {"-c:s", "mov_text", "-movflags", "+faststart", "-brand", "M4V ", "-f", "mp4"},
+         {"file:" + output}});
 }
 
 } // namespace standin

@@ -4,7 +4,9 @@
 
 #include <sys/types.h>
 
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace standin
@@ -22,8 +24,9 @@ struct Command {
     int errors = -1; ///< descriptor; -1: our standard error
     std::vector<int> passed = {}; ///< descriptors that the child keeps, under the same numbers
 
-    /// A line that contains these words gives no reason and is never the last line. Empty: none.
-    std::string ignoredWords = {};
+    /// Gets each line of its errors as it comes, for runToEnd(), and tells whether the line may be
+    /// the last words: whether it could give the reason of a failure. Empty: each may.
+    std::function<bool(std::string_view line)> isReason = {};
 
     enum class Lifetime {
         EndsWithUs, ///< killed when we end, however we end

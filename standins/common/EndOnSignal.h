@@ -9,8 +9,9 @@ namespace standin
 
 /// Makes TERM, INT and HUP end the program cleanly: a signal handler kills and reaps every
 /// remembered child, removes the remembered temporary file and exits with 128 + signal. It needs no
-/// loop that looks at a flag, and a long system call does not delay it. Not thread-safe: these
-/// programs have one thread.
+/// loop that looks at a flag, and a long system call does not delay it. Not thread-safe: a second
+/// thread is started while the signals are held back, so that it never gets one, and neither starts
+/// children nor makes files.
 void installEndOnSignal();
 
 /// At most eight children at a time.

@@ -18,8 +18,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr ssize_t smallRead = 16384;
 constexpr auto gatherInterval = std::chrono::milliseconds(1);
-constexpr std::size_t maxErrors = 16384; // of which at least the last half is kept
-constexpr std::size_t maxLine = 1000;
+constexpr std::size_t maxLine = 1000; // bytes
 
 // Reads once; closes the descriptor at its end.
 void readSome(FileDescriptor &from, const OutputSink &sink)
@@ -62,30 +61,6 @@ bool drain(FileDescriptor &output, const OutputSink &sink, FileDescriptor &error
     return true;
 }
 
-// Keeps the end of what comes, whatever the child writes.
-void appendBounded(std::string &text, std::string_view bytes)
-{
-    text += bytes;
-    if (text.size() > maxErrors)
-        text.erase(0, text.size() - maxErrors / 2);
-}
-
-// The last line that is neither empty nor contains the ignored words.
-std::string lastLine(std::string_view text, const std::string &ignoredWords)
-{
-    while (!text.empty()) {
-        const std::size_t begin = text.find_last_of("\r\n") + 1; // npos + 1 is 0
-        std::string line(text.substr(begin, maxLine));
-        text = text.substr(0, std::max<std::size_t>(begin, 1) - 1);
-        if (line.empty() || (!ignoredWords.empty() && line.find(ignoredWords) != line.npos))
-            continue;
-        std::ranges::replace_if(
-            line, [](unsigned char c) { return std::iscntrl(c); }, ' ');
-        return line;
-    }
-    return {};
-}
-
 Command connected(Command command, const Pipe &output, const Pipe &errors)
 {
     command.output = output.writeEnd.number();
@@ -95,8 +70,28 @@ Command connected(Command command, const Pipe &output, const Pipe &errors)
 
 } // namespace
 
+void LineSplitter::add(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const std::size_t length = std::min(bytes.find_first_of("\r\n"), bytes.size());
+        m_line += bytes.substr(0, std::min(length, maxLine - m_line.size()));
+        bytes.remove_prefix(length);
+        if (bytes.empty())
+            return;
+        finish();
+        bytes.remove_prefix(1);
+    }
+}
+
+void LineSplitter::finish()
+{
+    if (!m_line.empty())
+        m_take(m_line);
+    m_line.clear();
+}
+
 CapturedChild::CapturedChild(Command command)
-    : m_program(command.program), m_ignoredWords(command.ignoredWords),
+    : m_program(command.program), m_isReason(command.isReason),
       m_child(connected(std::move(command), m_output, m_errors))
 {
     m_output.writeEnd.close();
@@ -105,12 +100,18 @@ CapturedChild::CapturedChild(Command command)
 
 Finished CapturedChild::finish(const OutputSink &sink, std::chrono::milliseconds timeout)
 {
-    std::string errors;
-    const auto keep = [&errors](std::string_view bytes) { appendBounded(errors, bytes); };
-    if (!drain(m_output.readEnd, sink, m_errors.readEnd, keep, timeout))
+    std::string words;
+    LineSplitter errors([this, &words](std::string_view line) {
+        if (!m_isReason || m_isReason(line))
+            words = line;
+    });
+    const auto take = [&errors](std::string_view bytes) { errors.add(bytes); };
+    if (!drain(m_output.readEnd, sink, m_errors.readEnd, take, timeout))
         m_child.kill();
+    errors.finish();
     const ChildEnd end = m_child.wait();
-    const std::string words = lastLine(errors, m_ignoredWords);
+    std::ranges::replace_if(
+        words, [](unsigned char c) { return std::iscntrl(c); }, ' ');
     return {end, words.empty() ? m_program + " ended with " + end.text() : words};
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace standin
 {
@@ -26,6 +27,21 @@ using OutputSink = std::function<void(std::string_view)>;
 /// Waits as long as the child takes.
 inline constexpr std::chrono::milliseconds noTimeout{-1};
 
+/// Cuts what a child writes into lines, at line feeds and carriage returns, and hands on the first
+/// 1,000 bytes of each that is not empty.
+class LineSplitter
+{
+public:
+    explicit LineSplitter(OutputSink take) : m_take(std::move(take)) { }
+
+    void add(std::string_view bytes);
+    void finish(); ///< hands on the last line, if it has no end
+
+private:
+    OutputSink m_take;
+    std::string m_line; // as far as it came
+};
+
 /// A child whose output and errors are read here. Killed if it is destroyed before finish().
 class CapturedChild
 {
@@ -41,7 +57,7 @@ public:
 
 private:
     std::string m_program;
-    std::string m_ignoredWords;
+    std::function<bool(std::string_view)> m_isReason;
     Pipe m_output;
     Pipe m_errors;
     Child m_child;

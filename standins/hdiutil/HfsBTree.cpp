@@ -171,7 +171,8 @@ void BTreeWriter::writeHeader(std::uint32_t mapNodes)
     out.u32(m_leafRecords).u32(isEmpty ? 0 : 1).u32(m_lastLeaf);
     out.u16(m_form.nodeSize).u16(m_form.maxKeyLength).u32(m_totalNodes);
     out.u32(0).u16(0); // free nodes, reserved
-    out.u32(m_form.nodeSize); // clump size, nothing will ever grow
+    const auto volumeSize = m_start + std::uint64_t{m_totalNodes} * m_form.nodeSize;
+    out.u32(treeClumpSize(volumeSize, m_form.nodeSize, m_form.maxClumpSize));
     out.u8(0).u8(m_form.keyCompareType).u32(m_form.attributes).zeros(64);
     out.zeros(userRecordSize);
     appendMap(node, headerMapSize(m_form.nodeSize), 0, m_totalNodes);

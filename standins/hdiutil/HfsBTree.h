@@ -12,6 +12,7 @@ struct BTreeForm {
     std::uint16_t maxKeyLength; ///< bytes, without the length field
     std::uint8_t keyCompareType; ///< see "HFSX"
     std::uint32_t attributes; ///< see "Header Record"
+    std::uint32_t maxClumpSize; ///< bytes
 };
 
 /// Writes a B-tree from records that come in ascending order (TN1150, "B-Trees"). Node 0 is the

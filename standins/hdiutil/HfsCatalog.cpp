@@ -96,7 +96,8 @@ std::uint64_t Catalog::write(ImageFile &image) const
     const bool isBinary = m_order == NameOrder::Binary;
     BTreeWriter tree(image,
                      {catalogNodeSize, catalogMaxKeyLength,
-                      isBinary ? binaryCompare : unspecifiedCompare, bigKeys | variableIndexKeys});
+                      isBinary ? binaryCompare : unspecifiedCompare, bigKeys | variableIndexKeys,
+                      catalogMaxClumpSize});
     auto child = m_sorted.begin();
     writeItem(tree, *child++); // the root folder, alone under the parent of the root
     for (std::uint32_t index = 0; index < m_entries.size(); ++index) {

@@ -84,6 +84,13 @@ void appendFork(Bytes &out, const Fork &fork, std::uint32_t clumpSize)
     writer.zeros(7 * 8); // the other seven extents
 }
 
+std::uint32_t treeClumpSize(std::uint64_t volumeSize, std::uint16_t nodeSize,
+                            std::uint32_t maxClumpSize)
+{
+    const auto nodes = std::min<std::uint64_t>(volumeSize / 128, maxClumpSize) / nodeSize;
+    return static_cast<std::uint32_t>(std::max<std::uint64_t>(nodes, 1) * nodeSize);
+}
+
 Bytes catalogKey(std::uint32_t parentId, std::u16string_view name)
 {
     Bytes key;

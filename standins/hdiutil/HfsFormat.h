@@ -54,6 +54,8 @@ private:
 constexpr std::uint32_t blockSize = 4096;
 constexpr std::uint16_t catalogNodeSize = 8192;
 constexpr std::uint16_t extentsNodeSize = 4096;
+constexpr std::uint32_t catalogMaxClumpSize = 6 << 20;
+constexpr std::uint32_t extentsMaxClumpSize = 4 << 20;
 
 // "Volume Header": where it and its copy begin, in bytes.
 constexpr std::uint64_t volumeHeaderOffset = 1024;
@@ -121,6 +123,13 @@ Item itemFrom(ItemKind kind, const struct stat &status);
 
 /// "Fork Data Structure"; an empty fork has no extent. The clump size is in bytes.
 void appendFork(Bytes &out, const Fork &fork, std::uint32_t clumpSize = 0);
+
+/// By how many bytes a B-tree would grow. Nothing ever grows here, but file-system checks refuse a
+/// catalog that would grow in small steps on a volume of more than 500 MiB, or by more than a quarter
+/// of a small one; hence what formatters choose: a 128th of the volume, in whole nodes. Both sizes
+/// are in bytes; the volume's may leave out what follows the tree.
+std::uint32_t treeClumpSize(std::uint64_t volumeSize, std::uint16_t nodeSize,
+                            std::uint32_t maxClumpSize);
 
 /// "Catalog File Keys", the length field included. A name has at most 255 units, that of a thread
 /// none.

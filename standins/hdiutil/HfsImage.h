@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OutputFile.h"
+#include "Progress.h"
 
 #include <string>
 
@@ -8,4 +9,5 @@
 /// itself stays out of it. What cannot be read or written fails; fifos, sockets and devices are
 /// left out, and one warning line says so.
 void writeHfsImage(standin::FileDescriptor folder, const std::string &source,
-                   const std::string &volumeName, const standin::OutputFile &output);
+                   const std::string &volumeName, const standin::OutputFile &output,
+                   standin::Progress &progress);

@@ -30,6 +30,13 @@ std::uint64_t blocksFor(std::uint64_t size)
     return (size + blockSize - 1) / blockSize;
 }
 
+// With the clump size that the tree's own header has.
+void appendTree(Bytes &header, const Fork &tree, std::uint16_t nodeSize, std::uint32_t maxClumpSize)
+{
+    const auto end = std::uint64_t{tree.firstBlock} * blockSize + tree.size;
+    appendFork(header, tree, treeClumpSize(end, nodeSize, maxClumpSize));
+}
+
 // Two images of different content should not look like one volume to the system.
 std::uint64_t identifier(ByteView bytes)
 {
@@ -95,7 +102,9 @@ Fork Volume::writeCatalog()
 Fork Volume::writeExtents()
 {
     beginFork();
-    BTreeWriter tree(m_image, {extentsNodeSize, extentsMaxKeyLength, unspecifiedCompare, bigKeys});
+    BTreeWriter tree(m_image,
+                     {extentsNodeSize, extentsMaxKeyLength, unspecifiedCompare, bigKeys,
+                      extentsMaxClumpSize});
     return endFork(tree.finish());
 }
 
@@ -138,8 +147,8 @@ Bytes Volume::header(NameOrder order, const Fork &catalog, const Fork &extents,
     out.u64(onlyRomanEncoding);
     out.zeros(finderInfoSize - sizeof(std::uint64_t)).u64(identifier(header));
     appendFork(header, allocation, blockSize);
-    appendFork(header, extents, extentsNodeSize);
-    appendFork(header, catalog, catalogNodeSize);
+    appendTree(header, extents, extentsNodeSize, extentsMaxClumpSize);
+    appendTree(header, catalog, catalogNodeSize, catalogMaxClumpSize);
     out.zeros(2 * forkSize); // no attributes file, no startup file
     return header;
 }

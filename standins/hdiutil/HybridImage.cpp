@@ -6,6 +6,12 @@
 #include <QList>
 #include <QString>
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
+
 namespace
 {
 
@@ -24,6 +30,34 @@ bool isControl(char32_t character)
     const auto category = QChar::category(character);
     return category == QChar::Other_Control || category == QChar::Other_Format
         || category == QChar::Separator_Line || category == QChar::Separator_Paragraph;
+}
+
+// xorriso says "Writing:  73728s  24.0%", in sectors of 2048 bytes, and a line later much the same
+// with another estimate of the whole: the first one is kept.
+void takeProgress(const std::string &line, standin::Progress &progress)
+{
+    std::uint64_t sectors = 0;
+    double percent = 0;
+    if (std::sscanf(line.c_str(), "xorriso : UPDATE : Writing: %" SCNu64 "s %lf%%", &sectors,
+                    &percent)
+            != 2
+        || percent <= 0)
+        return;
+    const double done = static_cast<double>(sectors) * 2048;
+    if (progress.total() == 0)
+        progress.setTotal(static_cast<std::uint64_t>(done * 100 / percent));
+    progress.setDone(static_cast<std::uint64_t>(done));
+}
+
+// Beside its errors xorriso says what it does, and last of all that it ends.
+bool isReason(std::string_view line)
+{
+    if (line.find("Image write cancelled") != line.npos) // follows the reason
+        return false;
+    static constexpr std::string_view severities[] = {
+        ": SORRY : ", ": MISHAP : ", ": FAILURE : ", ": FATAL : ", ": ABORT : "};
+    return std::ranges::any_of(
+        severities, [line](std::string_view severity) { return line.find(severity) != line.npos; });
 }
 
 } // namespace
@@ -53,7 +87,8 @@ std::vector<std::string> hybridArguments(const std::string &source, const std::s
     // byte sectors find the HFS Plus partition only with that block size in the partition map.
     // clang-format off
     std::vector<std::string> arguments{
-        "-no_rc", "-abort_on", "FAILURE", "-return_with", "SORRY", "32", "-report_about", "SORRY",
+        "-no_rc", "-abort_on", "FAILURE", "-return_with", "SORRY", "32", "-report_about", "UPDATE",
+        "-pacifier", "interval=0.2",
         "-in_charset", "UTF-8", "-out_charset", "UTF-8",
         "-disk_pattern", "off", "-iso_rr_pattern", "off", "-pathspecs", "off", "-follow", "mount",
         "-hfsplus", "on", "-joliet", "on",
@@ -73,14 +108,19 @@ std::vector<std::string> hybridArguments(const std::string &source, const std::s
 }
 
 void writeHybridImage(const std::string &source, const std::string &volumeName,
-                      const standin::OutputFile &output)
+                      const standin::OutputFile &output, standin::Progress &progress)
 {
     standin::Command command{.program = "xorriso", .package = "xorriso"};
     command.arguments = hybridArguments(standin::resolved(source), hybridVolumeName(volumeName),
                                         excludedPaths(output), output.descriptor());
     command.passed = {output.descriptor()};
-    command.ignoredWords = "Image write cancelled"; // follows the reason
+    command.isReason = [&progress](std::string_view line) {
+        takeProgress(std::string(line), progress);
+        return isReason(line);
+    };
     const auto finished = standin::runToEnd(command, standin::discard);
     if (!finished.succeeded())
         output.failWithWords(source, finished.lastWords);
+    if (progress.total() == 0) // it was too quick to say anything
+        progress.setTotal(static_cast<std::uint64_t>(::lseek(output.descriptor(), 0, SEEK_END)));
 }

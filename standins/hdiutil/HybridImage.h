@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OutputFile.h"
+#include "Progress.h"
 
 #include <string>
 #include <vector>
@@ -9,7 +10,7 @@
 /// Ridge and HFS Plus at once, by xorriso. Fails with xorriso's own words, and with status 69 if it
 /// is not installed.
 void writeHybridImage(const std::string &source, const std::string &volumeName,
-                      const standin::OutputFile &output);
+                      const standin::OutputFile &output, standin::Progress &progress);
 
 /// The volume name that every one of the file systems takes: no control characters, at most 32
 /// bytes, cut at a character; "Untitled" if nothing is left. What is not UTF-8 becomes '_'.

@@ -42,8 +42,9 @@ bool mayHaveHoles(const struct stat &status)
 
 } // namespace
 
-ImageFile::ImageFile(int descriptor, std::string path)
-    : m_descriptor(descriptor), m_path(std::move(path)), m_buffer(new std::uint8_t[bufferSize])
+ImageFile::ImageFile(int descriptor, std::string path, standin::Progress *progress)
+    : m_descriptor(descriptor), m_path(std::move(path)), m_progress(progress),
+      m_buffer(new std::uint8_t[bufferSize])
 {
 }
 
@@ -159,6 +160,8 @@ void ImageFile::flush()
     put(m_bufferStart, {m_buffer.get(), m_used});
     m_bufferStart += m_used;
     m_used = 0;
+    if (m_progress != nullptr)
+        m_progress->setDone(m_bufferStart);
 }
 
 } // namespace hfs

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "HfsFormat.h"
+#include "Progress.h"
 
 #include <sys/stat.h>
 
@@ -17,8 +18,9 @@ namespace hfs
 class ImageFile
 {
 public:
-    /// Borrows a descriptor that is open for writing on an empty file.
-    ImageFile(int descriptor, std::string path);
+    /// Borrows a descriptor that is open for writing on an empty file, and the progress, which
+    /// counts the bytes that are written.
+    ImageFile(int descriptor, std::string path, standin::Progress *progress = nullptr);
 
     /// Where the next byte goes.
     std::uint64_t position() const { return m_bufferStart + m_used; }
@@ -50,6 +52,7 @@ private:
 
     int m_descriptor;
     std::string m_path;
+    standin::Progress *m_progress;
     std::uint64_t m_bufferStart = 0; // where the buffer belongs in the file
     std::size_t m_used = 0; // bytes in the buffer
     std::unique_ptr<std::uint8_t[]> m_buffer;

@@ -121,4 +121,23 @@ struct stat statusOf(const FileDescriptor &file, const std::string &path)
     return status;
 }
 
+std::uint64_t contentSize(const FileDescriptor &folder, const std::string &path,
+                          std::uint32_t blockSize, const std::stop_token &stop, int levels)
+{
+    std::uint64_t size = 0;
+    for (const std::string &name : listNames(folder, path)) {
+        if (stop.stop_requested() || levels == 0)
+            standin::fail(path, "Was not counted");
+        const auto status = statusOf(folder, name, path);
+        if (status && S_ISREG(status->st_mode)) {
+            const auto bytes = static_cast<std::uint64_t>(status->st_size);
+            size += (bytes + blockSize - 1) / blockSize * blockSize;
+        } else if (status && S_ISDIR(status->st_mode)) {
+            const FileDescriptor inner = openFolder(folder, name, path);
+            size += inner.isOpen() ? contentSize(inner, path, blockSize, stop, levels - 1) : 0;
+        }
+    }
+    return size;
+}
+
 } // namespace source

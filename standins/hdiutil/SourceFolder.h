@@ -4,7 +4,9 @@
 
 #include <sys/stat.h>
 
+#include <cstdint>
 #include <optional>
+#include <stop_token>
 #include <string>
 #include <vector>
 
@@ -36,6 +38,12 @@ standin::FileDescriptor openFile(const standin::FileDescriptor &parent, const st
 /// Where a symbolic link leads; nothing if it has vanished.
 std::optional<std::string> linkTarget(const standin::FileDescriptor &folder,
                                       const std::string &name, const std::string &path);
+
+/// What the regular files of the folder and those below take, in bytes, each rounded up to whole
+/// blocks. Fails if something cannot be read, folders are nested more than 100 levels, or it is
+/// stopped. The folder was opened for this, as it is read once.
+std::uint64_t contentSize(const standin::FileDescriptor &folder, const std::string &path,
+                          std::uint32_t blockSize, const std::stop_token &stop, int levels = 100);
 
 /// Status of what is open. Only this can be trusted: what has a name may be replaced at any time.
 struct stat statusOf(const standin::FileDescriptor &file, const std::string &path);

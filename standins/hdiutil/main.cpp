@@ -4,6 +4,7 @@
 #include "HfsImage.h"
 #include "HybridImage.h"
 #include "Program.h"
+#include "Progress.h"
 #include "SourceFolder.h"
 
 #include <algorithm>
@@ -27,6 +28,7 @@ bool fits(const Arguments &arguments)
 
 void makeImage(Arguments arguments)
 {
+    Progress progress;
     const bool isHfs = arguments.size() > 1 && arguments[1] == "-hfs";
     if (isHfs)
         arguments.erase(arguments.begin() + 1);
@@ -37,10 +39,11 @@ void makeImage(Arguments arguments)
     FileDescriptor folder = source::openRoot(path);
     OutputFile output(arguments[2]);
     if (isHfs)
-        writeHfsImage(std::move(folder), path, volumeName, output);
+        writeHfsImage(std::move(folder), path, volumeName, output, progress);
     else
-        writeHybridImage(path, volumeName, output);
+        writeHybridImage(path, volumeName, output, progress);
     output.commit();
+    progress.finish();
 }
 
 } // namespace

@@ -66,11 +66,17 @@ std::string voiceCode(const std::string &title)
 
 Command synthesis(const Speech &speech)
 {
-    return {.program = "espeak-ng",
-            .package = "espeak-ng",
-            .arguments = {"-b", "1", "-v", speech.voice, "-s", std::to_string(speech.rate),
-                          "--stdin", "--stdout"},
-            .input = speech.text.number()};
+    Command command{.program = "espeak-ng",
+                    .package = "espeak-ng",
+                    .arguments = {"-b", "1", "-v", speech.voice, "-s", std::to_string(speech.rate),
+                                  "--stdin", "--stdout"},
+                    .input = speech.text.number()};
+    if (speech.phonemes >= 0) {
+        const std::string file = "--phonout=/dev/fd/" + std::to_string(speech.phonemes);
+        command.arguments.insert(command.arguments.end(), {"-x", file});
+        command.passed = {speech.phonemes};
+    }
+    return command;
 }
 
 int sampleRateIn(std::string_view header)

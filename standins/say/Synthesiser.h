@@ -13,6 +13,7 @@ struct Speech {
     FileDescriptor text; ///< at its beginning; see textFile()
     std::string voice; ///< language code, as voiceCode() gives it
     int rate; ///< words a minute
+    int phonemes = -1; ///< descriptor of a file that gets them beside the sound; -1: none
 };
 
 /// A file in memory, open at its beginning: nobody has to feed it while the speech is read. Fails

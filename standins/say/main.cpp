@@ -4,8 +4,10 @@
 #include "Failure.h"
 #include "OutputFile.h"
 #include "Program.h"
+#include "Progress.h"
 #include "RunToEnd.h"
 #include "SpeechText.h"
+#include "SpokenPart.h"
 #include "Synthesiser.h"
 
 #include <unistd.h>
@@ -46,8 +48,11 @@ Job jobFrom(const Arguments &arguments)
     return job;
 }
 
-void save(const Speech &speech, const std::string &target)
+void save(Speech speech, const std::string &text, const std::string &target, Progress &progress)
 {
+    SpokenPart spoken(text);
+    speech.phonemes = progress.isWanted() ? spoken.phonemes() : -1;
+    progress.setTotal(text.size());
     OutputFile file(target);
     AiffWriter aiff(file);
     std::string header;
@@ -55,12 +60,15 @@ void save(const Speech &speech, const std::string &target)
         const auto missing = std::min(wavHeaderSize - header.size(), bytes.size());
         header += bytes.substr(0, missing);
         aiff.add(bytes.substr(missing));
+        if (progress.isWanted())
+            progress.setDone(static_cast<std::uint64_t>(spoken.part() * double(text.size())));
     };
     const Finished finished = runToEnd(synthesis(speech), take);
     if (!finished.succeeded())
         fail("espeak-ng", finished.lastWords);
     aiff.finish(sampleRateIn(header));
     file.commit();
+    progress.finish();
 }
 
 std::string readExactly(int descriptor, std::size_t size)
@@ -129,13 +137,14 @@ void readAloud(const Speech &speech)
 
 void speak(const Job &job)
 {
+    Progress progress;
     const auto rate = speakingRate(job.rate);
     if (!rate)
         throw Failure(UsageWrong, job.rate + ": Not a speaking rate");
     const std::string text = speakableText(job.text);
-    const Speech speech{textFile(text), voiceCode(job.voice), *rate};
+    Speech speech{textFile(text), voiceCode(job.voice), *rate};
     if (job.output)
-        save(speech, *job.output);
+        save(std::move(speech), text, *job.output, progress);
     else if (!text.empty())
         readAloud(speech);
 }

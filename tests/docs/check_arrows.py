@@ -17,7 +17,8 @@ LIBRARIES = {"SQLite": "sqlite3.h", "libcurl": "curl/", "libsodium": "sodium.h",
              "libcanberra": "canberra.h", "simdjson": "simdjson.h", "libdeflate": "libdeflate.h",
              "libzip": "zip.h", "zlib": "zlib.h", "Boost": "boost/", "libmariadb": "mysql.h",
              "OpenSSL": "openssl/"}
-SYSTEM = re.compile(r"(sys|linux)/\w+\.h|(dirent|fcntl|limits|malloc|poll|pwd|sched|signal|sysexits|unistd)\.h|[a-z_]+")
+SYSTEM = re.compile(r"(arpa|sys|linux)/\w+\.h|[a-z_]+"
+                    r"|(dirent|fcntl|limits|malloc|poll|pwd|sched|signal|sysexits|termios|unistd)\.h")
 faults = []
 
 

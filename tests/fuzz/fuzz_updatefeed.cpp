@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         if (feed->items.size() > UpdateFeed::maxItems)
             std::abort();
         for (const UpdateItem &item : feed->items) {
-            if (item.version.isNull() || item.shortVersion.isEmpty())
+            if (item.version.isNull() || item.shortVersion.isEmpty()
+                || item.notes.size() > 16 * 1024)
                 std::abort();
         }
     }

@@ -56,7 +56,7 @@ class InstalledFiles(unittest.TestCase):
         for page in pages:
             self.assertEqual(self.desktop[f"Desktop Action {page}"]["Exec"], f"toolvane {page}")
         self.assertEqual(completions(""), pages + ["--help", "--version"])
-        self.assertEqual(completions("u"), ["unzip", "update"])
+        self.assertEqual(completions("u"), [page for page in pages if page.startswith("u")])
         manual = run("mandoc", "-T", "ascii", "-I", "os=", SHARE / "man/man1/toolvane.1.gz").stdout
         plain = re.sub(".\b", "", manual)
         self.assertEqual([page for page in pages if not re.search(rf"^     {page} ", plain, re.M)], [])

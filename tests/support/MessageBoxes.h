@@ -9,8 +9,8 @@
 
 #include <functional>
 
-/// Stands for the user in front of message boxes: notes what each says and presses its OK button,
-/// so that a test goes on. Lives on the interface thread, for as long as a test expects boxes.
+/// Takes the place of the user at message boxes: records the text of each and presses its OK
+/// button, so that a test continues. Lives on the interface thread while a test expects boxes.
 class MessageBoxes : public QObject
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     QStringList texts; ///< Each box's message, in order.
     QStringList informativeTexts;
-    /// Called while a box is still shown: what the program looks like behind it.
+    /// Called while a box is still shown, so that a test can look at the program behind it.
     std::function<void()> whileShown;
 
 private:

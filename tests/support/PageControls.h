@@ -6,7 +6,7 @@
 #include <QTest>
 #include <QTranslator>
 
-/// Uses a page like its user does: by its controls, which are found by their object names.
+/// Uses a page as a user does, through its controls. They are found by their object names.
 namespace PageControls
 {
 
@@ -37,7 +37,7 @@ inline QString text(const QWidget &page, const char *field)
     return control<QLineEdit>(page, field).text();
 }
 
-/// The names of those of the controls that are enabled.
+/// The names of the enabled ones of these controls.
 inline QStringList enabledOf(const QWidget &page, const QStringList &names)
 {
     QStringList enabled = names;
@@ -47,7 +47,7 @@ inline QStringList enabledOf(const QWidget &page, const QStringList &names)
     return enabled;
 }
 
-/// Types a path into the chooser that is open and confirms; an empty path cancels.
+/// Types a path into the open chooser and confirms it. An empty path cancels.
 inline void answerChooser(const QWidget &page, const char *chooser, const QString &path)
 {
     auto &sheet = control<QFileDialog>(*page.window(), chooser);
@@ -57,8 +57,8 @@ inline void answerChooser(const QWidget &page, const char *chooser, const QStrin
     QTRY_VERIFY(!page.window()->findChild<QFileDialog *>());
 }
 
-/// A table of texts in which every key has the text "[key]": whatever is shown without brackets was
-/// not looked up. In use for as long as it lives.
+/// A table of texts in which every key has the text "[key]": a text that is shown without
+/// brackets was not looked up. In use as long as the object exists.
 class MarkedTexts : public QTranslator
 {
 public:

@@ -4,9 +4,9 @@
 #include <QStringList>
 #include <QTranslator>
 
-/// A language that nobody speaks, made of the English table: each text accented, bracketed and 40 %
-/// longer, so that what is clipped, not looked up, or put together from pieces shows. Arguments
-/// (%1), mnemonics and the blank at an end stay as they are.
+/// An artificial language, made from the English table: each text has accents and brackets and is
+/// 40 % longer. So texts that are clipped, not looked up, or composed of pieces become visible.
+/// Arguments (%1), mnemonics and a blank at the end do not change.
 class PseudoTexts : public QTranslator
 {
 public:
@@ -42,7 +42,7 @@ private:
         return place < 0 ? letter : accents.at(place);
     }
 
-    // As long words as the text's own: a text of one word stays one.
+    // A text of one word stays one word.
     static QString filling(const QString &text)
     {
         const qsizetype length = (text.size() * 2 + 4) / 5;

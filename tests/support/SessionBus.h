@@ -5,8 +5,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-/// A session bus of the test's own, which the desktop's programs never hear of; gone with the
-/// object, and with it every connection of this process.
+/// A session bus for one test, separate from the desktop's. It ends with the object, and so does
+/// every connection of this process to it.
 class SessionBus
 {
 public:
@@ -29,7 +29,7 @@ public:
     Q_DISABLE_COPY_MOVE(SessionBus)
 
     QString address() const { return m_address; }
-    /// Makes a connection, which QDBusConnection finds by its name.
+    /// Makes a connection. QDBusConnection finds it by this name.
     QDBusConnection connect(const QString &name)
     {
         m_names += name;

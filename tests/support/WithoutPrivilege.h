@@ -6,8 +6,8 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-/// As long as it lives, the super user is bound by the permissions of files like everybody else;
-/// for other users it changes nothing.
+/// While it exists, file permissions apply to the super user as to everybody else. It changes
+/// nothing for other users.
 class WithoutPrivilege
 {
 public:

@@ -1,13 +1,17 @@
 #pragma once
 
+#include "Command.h"
 #include "Files.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QStringList>
 
 #include <optional>
 
-/// The test's view of a program that a page runs in a tree where RecordingProgram.sh stands in for
-/// it. What an earlier test left is removed.
+/// The test's view of a program that a page runs: puts RecordingProgram.sh in its place, in the
+/// folder of the application's own programs. So the test's program must be in a tree of its own,
+/// see PageTests.cmake. What an earlier test left is removed.
 class RecordedProgram
 {
 public:
@@ -17,6 +21,13 @@ public:
     {
         for (const char *suffix : {".arguments", ".hold", ".status"})
             QFile::remove(m_path + QLatin1String(suffix));
+        const QString script =
+            QStringLiteral(TOOLVANE_SOURCE_DIR "/tests/tools/RecordingProgram.sh");
+        const QString program = ownProgramsFolder() + QLatin1Char('/') + QLatin1String(name);
+        QDir().mkpath(ownProgramsFolder());
+        QFile::link(script, program); // fails if another test was faster
+        if (QFileInfo(program).canonicalFilePath() != QFileInfo(script).canonicalFilePath())
+            qFatal("%s is not replaced", name);
     }
     ~RecordedProgram() { release(); }
     Q_DISABLE_COPY_MOVE(RecordedProgram)

@@ -99,6 +99,21 @@ private Q_SLOTS:
         QCOMPARE(result.firstError, 0);
     }
 
+    // Neither holes nor what keeps another name.
+    void countsWhatIsFreed()
+    {
+        makeFile(m_caches + "/two", QByteArray(1536, 'x'));
+        QCOMPARE(link((m_caches + "/two").constData(), (m_caches + "/names").constData()), 0);
+        makeFile(m_caches + "/kept", QByteArray(700, 'x'));
+        const QByteArray other = makeRoot() + "/other name";
+        QCOMPARE(link((m_caches + "/kept").constData(), other.constData()), 0);
+        makeFile(m_caches + "/holes", "");
+        QCOMPARE(truncate((m_caches + "/holes").constData(), qint64(1) << 40), 0);
+        QCOMPARE(removeBelow(m_home, "Library/Caches", {}, FreedBytes::Count).freed, 1536u);
+        makeFile(m_caches, QByteArray(20, 'x'));
+        QCOMPARE(removeBelow(m_home, "Library/Caches", {}, FreedBytes::Count).freed, 20u);
+    }
+
     void removesOnlyTheLinkAtTheTop()
     {
         QCOMPARE(removeBelow(m_home, "Library/Caches").removed, 1u);
@@ -107,9 +122,10 @@ private Q_SLOTS:
             QCOMPARE(removeBelow(m_home, "Library/Caches").removed, 1u);
         }
         makeFile(m_caches, "a file");
+        QCOMPARE(measureFolder(m_caches).error, ENOTDIR);
         QCOMPARE(folderSize(m_caches), 0);
         QCOMPARE(removeBelow(m_home, "Library/Caches").removed, 1u);
-        QCOMPARE(folderSize(m_caches), 0);
+        QCOMPARE(measureFolder(m_caches).error, ENOENT);
         const FolderRemovalResult missing = removeBelow(m_home, "No/such/folder");
         QCOMPARE(missing.removed + missing.refused, 0u);
     }
@@ -151,9 +167,12 @@ private Q_SLOTS:
         QCOMPARE(chmod((m_caches + "/empty and unreadable").constData(), 0), 0);
         QCOMPARE(chmod((m_caches + "/d1").constData(), 0), 0); // Not even to be listed.
         QCOMPARE(chmod((m_caches + "/d3/inner").constData(), 0500), 0); // Listed, but kept.
+        QVERIFY(!measureFolder(m_home).isPartial);
         FolderRemovalResult result;
         {
             const WithoutPrivilege plainUser;
+            QVERIFY(measureFolder(m_caches).isPartial);
+            QCOMPARE(measureFolder(m_caches + "/d1").error, EACCES);
             QTest::ignoreMessage(QtInfoMsg, QRegularExpression(u"^4 items stayed at "_s));
             result = removeBelow(m_home, "Library/Caches");
         }

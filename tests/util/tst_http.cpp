@@ -78,9 +78,13 @@ private Q_SLOTS:
                  sendEndlessly(connection, "HTTP/1.1 200 OK\r\n",
                                "X-Y: " + QByteArray(1000, 'x') + "\r\n");
              }},
-            {"garbage", End::Refused,
+            {"garbage", End::Garbled,
              [](Connection &connection) { connection.send("\x01\x02 no http \xff\r\n\r\n"); }},
-            {"redirects in circles", End::Refused,
+            {"compressed on its way", End::Garbled,
+             [](Connection &connection) {
+                 connection.send("HTTP/1.1 200 OK\r\ntransfer-encoding: gzip, chunked\r\n\r\n");
+             }},
+            {"redirects in circles", End::Garbled,
              [](Connection &connection) { connection.send(HttpPeer::redirect("/again")); }},
             {"redirects to a file", End::Refused,
              [](Connection &connection) {
@@ -93,6 +97,35 @@ private Q_SLOTS:
             QVERIFY2(reply.end == end, name);
             QVERIFY2(reply.body.isEmpty() && !reply.message.isEmpty(), name);
         }
+    }
+
+    void tellsNoAnswerFromABrokenOne()
+    {
+        const HttpPeer cut(
+            [](Connection &connection) { connection.send(HttpPeer::reply("whole").chopped(1)); });
+        const HttpReply broken = httpGet({cut.address(), {}, shortLimits});
+        QVERIFY(broken.end == End::Failed && broken.isHeard);
+        const HttpPeer mute([](Connection &) {});
+        const HttpReply none = httpGet({mute.address(), {}, shortLimits});
+        QVERIFY(none.end == End::Failed && !none.isHeard);
+    }
+
+    // An address of this machine is where a maker tries things out: no proxy sees it.
+    void leadsNoAddressOfThisMachineOutside()
+    {
+        const HttpPeer proxy(HttpPeer::reply("outside"));
+        const HttpPeer peer(HttpPeer::reply("inside"));
+        qputenv("http_proxy", proxy.address());
+        for (const char *hosts : {"", "elsewhere.example", "*"}) {
+            qputenv("no_proxy", hosts);
+            const HttpReply reply = httpGet({peer.address(), {}, shortLimits});
+            QCOMPARE(reply.body, "inside");
+        }
+        qunsetenv("no_proxy");
+        const HttpReply other = httpGet({"http://elsewhere.example/", {}, shortLimits});
+        qunsetenv("http_proxy");
+        QCOMPARE(other.body, "outside");
+        QCOMPARE(proxy.requests().size(), 1);
     }
 
     void doesNotWaitForASilentServer()
@@ -139,7 +172,7 @@ private Q_SLOTS:
         const HttpReply reply = httpGet({"https://" + host + "/", {}, {.time = 5s}});
         server.kill();
         server.waitForFinished();
-        QCOMPARE(reply.end, HttpReply::End::Failed);
+        QCOMPARE(reply.end, HttpReply::End::Untrusted);
         QVERIFY2(reply.message.contains("certificate"), reply.message.constData());
         QVERIFY(reply.body.isEmpty());
     }

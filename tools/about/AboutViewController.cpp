@@ -10,10 +10,11 @@
 #include <QCoreApplication>
 #include <QDesktopServices>
 #include <QHeaderView>
-#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <system_error>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,26 +25,6 @@ constexpr int rowHeight = 44;
 constexpr int iconColumnWidth = 56;
 constexpr int nameColumnWidth = 160;
 constexpr int typeColumnWidth = 110;
-constexpr qsizetype maxAddress = 2048; // characters
-
-bool isSafe(const QUrl &url)
-{
-    const bool isWeb = url.scheme() == "http"_L1 || url.scheme() == "https"_L1;
-    return url.isValid()
-        && ((isWeb && !url.host().isEmpty())
-            || (url.scheme() == "mailto"_L1 && !url.path().isEmpty()));
-}
-
-// Opens an address that a server sent. Anything that is neither a web nor a mail address opens
-// nothing: no file, no script, no other program's scheme.
-void openSafely(const QString &address)
-{
-    QUrl url(address.left(maxAddress));
-    if (url.scheme() == "mailto"_L1)
-        url.setQuery(QString()); // which could name the user's files as attachments
-    if (isSafe(url))
-        QDesktopServices::openUrl(url);
-}
 
 } // namespace
 
@@ -98,13 +79,26 @@ void AboutViewController::connectButtons()
     connect(ui->facebookButton, &QPushButton::clicked, this, &AboutViewController::facebookAction);
     connect(ui->googlePlusButton, &QPushButton::clicked, this,
             &AboutViewController::googlePlusAction);
+    connect(ui->reloadButton, &QPushButton::clicked, this, &AboutViewController::reloadAction);
+    enableButtons();
 }
 
 void AboutViewController::awakeFromNib()
 {
     connect(ui->table, &QTableView::doubleClicked, this, &AboutViewController::goAction);
     initLocalizables();
-    m_loader = std::jthread([this](const std::stop_token &stop) { reloadData(stop); });
+    reloadAction();
+}
+
+void AboutViewController::reloadAction()
+{
+    if (std::exchange(m_isLoading, true))
+        return;
+    try {
+        m_loader = std::jthread([this](const std::stop_token &stop) { reloadData(stop); });
+    } catch (const std::system_error &) { // no thread: the list stays empty until Reload
+        endLoading(AppsList(), configurationServer());
+    }
 }
 
 void AboutViewController::initLocalizables()
@@ -149,6 +143,17 @@ void AboutViewController::endLoading(const AppsList &list, const QString &server
     m_nothingListed->setVisible(data.isEmpty());
     ui->table->show();
     PageStatus::setIdle(*ui->progressIndicator, true);
+    enableButtons();
+    m_isLoading = false;
+}
+
+void AboutViewController::enableButtons()
+{
+    ui->webButton->setEnabled(!socialAddress("Web").isEmpty());
+    ui->emailButton->setEnabled(!socialAddress("Email", "mailto:").isEmpty());
+    ui->twitterButton->setEnabled(!socialAddress("Twitter").isEmpty());
+    ui->facebookButton->setEnabled(!socialAddress("Facebook").isEmpty());
+    ui->googlePlusButton->setEnabled(!socialAddress("Google+").isEmpty());
 }
 
 void AboutViewController::tableViewSelectionDidChange()
@@ -160,10 +165,16 @@ void AboutViewController::goAction()
 {
     const QModelIndexList rows = ui->table->selectionModel()->selectedRows();
     if (!rows.isEmpty())
-        openSafely(data.at(rows.first().row()).toMap().value(u"URL"_s).toString());
+        open(addressToOpen(data.at(rows.first().row()).toMap().value(u"URL"_s).toString()));
 }
 
-void AboutViewController::openSocial(const char *key, const char *scheme)
+QUrl AboutViewController::socialAddress(const char *key, const char *scheme) const
 {
-    openSafely(QLatin1String(scheme) + socialDict.value(QLatin1String(key)).toString());
+    return addressToOpen(QLatin1String(scheme) + socialDict.value(QLatin1String(key)).toString());
+}
+
+void AboutViewController::open(const QUrl &address)
+{
+    if (!address.isEmpty())
+        QDesktopServices::openUrl(address);
 }

@@ -3,6 +3,7 @@
 #include "AppIcons.h"
 #include "AppsTable.h"
 
+#include <QUrl>
 #include <QVariantList>
 #include <QVariantMap>
 #include <QWidget>
@@ -19,7 +20,7 @@ class HintLabel;
 struct AppsList;
 
 /// The page that lists the maker's applications and social links. Made when it is opened for the
-/// first time, and loading from then on.
+/// first time, loading from then on, and again whenever the user wants.
 class AboutViewController : public QWidget
 {
     Q_OBJECT
@@ -40,12 +41,14 @@ public:
     /// Choosing a row, with the mouse or the keyboard, opens its address at once.
     void tableViewSelectionDidChange();
     void goAction(); ///< Opens the address of the selected row.
-    /// A link that is missing, or that leads to anything but the web or a mail, opens nothing.
-    void webAction() { openSocial("Web"); }
-    void emailAction() { openSocial("Email", "mailto:"); }
-    void twitterAction() { openSocial("Twitter"); }
-    void facebookAction() { openSocial("Facebook"); }
-    void googlePlusAction() { openSocial("Google+"); }
+    void reloadAction(); ///< Loads once more; does nothing while it loads.
+    /// A link that is missing, or that leads to anything but the web or a mail, opens nothing; its
+    /// button is disabled.
+    void webAction() { open(socialAddress("Web")); }
+    void emailAction() { open(socialAddress("Email", "mailto:")); }
+    void twitterAction() { open(socialAddress("Twitter")); }
+    void facebookAction() { open(socialAddress("Facebook")); }
+    void googlePlusAction() { open(socialAddress("Google+")); }
 
 private:
     void awakeFromNib();
@@ -54,11 +57,14 @@ private:
     void setUpTable();
     void beginLoading();
     void endLoading(const AppsList &list, const QString &server);
-    void openSocial(const char *key, const char *scheme = "");
+    void enableButtons();
+    QUrl socialAddress(const char *key, const char *scheme = "") const;
+    static void open(const QUrl &address); ///< An empty one opens nothing.
 
     std::unique_ptr<Ui::AboutViewController> ui;
     AppIcons m_icons;
     AppsTable m_table;
+    bool m_isLoading = false;
     HintLabel *m_nothingListed; ///< Shown in place of the rows if there are none.
     std::jthread m_loader; // last: its destructor waits for the thread, which uses the rest
 };

@@ -3,11 +3,11 @@
 #include "AppsList.h"
 #include "NamedImage.h"
 #include "PathText.h"
+#include "PngChunks.h"
 
-#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
+#include <QImage>
 #include <QPixmap>
 #include <QRegularExpression>
 
@@ -21,14 +21,15 @@ constexpr int maxFetches = 4; // at a time
 constexpr int maxDensity = 2;
 constexpr auto fetchTimeout = 15s;
 constexpr qint64 maxBytes = 512 * 1024; // of a file
-constexpr int maxSide = 1024; // of an image, in pixels
+constexpr quint32 maxSide = 1024; // of an image, in pixels
 
-// Names come from a server and become file names in the user's documents folder.
+// Names come from a server and become file names in the documents folder.
 bool isIconName(const QString &name)
 {
-    static const QRegularExpression plain(uR"(\A[A-Za-z0-9_-][A-Za-z0-9._-]{0,99}\z)"_s);
-    // The list itself; the database with the journals that SQLite keeps beside it.
-    static const QRegularExpression ours(uR"(\A(Apps\.plist|DB\.sqlite3.*)\z)"_s,
+    static const QRegularExpression plain(uR"(\A[A-Za-z0-9_][A-Za-z0-9._-]{0,99}\z)"_s);
+    // The list itself; the database with the journals that SQLite keeps beside it; archives, which
+    // the Zip page writes there.
+    static const QRegularExpression ours(uR"(\A(Apps\.plist|DB\.sqlite3.*|.*\.zip)\z)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
     return plain.match(name).hasMatch() && !ours.match(name).hasMatch();
 }
@@ -42,20 +43,20 @@ QByteArray iconAddress(const QString &server, const QString &file)
     return joined.replace(slashes, u"/"_s).toUtf8();
 }
 
-// The one place where bytes that anybody may have written become an image: a PNG image within the
-// limits, or null.
-QImage decodedIcon(QByteArray bytes)
-{
-    if (bytes.size() > maxBytes)
-        return {};
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer, "png");
-    // The size is read from the header: a large picture is refused before it takes up memory.
-    const QSize size = reader.size();
-    return size.isValid() && size.width() <= maxSide && size.height() <= maxSide ? reader.read()
-                                                                                 : QImage();
-}
+// The one place where bytes that anybody may have written become an image, which is null if they
+// are no PNG image within the limits. The decoder gets only what the picture needs: it would unpack
+// gigabytes of text before the picture.
+struct Icon {
+    explicit Icon(const QByteArray &bytes)
+        : png(bytes.size() <= maxBytes ? pictureOfPng(bytes, maxSide).value_or(QByteArray())
+                                       : QByteArray()),
+          image(QImage::fromData(png, "png"))
+    {
+    }
+
+    QByteArray png;
+    QImage image;
+};
 
 QString doubleOf(const QString &name)
 {
@@ -127,8 +128,11 @@ void AppIcons::fetchFile(const QString &file, const QString &server) const
         return;
     const HttpReply reply =
         getConfiguration(iconAddress(server, file), fetchTimeout, maxBytes, m_stop.get_token());
-    if (reply.succeeded() && !decodedIcon(reply.body).isNull())
-        saveFile(pathOf(file), reply.body);
+    if (!reply.succeeded())
+        return;
+    const Icon icon(reply.body);
+    if (!icon.image.isNull())
+        saveFile(m_folder, file, icon.png);
 }
 
 QImage AppIcons::read(const QString &name) const
@@ -136,7 +140,7 @@ QImage AppIcons::read(const QString &name) const
     QFile file(pathOf(name));
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would wait for ever
         return {};
-    const QImage image = decodedIcon(file.read(maxBytes + 1));
+    const QImage image = Icon(file.read(maxBytes + 1)).image;
     const int maxShown = side * maxDensity;
     return image.width() <= maxShown && image.height() <= maxShown
         ? image

@@ -2,11 +2,16 @@
 
 #include "PathText.h"
 #include "PropertyList.h"
+#include "UnpublishedFile.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 #include <QSettings>
+#include <QUrlQuery>
+
+#include <unistd.h>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -15,6 +20,7 @@ namespace
 {
 
 constexpr auto loadTimeout = 20s;
+constexpr qsizetype maxAddress = 2048; // characters
 constexpr PropertyList::Limits limits{.bytes = AppsList::maxBytes, .objects = 20'000, .depth = 16};
 
 std::optional<AppsList> readFromServer(const QString &server, const std::stop_token &stop)
@@ -30,6 +36,17 @@ std::optional<AppsList> readFromFile(const QString &path)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) // a pipe would wait for ever
         return {};
     return AppsList::read(file.read(AppsList::maxBytes + 1));
+}
+
+// The query of a mail address with its subject alone, if that is one line.
+QString subjectOnly(const QUrl &mail)
+{
+    const QString subject = QUrlQuery(mail).queryItemValue(u"subject"_s, QUrl::FullyDecoded);
+    const bool isLine =
+        std::ranges::all_of(subject, [](QChar c) { return c >= u' ' && c != u'\x7f'; });
+    return subject.isEmpty() || !isLine
+        ? QString()
+        : u"subject="_s + QString::fromLatin1(QUrl::toPercentEncoding(subject));
 }
 
 } // namespace
@@ -56,13 +73,13 @@ QVariantMap AppsList::social() const
 std::optional<AppsList> AppsList::load(const QString &server, const QString &folder,
                                        const std::stop_token &stop)
 {
-    const QString path = appendPathComponent(folder, u"Apps.plist"_s);
+    const QString name = u"Apps.plist"_s;
     std::optional<AppsList> list = server.isEmpty() ? std::nullopt : readFromServer(server, stop);
     if (!list)
-        list = readFromFile(path);
+        list = readFromFile(appendPathComponent(folder, name));
     // The very bytes are kept, so that the list means the same when it is read again.
     if (list && !stop.stop_requested())
-        saveFile(path, list->bytes);
+        saveFile(folder, name, list->bytes);
     return list;
 }
 
@@ -84,9 +101,26 @@ HttpReply getConfiguration(const QByteArray &address, std::chrono::milliseconds 
                     .stop = stop});
 }
 
-void saveFile(const QString &path, const QByteArray &bytes)
+void saveFile(const QString &folder, const QString &name, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size())
-        file.commit();
+    UnpublishedFile file(QFile::encodeName(folder));
+    QFile target;
+    if (file.error() == 0
+        && target.open(file.descriptor(), QIODevice::WriteOnly | QIODevice::Unbuffered)
+        && target.write(bytes) == bytes.size() && fsync(file.descriptor()) == 0)
+        file.replace(QFile::encodeName(name));
+}
+
+QUrl addressToOpen(const QString &text)
+{
+    if (text.size() > maxAddress)
+        return {};
+    QUrl url(text);
+    const bool isWeb = url.scheme() == "http"_L1 || url.scheme() == "https"_L1;
+    const bool isMail = url.scheme() == "mailto"_L1;
+    if (!url.isValid() || (isWeb ? url.host() : url.path()).isEmpty() || (!isWeb && !isMail))
+        return {};
+    if (isMail)
+        url.setQuery(subjectOnly(url));
+    return url;
 }

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QUrl>
 #include <QVariant>
 
 #include <optional>
@@ -42,5 +43,11 @@ QString configurationServer();
 HttpReply getConfiguration(const QByteArray &address, std::chrono::milliseconds timeout,
                            qint64 maxBytes, const std::stop_token &stop);
 
-/// Writes the whole file, or leaves it as it was.
-void saveFile(const QString &path, const QByteArray &bytes);
+/// Writes the whole file in the folder, or leaves it as it was. A link of that name is replaced and
+/// not followed: else it would let anybody who can plant one write to the user's own files.
+void saveFile(const QString &folder, const QString &name, const QByteArray &bytes);
+
+/// The web or mail address that a server sent, fit to be opened; empty for anything else: a file, a
+/// script, another program's scheme, more than 2,048 characters. A mail keeps its address and
+/// subject alone, because what else it says could name the user's files as attachments.
+QUrl addressToOpen(const QString &text);

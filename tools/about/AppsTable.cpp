@@ -1,6 +1,7 @@
 #include "AppsTable.h"
 
 #include "AppIcons.h"
+#include "AppsList.h"
 
 #include <algorithm>
 
@@ -11,11 +12,24 @@ namespace
 
 const std::array<QString, 4> identifiers{u"Icon"_s, u"Name"_s, u"Desc"_s, u"Type"_s};
 constexpr qsizetype maxText = 500; // characters
+constexpr qsizetype maxUnbroken = 40;
 
 // Only markup is broken into lines, and a description may be long.
-QString wrappedToolTip(const QString &text)
+QString paragraph(const QString &text)
 {
     return text.isEmpty() ? QString() : u"<p>%1</p>"_s.arg(text.toHtmlEscaped());
+}
+
+// What would be opened, byte for byte, so that no letter of another script looks like one of its
+// own; with places at which a line can be broken.
+QString shownAddress(const QString &text)
+{
+    QString address = QString::fromLatin1(addressToOpen(text).toEncoded());
+    if (address.size() > maxText)
+        address = address.first(maxText) + u'…';
+    for (qsizetype at = maxUnbroken; at < address.size(); at += maxUnbroken + 1)
+        address.insert(at, QChar(0x200b));
+    return address;
 }
 
 } // namespace
@@ -74,13 +88,17 @@ QVariant AppsTable::data(const QModelIndex &index, int role) const
             return objectValueForTableColumn(identifier, index.row());
         if (role == Qt::AccessibleTextRole)
             return text(identifiers[NameColumn], index.row());
-        return {};
-    }
-    if (role == Qt::DisplayRole)
+    } else if (role == Qt::DisplayRole) {
         return objectValueForTableColumn(identifier, index.row());
-    if (role == Qt::ToolTipRole)
-        return wrappedToolTip(text(identifier, index.row()));
-    return {};
+    }
+    return role == Qt::ToolTipRole ? toolTip(identifier, index.row()) : QVariant();
+}
+
+QString AppsTable::toolTip(const QString &identifier, int row) const
+{
+    const QString address = m_apps.at(row).toMap().value(u"URL"_s).toString();
+    const QString cell = identifier == identifiers[IconColumn] ? QString() : text(identifier, row);
+    return paragraph(cell) + paragraph(shownAddress(address));
 }
 
 QVariant AppsTable::headerData(int section, Qt::Orientation orientation, int role) const

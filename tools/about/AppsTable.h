@@ -8,7 +8,8 @@
 class AppIcons;
 
 /// The listed applications as rows. What a server wrote comes out as plain text on one line; its
-/// tool tips are escaped, because the toolkit would take them for markup.
+/// tool tips are escaped, because the toolkit would take them for markup. Each tool tip ends with
+/// the address that its row opens.
 class AppsTable : public QAbstractTableModel
 {
     Q_OBJECT
@@ -36,6 +37,7 @@ public:
 
 private:
     QString text(const QString &key, int row) const;
+    QString toolTip(const QString &identifier, int row) const;
     void showIcon(const QString &name);
 
     AppIcons &m_icons;

@@ -8,6 +8,7 @@
 #include "PropertyList.h"
 #include "ui_AVConvertViewController.h"
 
+#include <QFile>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,12 @@ AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
 }
 
 AVConvertViewController::~AVConvertViewController() = default;
+
+QString AVConvertViewController::presetListOfLanguage()
+{
+    const QString list = u":/presets/"_s + qtTrId("AVConvert.Presets");
+    return QFile::exists(list) ? list : u":/presets/avconvert.plist"_s;
+}
 
 void AVConvertViewController::connectButtons()
 {

@@ -23,10 +23,12 @@ class AVConvertViewController : public QWidget
 public:
     /// The preset list is a property list: title of the output format to name of the preset. A
     /// list that cannot be read leaves the formats empty, and every conversion then fails.
-    explicit AVConvertViewController(
-        JobList &jobs, QWidget *parent = nullptr,
-        const QString &presetList = QStringLiteral(":/presets/avconvert.plist"));
+    explicit AVConvertViewController(JobList &jobs, QWidget *parent = nullptr,
+                                     const QString &presetList = presetListOfLanguage());
     ~AVConvertViewController() override;
+
+    /// The program's own list in the language of its texts, else in English.
+    static QString presetListOfLanguage();
 
     void sourceSelectAction();
     void outputSelectAction();

@@ -21,10 +21,14 @@ public:
     /// Gives the file its name in the folder, never in place of something that exists
     /// (EEXIST). Returns 0 or an `errno`.
     int publish(const QByteArray &name);
+    /// The same in place of a file that may exist. A link of that name is replaced itself; where it
+    /// leads, nothing changes.
+    int replace(const QByteArray &name);
 
 private:
     void openNameless();
     void openNamed();
+    int finish(int error);
     int linkNameless(const QByteArray &name) const;
     int renameTo(const QByteArray &name) const;
     int claimAndRename(const QByteArray &name) const;

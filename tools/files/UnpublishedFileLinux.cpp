@@ -13,6 +13,11 @@ static QByteArray ownDescriptorPath(int descriptor)
     return "/proc/self/fd/" + QByteArray::number(descriptor);
 }
 
+static QByteArray newTemporaryName()
+{
+    return ".toolvane-" + QByteArray::number(QRandomGenerator::global()->generate64(), 16);
+}
+
 static int errorOf(int result)
 {
     return result == 0 ? 0 : errno;
@@ -43,8 +48,7 @@ void UnpublishedFile::openNameless()
 void UnpublishedFile::openNamed()
 {
     do {
-        m_temporaryName =
-            ".toolvane-" + QByteArray::number(QRandomGenerator::global()->generate64(), 16);
+        m_temporaryName = newTemporaryName();
         m_file = FileDescriptor(openat(m_folder.get(), m_temporaryName.constData(),
                                        O_CREAT | O_EXCL | O_RDWR | O_CLOEXEC, 0600));
     } while (!m_file && errno == EEXIST);
@@ -54,7 +58,23 @@ void UnpublishedFile::openNamed()
 
 int UnpublishedFile::publish(const QByteArray &name)
 {
-    const int error = m_temporaryName.isEmpty() ? linkNameless(name) : renameTo(name);
+    return finish(m_temporaryName.isEmpty() ? linkNameless(name) : renameTo(name));
+}
+
+int UnpublishedFile::replace(const QByteArray &name)
+{
+    if (m_temporaryName.isEmpty()) { // only a name can take the place of another
+        const QByteArray temporary = newTemporaryName();
+        if (const int error = linkNameless(temporary))
+            return error;
+        m_temporaryName = temporary;
+    }
+    const int folder = m_folder.get();
+    return finish(errorOf(renameat(folder, m_temporaryName.constData(), folder, name.constData())));
+}
+
+int UnpublishedFile::finish(int error)
+{
     if (error == 0) {
         m_temporaryName.clear();
         fsync(m_folder.get()); // the name too shall survive a power cut

@@ -4,6 +4,7 @@
 #include "UpdateTransfer.h"
 
 #include <QCoroTask>
+#include <QDateTime>
 #include <QObject>
 #include <QThreadPool>
 #include <QTimer>
@@ -34,6 +35,7 @@ public:
         Downloading,
         Downloaded, ///< file() says where.
         NotDownloaded, ///< problem() says why; there still is an offer.
+        NotOpened, ///< problem() says why; without a file() it is offered again.
     };
 
     explicit UpdateChecker(const QByteArray &publicKey, QObject *parent = nullptr);
@@ -50,19 +52,28 @@ public:
     QString headline() const;
     const std::optional<UpdateItem> &offer() const { return m_offer; }
     const UpdateProblem &problem() const { return m_problem; }
-    const QString &file() const { return m_file; } ///< Path of the last download.
+    const QString &file() const { return m_file.path; } ///< Path of the last download, or empty.
+    /// The date of the feed that the last check has read, and until when the maker meant it to be
+    /// the newest; both invalid if unknown.
+    const QDateTime &feedDate() const { return m_feedDate; }
+    const QDateTime &feedExpiry() const { return m_feedExpiry; }
+    bool isFeedExpired() const;
     qint64 received() const { return m_received; } ///< Bytes of the running download.
 
     bool hasFeedAddress() const { return !source().feedAddress.isEmpty(); }
+    /// Whether there is something that download() would fetch.
+    bool canDownload() const;
     /// Without a key versions are shown, but nothing is downloaded.
     bool hasKey() const { return !m_publicKey.isEmpty(); }
 
     /// Reads the feed. Does nothing while busy or without a feed address. A check that is stopped
     /// leaves everything as it was.
     QCoro::Task<> check();
-    /// Fetches the offer into the user's Downloads folder. Does nothing while busy, without an
-    /// offer or without a key.
+    /// Fetches the offer into the desktop's download folder. Does nothing if !canDownload().
     QCoro::Task<> download();
+    /// Emits readyToOpen() if the last download is still the very file that was checked.
+    QCoro::Task<> open();
+    void noteNothingOpens(); ///< No program could open it.
     /// Ends the running check or download, within about a second.
     void stop();
     /// A skipped version is not offered any more, also after a restart; a newer one is.
@@ -71,7 +82,8 @@ public:
 Q_SIGNALS:
     void changed();
     void progressed(); ///< While a download runs, several times a second.
-    void downloaded(const QString &path);
+    void downloaded();
+    void readyToOpen(const QString &path);
 
 private:
     UpdateSource source() const;
@@ -80,6 +92,9 @@ private:
     void enter(Phase phase, const char *checkResult); ///< And remembers the result for next time.
     void conclude(const FetchedFeed &fetched);
     void conclude(const FetchedFile &fetched);
+    bool isDownloaded(const UpdateItem &item) const;
+    Phase phaseOfOffer() const;
+    const char *resultOfCheck() const;
     Job beginJob() const;
 
     QByteArray m_publicKey;
@@ -90,7 +105,10 @@ private:
     Phase m_phaseBefore = Phase::Unasked; ///< To which a stopped check returns.
     std::optional<UpdateItem> m_offer;
     UpdateProblem m_problem;
-    QString m_file;
+    QDateTime m_feedDate;
+    QDateTime m_feedExpiry;
+    CheckedFile m_file;
+    QByteArray m_fileSignature; ///< Of the version that the file is.
     std::stop_source m_stop;
     std::atomic<qint64> m_received = 0;
     QTimer m_progressTimer;

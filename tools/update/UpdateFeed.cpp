@@ -1,5 +1,7 @@
 #include "UpdateFeed.h"
 
+#include "NotesText.h"
+
 #include <QCoreApplication>
 #include <QRegularExpression>
 #include <QSettings>
@@ -92,6 +94,8 @@ private:
         while (m_xml.readNextStartElement()) {
             if (isPlain("lastBuildDate"_L1))
                 m_feed.date = dateOf(text());
+            else if (is(ownNamespace, "expires"_L1))
+                m_feed.expiry = dateOf(text());
             else if (isPlain("item"_L1))
                 readItem();
             else
@@ -138,9 +142,8 @@ private:
     {
         const QXmlStreamAttributes attributes = m_xml.attributes();
         const bool isPlainText = attributes.value(castNamespace, "format"_L1) == "plain-text"_L1;
-        item.notesFormat =
-            isPlainText ? UpdateItem::NotesFormat::Plain : UpdateItem::NotesFormat::Html;
-        item.notes = text(maxNotes);
+        const QString notes = text(maxNotes);
+        item.notes = (isPlainText ? notes : plainTextOfNotes(notes)).trimmed();
     }
 
     void readEnclosure(UpdateItem &item)

@@ -11,15 +11,12 @@
 /// One version that a feed announces. Every field comes from the server: nothing in it is safe to
 /// be interpreted as markup or used as a file name.
 struct UpdateItem {
-    enum class NotesFormat { Plain, Html };
-
     QVersionNumber version = {}; ///< Normalised: 1.2.0 is 1.2. Never null.
     QString shortVersion = {}; ///< What people call it; else its digits.
     QVersionNumber minimumSystem = {}; ///< Null: runs everywhere.
     QString system = {}; ///< "linux", "macos", …; empty: for all.
     QString channel = {}; ///< Empty: for everybody.
-    QString notes = {};
-    NotesFormat notesFormat = NotesFormat::Html;
+    QString notes = {}; ///< Plain text, whatever the feed holds.
     QByteArray address = {}; ///< Of the file; empty if the item has none.
     qint64 length = 0; ///< Of the file, in bytes; 0 if the feed does not say.
     QByteArray signature = {}; ///< Ed25519, over the file's bytes; may be missing.
@@ -30,9 +27,11 @@ struct UpdateItem {
 /// elements that application-cast feeds have added to it. What is read: the channel's
 /// `lastBuildDate`; of each item `version`, `shortVersionString`, `minimumSystemVersion`,
 /// `channel`, `description` and the `enclosure` with its address, length, system and signature; and
-/// an element `withdrawn` of our own name space. Everything else is skipped.
+/// of our own name space, the channel's `expires` and an item's `withdrawn`. Everything else is
+/// skipped.
 struct UpdateFeed {
-    QDateTime date = {}; ///< In UTC; invalid if the feed does not say.
+    QDateTime date = {}; ///< In UTC, as the next; invalid if the feed does not say.
+    QDateTime expiry = {}; ///< From then on there should be a newer feed.
     QList<UpdateItem> items = {}; ///< In the feed's order; only those with a numeric version.
 
     static constexpr qsizetype maxBytes = 256 * 1024;

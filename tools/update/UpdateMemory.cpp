@@ -2,17 +2,23 @@
 
 #include "UpdateFeed.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QLocale>
+#include <QLockFile>
 #include <QSettings>
 
 #include <algorithm>
+#include <chrono>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace
 {
 
 constexpr qsizetype maxWithdrawn = 200;
+constexpr auto lockTimeout = 2s;
 constexpr auto skippedKey = "Update/Skipped"_L1;
 constexpr auto checkTimeKey = "Update/LastCheck/Time"_L1;
 constexpr auto checkResultKey = "Update/LastCheck/Result"_L1;
@@ -46,9 +52,17 @@ QList<QVersionNumber> UpdateMemory::withdrawn() const
     return versions;
 }
 
-void UpdateMemory::remember(const UpdateFeed &feed) const
+bool UpdateMemory::remember(const UpdateFeed &feed) const
 {
+    // Two programs may have fetched a feed each. Who cannot get the lock still compares.
     QSettings settings;
+    QDir().mkpath(QFileInfo(settings.fileName()).path());
+    QLockFile lock(settings.fileName() + u".feeds"_s);
+    lock.tryLock(lockTimeout);
+    settings.sync();
+    const QDateTime newest = dateOf(settings.value(m_group + u"/NewestFeed"_s));
+    if (newest.isValid() && feed.date < newest)
+        return false;
     settings.setValue(m_group + u"/NewestFeed"_s, feed.date.toString(Qt::ISODate));
     QStringList texts = settings.value(m_group + u"/Withdrawn"_s).toStringList();
     for (const UpdateItem &item : feed.items) {
@@ -57,6 +71,8 @@ void UpdateMemory::remember(const UpdateFeed &feed) const
     }
     settings.setValue(m_group + u"/Withdrawn"_s,
                       texts.mid(std::max<qsizetype>(0, texts.size() - maxWithdrawn)));
+    settings.sync(); // before the lock is released
+    return true;
 }
 
 QVersionNumber UpdateMemory::skipped()

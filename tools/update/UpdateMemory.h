@@ -19,8 +19,9 @@ public:
     /// earlier one is a copy that somebody has kept.
     QDateTime newestFeed() const;
     QList<QVersionNumber> withdrawn() const;
-    /// Only for a feed whose signature was right.
-    void remember(const UpdateFeed &feed) const;
+    /// Only for a feed whose signature was right. False, and nothing is remembered, if another
+    /// program has seen a newer one meanwhile: what is remembered only goes forward.
+    bool remember(const UpdateFeed &feed) const;
 
     /// Null when none is skipped.
     static QVersionNumber skipped();

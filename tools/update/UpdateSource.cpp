@@ -13,28 +13,64 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-using Verify = decltype(&crypto_sign_verify_detached);
+constexpr qsizetype pieceSize = 1024 * 1024;
 
-Verify load()
+struct Sodium {
+    decltype(&crypto_sign_verify_detached) verify = nullptr;
+    decltype(&crypto_generichash_init) hashInit = nullptr;
+    decltype(&crypto_generichash_update) hashUpdate = nullptr;
+    decltype(&crypto_generichash_final) hashFinal = nullptr;
+};
+
+bool load(Sodium &sodium)
 {
     QLibrary library(u"sodium"_s, 23);
     decltype(&sodium_init) init = nullptr;
-    Verify verify = nullptr;
-    const bool isLoaded = resolveSymbol(library, "sodium_init", init)
-        && resolveSymbol(library, "crypto_sign_verify_detached", verify) && init() >= 0;
-    return isLoaded ? verify : nullptr;
+    return resolveSymbol(library, "sodium_init", init)
+        && resolveSymbol(library, "crypto_sign_verify_detached", sodium.verify)
+        && resolveSymbol(library, "crypto_generichash_init", sodium.hashInit)
+        && resolveSymbol(library, "crypto_generichash_update", sodium.hashUpdate)
+        && resolveSymbol(library, "crypto_generichash_final", sodium.hashFinal) && init() >= 0;
 }
 
-Verify verifier()
+// The library, initialised; null if it is not installed.
+const Sodium *libsodium()
 {
-    static const Verify verify = load();
-    return verify;
+    static Sodium sodium;
+    static const bool isLoaded = load(sodium);
+    return isLoaded ? &sodium : nullptr;
 }
 
 const unsigned char *bytesOf(QByteArrayView bytes)
 {
     return reinterpret_cast<const unsigned char *>(bytes.data());
 }
+
+class Hash
+{
+public:
+    explicit Hash(const Sodium &sodium) : m_sodium(sodium)
+    {
+        m_sodium.hashInit(&m_state, nullptr, 0, crypto_generichash_BYTES);
+    }
+
+    void add(QByteArrayView bytes)
+    {
+        m_sodium.hashUpdate(&m_state, bytesOf(bytes),
+                            static_cast<unsigned long long>(bytes.size()));
+    }
+    QByteArray result()
+    {
+        QByteArray hash(crypto_generichash_BYTES, '\0');
+        m_sodium.hashFinal(&m_state, reinterpret_cast<unsigned char *>(hash.data()),
+                           crypto_generichash_BYTES);
+        return hash;
+    }
+
+private:
+    const Sodium &m_sodium;
+    crypto_generichash_state m_state;
+};
 
 bool hasName(const QFile &file)
 {
@@ -60,7 +96,7 @@ QByteArray UpdateSource::compiledInKey()
 
 bool UpdateSignature::isAvailable()
 {
-    return verifier() != nullptr;
+    return libsodium() != nullptr;
 }
 
 bool UpdateSignature::isValid(QByteArrayView message, const QByteArray &publicKey,
@@ -68,19 +104,37 @@ bool UpdateSignature::isValid(QByteArrayView message, const QByteArray &publicKe
 {
     return isAvailable() && publicKey.size() == crypto_sign_PUBLICKEYBYTES
         && signature.size() == crypto_sign_BYTES
-        && verifier()(bytesOf(signature), bytesOf(message),
-                      static_cast<unsigned long long>(message.size()), bytesOf(publicKey))
+        && libsodium()->verify(bytesOf(signature), bytesOf(message),
+                               static_cast<unsigned long long>(message.size()), bytesOf(publicKey))
         == 0;
 }
 
-bool UpdateSignature::isValid(QFile &message, const QByteArray &publicKey,
-                              const QByteArray &signature)
+QByteArray UpdateSignature::hashIfValid(QFile &message, const QByteArray &publicKey,
+                                        const QByteArray &signature)
 {
     const qint64 size = message.size();
     uchar *map = hasName(message) ? nullptr : message.map(0, size);
-    if (!map)
-        return message.seek(0) && isValid(message.readAll(), publicKey, signature);
-    const bool result = isValid(QByteArrayView(map, size), publicKey, signature);
-    message.unmap(map);
+    const QByteArray read = !map && message.seek(0) ? message.readAll() : QByteArray();
+    const QByteArrayView bytes = map ? QByteArrayView(map, size) : QByteArrayView(read);
+    QByteArray result;
+    if (bytes.size() == size && isValid(bytes, publicKey, signature)) {
+        Hash hash(*libsodium());
+        hash.add(bytes);
+        result = hash.result();
+    }
+    if (map)
+        message.unmap(map);
     return result;
+}
+
+QByteArray UpdateSignature::hash(QFile &file, const std::stop_token &stop)
+{
+    if (!isAvailable() || !file.seek(0))
+        return {};
+    Hash hash(*libsodium());
+    QByteArray piece(pieceSize, Qt::Uninitialized);
+    qint64 count = 0;
+    while (!stop.stop_requested() && (count = file.read(piece.data(), piece.size())) > 0)
+        hash.add(QByteArrayView(piece).first(count));
+    return count == 0 && !stop.stop_requested() ? hash.result() : QByteArray();
 }

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include <stop_token>
+
 class QFile;
 
 /// Where versions are announced, and whose signature they must bear.
@@ -29,8 +31,13 @@ bool isAvailable();
 
 bool isValid(QByteArrayView message, const QByteArray &publicKey, const QByteArray &signature);
 
-/// Over the whole open file. One without a name is not read into memory, however large it is. One
-/// with a name is: somebody could cut it short under the map, and the program would crash.
-bool isValid(QFile &message, const QByteArray &publicKey, const QByteArray &signature);
+/// Over the whole open file: its hash() if the signature is right, else empty. Both are taken of
+/// the same bytes. A file without a name is not read into memory, however large it is. One with a
+/// name is: somebody could cut it short under the map, and the program would crash.
+QByteArray hashIfValid(QFile &message, const QByteArray &publicKey, const QByteArray &signature);
+
+/// BLAKE2b-256 over the whole open file, which is read piece by piece. Empty without libsodium,
+/// after a stop request, and if the file cannot be read.
+QByteArray hash(QFile &file, const std::stop_token &stop);
 
 } // namespace UpdateSignature

@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QUrl>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -41,18 +42,23 @@ UpdateProblem problemOf(const HttpReply &reply)
 {
     using End = HttpReply::End;
     static const QMap<End, Kind> kinds{
-        {End::Refused, Kind::UnsafeAddress}, {End::TimedOut, Kind::TimedOut},
+        {End::Refused, Kind::UnsafeAddress}, {End::Garbled, Kind::Garbled},
+        {End::Untrusted, Kind::Certificate}, {End::TimedOut, Kind::TimedOut},
         {End::TooLarge, Kind::TooLarge},     {End::Cancelled, Kind::Stopped},
-        {End::NotWritten, Kind::NotWritten}, {End::Failed, Kind::Unreachable},
+        {End::NotWritten, Kind::NotWritten}, {End::Failed, Kind::BrokenOff},
     };
+    if (!reply.isHeard && (reply.end == End::Failed || reply.end == End::TimedOut))
+        return {Kind::Unreachable};
     if (!reply.answered())
-        return {kinds.value(reply.end, Kind::Unreachable)};
+        return {kinds.value(reply.end, Kind::BrokenOff)};
     return reply.status == 200 ? UpdateProblem{}
                                : UpdateProblem{Kind::Status, QString::number(reply.status)};
 }
 
 UpdateProblem problemOf(const SignedFeed &signedFeed, const QByteArray &publicKey)
 {
+    if (!signedFeed.feed.contains("<rss")) // a page of the network's, perhaps
+        return {Kind::NotAFeed};
     if (publicKey.isEmpty())
         return {};
     if (!UpdateSignature::isAvailable())
@@ -107,14 +113,27 @@ QString numbered(const QString &name, int number)
     return suffix < 0 ? name + extra : QString(name).insert(suffix, extra);
 }
 
-FetchedFile publish(UnpublishedFile &file, const QString &folder, const QString &name)
+// What is checked is what the file holds, not what came over the wire.
+CheckedFile checkedFile(QFile &file, const UpdateItem &item, const QByteArray &publicKey)
+{
+    struct stat status = {};
+    const QByteArray hash = UpdateSignature::hashIfValid(file, publicKey, item.signature);
+    if (hash.isEmpty() || fstat(file.handle(), &status) != 0)
+        return {};
+    return {.path = {}, .device = status.st_dev, .inode = status.st_ino, .hash = hash};
+}
+
+FetchedFile publish(UnpublishedFile &file, CheckedFile checked, const QString &folder,
+                    const QString &name)
 {
     int error = EEXIST;
     for (int number = 1; error == EEXIST && number <= maxNames; ++number) {
         const QString free = numbered(name, number);
         error = file.publish(QFile::encodeName(free));
-        if (error == 0)
-            return {.problem = {}, .path = QDir(folder).filePath(free)};
+        if (error == 0) {
+            checked.path = QDir(folder).absoluteFilePath(free);
+            return {.problem = {}, .file = checked};
+        }
     }
     return {.problem = notWritten(error)};
 }
@@ -126,6 +145,9 @@ QString UpdateProblem::sentence() const
     static const QMap<Kind, const char *> keys{
         {Kind::UnsafeAddress, QT_TRID_NOOP("Update.Problem.UnsafeAddress")},
         {Kind::Unreachable, QT_TRID_NOOP("Update.Problem.Unreachable")},
+        {Kind::BrokenOff, QT_TRID_NOOP("Update.Problem.BrokenOff")},
+        {Kind::Garbled, QT_TRID_NOOP("Update.Problem.Garbled")},
+        {Kind::Certificate, QT_TRID_NOOP("Update.Problem.Certificate")},
         {Kind::TimedOut, QT_TRID_NOOP("Update.Problem.TimedOut")},
         {Kind::TooLarge, QT_TRID_NOOP("Update.Problem.TooLarge")},
         {Kind::Status, QT_TRID_NOOP("Update.Problem.Status")},
@@ -137,6 +159,8 @@ QString UpdateProblem::sentence() const
         {Kind::NoSignatureLibrary, QT_TRID_NOOP("Update.Problem.NoSignatureLibrary")},
         {Kind::Incomplete, QT_TRID_NOOP("Update.Problem.Incomplete")},
         {Kind::NotWritten, QT_TRID_NOOP("Update.Problem.NotWritten")},
+        {Kind::Changed, QT_TRID_NOOP("Update.Problem.Changed")},
+        {Kind::NothingOpens, QT_TRID_NOOP("Update.Problem.NothingOpens")},
         {Kind::Stopped, QT_TRID_NOOP("Update.Problem.Stopped")},
     };
     if (kind == Kind::None)
@@ -184,11 +208,24 @@ FetchedFile fetchFile(const UpdateItem &item, const QByteArray &publicKey, const
         return {notWritten(EIO)};
     if (const UpdateProblem problem = receive(item, target, received, stop))
         return {problem};
-    // What is checked is what the file holds, not what came over the wire.
-    if (!UpdateSignature::isValid(target, publicKey, item.signature))
+    const CheckedFile checked = checkedFile(target, item, publicKey);
+    if (checked.hash.isEmpty())
         return {{Kind::WrongSignature}};
     fchmod(file.descriptor(), 0644); // the package manager of some systems reads as another user
-    return publish(file, folder, fileNameOf(item));
+    return publish(file, checked, folder, fileNameOf(item));
+}
+
+bool CheckedFile::isUnchanged(const std::stop_token &stop) const
+{
+    // A pipe would wait for somebody to write into it.
+    const FileDescriptor descriptor(::open(QFile::encodeName(path).constData(),
+                                           O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat status = {};
+    QFile file;
+    return descriptor && fstat(descriptor.get(), &status) == 0 && S_ISREG(status.st_mode)
+        && status.st_dev == device && status.st_ino == inode
+        && file.open(descriptor.get(), QIODevice::ReadOnly | QIODevice::Unbuffered)
+        && UpdateSignature::hash(file, stop) == hash;
 }
 
 QString fileNameOf(const UpdateItem &item)

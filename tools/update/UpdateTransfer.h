@@ -3,6 +3,8 @@
 #include "UpdateFeed.h"
 #include "UpdateSource.h"
 
+#include <sys/types.h>
+
 #include <atomic>
 #include <stop_token>
 
@@ -11,7 +13,10 @@ struct UpdateProblem {
     enum class Kind {
         None,
         UnsafeAddress,
-        Unreachable,
+        Unreachable, ///< Nothing answered.
+        BrokenOff,
+        Garbled, ///< What answered makes no sense.
+        Certificate,
         TimedOut,
         TooLarge,
         Status, ///< The server answered with an error; see detail.
@@ -23,6 +28,8 @@ struct UpdateProblem {
         NoSignatureLibrary,
         Incomplete,
         NotWritten, ///< See detail.
+        Changed, ///< The downloaded file is not the one that was checked.
+        NothingOpens, ///< No program could open the downloaded file.
         Stopped,
     };
 
@@ -46,9 +53,21 @@ struct FetchedFeed {
 FetchedFeed fetchFeed(const UpdateSource &source, const QDateTime &newestSeen,
                       const std::stop_token &stop);
 
+/// A file that was checked, and how to see later that it is still the same one.
+struct CheckedFile {
+    QString path = {}; ///< Absolute; empty: none.
+    dev_t device = 0;
+    ino_t inode = 0;
+    QByteArray hash = {}; ///< UpdateSignature::hash() of it.
+
+    /// Whether the path leads to this very file, with the bytes that were checked. Blocks for as
+    /// long as it takes to read the file; false after a stop request.
+    bool isUnchanged(const std::stop_token &stop) const;
+};
+
 struct FetchedFile {
     UpdateProblem problem;
-    QString path = {}; ///< Empty if there is a problem.
+    CheckedFile file = {}; ///< None if there is a problem.
 };
 
 /// Fetches an offered file into the folder, which is made when missing. The file appears there only

@@ -1,5 +1,6 @@
 #include "UpdateViewController.h"
 
+#include "DesktopOpener.h"
 #include "MiscTool.h"
 #include "PageAction.h"
 #include "PageStatus.h"
@@ -7,12 +8,10 @@
 #include "ui_UpdateViewController.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
-#include <QFileInfo>
+#include <QEvent>
+#include <QLocale>
 #include <QSettings>
-#include <QTextDocumentFragment>
-#include <QUrl>
 
 using Phase = UpdateChecker::Phase;
 
@@ -20,6 +19,11 @@ namespace
 {
 
 constexpr int progressSteps = 1000;
+
+QString shownTime(const QDateTime &time)
+{
+    return QLocale().toString(time.toLocalTime(), QLocale::ShortFormat);
+}
 
 // What else there is to know or do about the state; may be empty.
 QString detailOf(const UpdateChecker &checker)
@@ -29,16 +33,30 @@ QString detailOf(const UpdateChecker &checker)
         return checker.hasFeedAddress()
             ? QString()
             : qtTrId("Update.NoFeed.Help").arg(QDir::toNativeSeparators(QSettings().fileName()));
+    case Phase::UpToDate:
     case Phase::Available:
-        return checker.hasKey() ? QString() : qtTrId("Update.NoKey");
+    case Phase::Skipped:
+        return checker.isFeedExpired()
+            ? qtTrId("Update.Expired").arg(shownTime(checker.feedExpiry()))
+            : QString();
     case Phase::NotChecked:
     case Phase::NotDownloaded:
+    case Phase::NotOpened:
         return checker.problem().sentence();
     case Phase::Downloaded:
-        return qtTrId("Update.Downloaded.Where").arg(QFileInfo(checker.file()).fileName());
+        return qtTrId("Update.Downloaded.Where");
     default:
         return {};
     }
+}
+
+// When the last check was, and of when what it read is.
+QString lastCheckOf(const UpdateChecker &checker)
+{
+    const QString last = UpdateMemory::lastCheck().sentence(checker.phase() == Phase::Unasked);
+    return checker.feedDate().isValid()
+        ? last + u' ' + qtTrId("Update.FeedDate").arg(shownTime(checker.feedDate()))
+        : last;
 }
 
 // How far the download is: "3.1 MB of 12.4 MB".
@@ -48,14 +66,6 @@ QString progressOf(const UpdateChecker &checker)
         return {};
     const auto size = [](qint64 bytes) { return MiscTool::convertBytes(std::uint64_t(bytes)); };
     return qtTrId("Update.Progress").arg(size(checker.received()), size(checker.offer()->length));
-}
-
-QString notesOf(const UpdateItem &item)
-{
-    const QString text = item.notesFormat == UpdateItem::NotesFormat::Plain
-        ? item.notes
-        : QTextDocumentFragment::fromHtml(item.notes).toPlainText();
-    return text.trimmed();
 }
 
 void showText(QLabel &label, const QString &text)
@@ -77,10 +87,16 @@ UpdateCheckView::UpdateCheckView(const QByteArray &publicKey, QWidget *parent)
     ui->setupUi(this);
     ui->installedLabel->setText(
         qtTrId("Update.Installed").arg(QCoreApplication::applicationVersion()));
+    // It shares its row with buttons that hide when it comes: no room is kept for it.
+    ui->showInFolderButton->setSizePolicy(ui->openButton->sizePolicy());
+    ui->keyLabel->setHidden(m_checker.hasKey());
     connectButtons();
     connect(&m_checker, &UpdateChecker::changed, this, &UpdateCheckView::showState);
     connect(&m_checker, &UpdateChecker::progressed, this, &UpdateCheckView::showProgress);
     connect(&m_checker, &UpdateChecker::downloaded, this, &UpdateCheckView::openFile);
+    connect(&m_checker, &UpdateChecker::readyToOpen, this, [this](const QString &path) {
+        openWithDesktop(path, *this, [this] { m_checker.noteNothingOpens(); });
+    });
     showState();
 }
 
@@ -105,35 +121,58 @@ void UpdateCheckView::showState()
 {
     ui->headlineLabel->setText(m_checker.headline());
     showText(*ui->detailLabel, detailOf(m_checker));
-    showText(*ui->lastCheckLabel,
-             UpdateMemory::lastCheck().sentence(m_checker.phase() == Phase::Unasked));
-    ui->checkButton->setEnabled(!m_checker.isBusy());
+    showText(*ui->lastCheckLabel, lastCheckOf(m_checker));
+    ui->checkButton->setEnabled(!m_checker.isBusy() && m_checker.hasFeedAddress());
     ui->stopButton->setEnabled(m_checker.isBusy());
     showOffer();
+    showFile();
     showProgress();
+}
+
+bool UpdateCheckView::event(QEvent *event)
+{
+    const bool isLookedAt =
+        event->type() == QEvent::Show || event->type() == QEvent::WindowActivate;
+    if (isLookedAt && m_checker.phase() == Phase::Unasked)
+        showState();
+    return QWidget::event(event);
 }
 
 void UpdateCheckView::showOffer()
 {
     const Phase phase = m_checker.phase();
     const bool isOffered = phase == Phase::Available || phase == Phase::NotDownloaded;
-    const bool canDownload = isOffered && m_checker.hasKey();
+    const bool canDownload = m_checker.canDownload();
     const std::optional<UpdateItem> &offer = m_checker.offer();
     if (offer) {
-        const QString notes = notesOf(*offer);
-        ui->notesText->setPlainText(notes.isEmpty() ? qtTrId("Update.NoNotes") : notes);
+        const QString notes = offer->notes.isEmpty() ? qtTrId("Update.NoNotes") : offer->notes;
+        if (ui->notesText->toPlainText() != notes) // else it would lose its place
+            ui->notesText->setPlainText(notes);
     }
     ui->offerBox->setVisible(offer.has_value());
     ui->downloadButton->setVisible(canDownload);
     ui->skipButton->setVisible(isOffered);
     ui->unskipButton->setVisible(phase == Phase::Skipped);
-    ui->openButton->setVisible(phase == Phase::Downloaded);
     ui->downloadButton->setDefault(canDownload);
     ui->checkButton->setDefault(!canDownload);
     // The button that had the focus was disabled meanwhile: the focus must not stay where Qt moved
     // it, which may be Skip.
     if (canDownload && isAncestorOf(QApplication::focusWidget()))
         ui->downloadButton->setFocus(Qt::OtherFocusReason);
+}
+
+void UpdateCheckView::showFile()
+{
+    const Phase phase = m_checker.phase();
+    const bool isThere =
+        !m_checker.file().isEmpty() && (phase == Phase::Downloaded || phase == Phase::NotOpened);
+    ui->openButton->setVisible(isThere);
+    ui->fileField->setVisible(isThere);
+    ui->fileField->setText(isThere ? QDir::toNativeSeparators(m_checker.file()) : QString());
+    if (isThere)
+        ui->showInFolderButton->offer(m_checker.file());
+    else
+        ui->showInFolderButton->withdraw();
 }
 
 void UpdateCheckView::showProgress()
@@ -153,7 +192,7 @@ void UpdateCheckView::showProgress()
 
 void UpdateCheckView::openFile()
 {
-    QDesktopServices::openUrl(QUrl::fromLocalFile(m_checker.file()));
+    watchPageAction(this, m_checker.open());
 }
 
 UpdateViewController::UpdateViewController(JobList &jobs, QWidget *parent)

@@ -27,10 +27,15 @@ public:
     /// Downloads are listed in `jobs` as jobs of the page with this object name.
     void setJobs(JobList &jobs, const QString &page) { m_checker.setJobs(jobs, page); }
 
+protected:
+    /// An address may have been written into the settings meanwhile.
+    bool event(QEvent *event) override;
+
 private:
     void connectButtons();
     void showState();
     void showOffer();
+    void showFile();
     void showProgress();
     void openFile();
 

@@ -1,7 +1,5 @@
 #include "CacheCleaner.h"
 
-#include "FolderRemoval.h"
-#include "FolderSize.h"
 #include "MiscTool.h"
 #include "PathText.h"
 #include "StoredGrant.h"
@@ -31,7 +29,9 @@ void CacheCleaner::cleanDisk()
     const SecurityScopedAccess access(m_bookmarkURL);
     const QByteArray home = QFile::encodeName(MiscTool::getUserHome());
     forEachTicked([&](CacheCategoryIndex category) {
-        removeBelow(home, cacheCategories.at(category).folder, m_stop);
+        m_report(FolderCleaned{
+            category,
+            removeBelow(home, cacheCategories.at(category).folder, m_stop, FreedBytes::Count)});
     });
     checkDisk();
     m_report(DiskChanged{});
@@ -57,9 +57,9 @@ QString CacheCleaner::measuredFolder(const QString &base, CacheCategoryIndex cat
 void CacheCleaner::measure(CacheCategoryIndex category) const
 {
     const QString folder = measuredFolder(m_bookmarkURL.toLocalFile(), category);
-    const std::int64_t bytes = folderSize(QFile::encodeName(folder), m_stop);
+    const FolderMeasurement found = measureFolder(QFile::encodeName(folder), m_stop);
     if (!m_stop.stop_requested()) // else that is not all of it
-        m_report(FolderMeasured{category, bytes});
+        m_report(FolderMeasured{category, found});
 }
 
 void CacheCleaner::forEachTicked(const std::function<void(CacheCategoryIndex)> &act) const

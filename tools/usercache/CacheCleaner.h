@@ -1,11 +1,13 @@
 #pragma once
 
+#include "FolderRemoval.h"
+#include "FolderSize.h"
+
 #include <QUrl>
 #include <QtGlobal>
 
 #include <array>
 #include <bitset>
-#include <cstdint>
 #include <functional>
 #include <stop_token>
 #include <variant>
@@ -40,7 +42,19 @@ struct GrantResolved {
 /// A ticked category was measured.
 struct FolderMeasured {
     CacheCategoryIndex category;
-    std::int64_t bytes;
+    FolderMeasurement found;
+};
+
+/// A ticked category was deleted, as far as that was possible.
+struct FolderCleaned {
+    CacheCategoryIndex category;
+    FolderRemovalResult result;
+};
+
+/// Why a run ended without having done its work.
+enum class CacheTrouble {
+    NoThread, ///< The system refused a thread, so nothing was begun.
+    NoAnswer, ///< It was to stop, but a file system did not answer in time; it was left behind.
 };
 
 /// What is on the disk has changed: its figures, and the sizes shown before, are out of date.
@@ -52,7 +66,8 @@ struct CleanerIdle {
 };
 
 /// What a worker has for the page, in the order in which the page is to show it.
-using CacheUpdate = std::variant<GrantResolved, FolderMeasured, DiskChanged, CleanerIdle>;
+using CacheUpdate = std::variant<GrantResolved, FolderMeasured, FolderCleaned, CacheTrouble,
+                                 DiskChanged, CleanerIdle>;
 
 /// Measures and deletes the ticked categories, and reports in the order in which the page is to
 /// follow. It blocks, so it is used on a thread of its own, by one thread at a time.
@@ -71,8 +86,8 @@ public:
     void checkDisk();
 
     /// Deletes the ticked folders of the user's home, themselves included and without a question,
-    /// then measures. Failures are passed over. The page becomes idle twice: the measuring step
-    /// ends like any other.
+    /// then measures. What refuses is reported and passed over. The page becomes idle twice: the
+    /// measuring step ends like any other.
     void cleanDisk();
 
     /// Where a category is measured. Empty, which has no size, for a base that is empty or "/":

@@ -1,5 +1,6 @@
 #include "UserCacheViewController.h"
 
+#include "CategoryRows.h"
 #include "Chooser.h"
 #include "JobList.h"
 #include "MiscTool.h"
@@ -7,6 +8,9 @@
 #include "PageStatus.h"
 #include "StoredGrant.h"
 #include "ui_UserCacheViewController.h"
+
+#include <QAccessible>
+#include <QDir>
 
 #include <utility>
 
@@ -51,6 +55,7 @@ void UserCacheViewController::awakeFromNib()
     ui->operationBox->setTitle(qtTrId("Operation"));
     ui->progressIndicatorBox->setTitle(qtTrId("Progress"));
     PageStatus::keepSpaceWhenHidden(*ui->progressIndicatorBox);
+    rows().showPaths(MiscTool::getUserHome());
     updateDiskUI();
 }
 
@@ -75,7 +80,9 @@ void UserCacheViewController::authorizeAction()
 void UserCacheViewController::takeFolder(const QString &path)
 {
     const QString home = MiscTool::getUserHome();
-    if (path != home) {
+    // The chooser hands out paths without "//" and "/./", which the user database may hold. With
+    // ".." in it the cleaned path may be that of another folder.
+    if (path != QDir::cleanPath(home) || QFileInfo(path) != QFileInfo(home)) {
         refuseGrant(qtTrId("Wrong Authorized Location"), qtTrId("Please authorize to ") + home);
         return;
     }
@@ -107,23 +114,22 @@ void UserCacheViewController::updateDiskUI()
     ui->diskFreeSize->setText(MiscTool::convertBytes(static_cast<std::uint64_t>(free)));
     ui->diskLevelIndicatorBox->setTitle(QString::number(percentage) + u'%');
     ui->diskLevelIndicator->setValue(percentage);
-    for (CacheCategoryIndex category = 0; category < cacheCategories.size(); ++category)
-        checkBoxes().at(category)->setText(qtTrId(cacheCategories.at(category).titleKey));
+    rows().showPlainTitles();
     ui->checkButton->setText(qtTrId("Check"));
     ui->cleanButton->setText(qtTrId("Clean"));
 }
 
 void UserCacheViewController::checkAction()
 {
-    start(CacheRun::Work::Check);
+    start(&CacheCleaner::checkDisk);
 }
 
 void UserCacheViewController::cleanAction()
 {
-    start(CacheRun::Work::Clean);
+    start(&CacheCleaner::cleanDisk);
 }
 
-void UserCacheViewController::start(CacheRun::Work work)
+void UserCacheViewController::start(void (CacheCleaner::*work)())
 {
     if (!m_isAuthorized) {
         MiscTool::showAlert(qtTrId("Not Authorized Error"), qtTrId("Please authorize first"));
@@ -132,22 +138,20 @@ void UserCacheViewController::start(CacheRun::Work work)
     setStatus(false);
     // The worker reads no widget: the boxes cannot change while it runs, so what is ticked now is
     // what it would find.
-    const CacheRun::Request request{
-        .work = work, .bookmarkURL = m_bookmarkURL, .ticked = tickedCategories()};
+    const CacheSelection ticked = rows().ticked();
+    const auto task = [work, ticked, url = m_bookmarkURL](const CacheCleaner::Report &report,
+                                                          const std::stop_token &stop) {
+        CacheCleaner cleaner(url, ticked, report, stop);
+        (cleaner.*work)();
+    };
+    ui->statusLabel->clear();
+    rows().clearResults(ticked);
     const JobDescription job{
         .page = objectName(), .title = qtTrId("UserCache"), .subject = MiscTool::getUserHome()};
-    auto *run = new CacheRun(request, m_jobs, job, m_turn); // owned by the list
+    auto *run = new CacheRun(task, m_jobs, job, m_newestRun); // owned by the list
     m_newestRun = run;
     connect(run, &CacheRun::updated, this,
             [this, run](const CacheUpdate &update) { follow(update, run == m_newestRun); });
-}
-
-CacheSelection UserCacheViewController::tickedCategories() const
-{
-    CacheSelection ticked;
-    for (CacheCategoryIndex category = 0; category < ticked.size(); ++category)
-        ticked.set(category, checkBoxes().at(category)->checkState() == Qt::Checked);
-    return ticked;
 }
 
 void UserCacheViewController::follow(const CacheUpdate &update, bool isNewest)
@@ -155,36 +159,38 @@ void UserCacheViewController::follow(const CacheUpdate &update, bool isNewest)
     if (const auto *resolved = std::get_if<GrantResolved>(&update))
         m_bookmarkURL = resolved->bookmarkURL;
     else if (const auto *measured = std::get_if<FolderMeasured>(&update))
-        showSize(*measured);
+        rows().show(*measured);
+    else if (const auto *cleaned = std::get_if<FolderCleaned>(&update))
+        rows().show(*cleaned);
+    else if (const auto *trouble = std::get_if<CacheTrouble>(&update))
+        showTrouble(*trouble);
     else if (std::holds_alternative<DiskChanged>(update))
         updateDiskUI();
     else if (isNewest) // a clean is idle once early: who pressed a button then is busy anew
         setStatus(true);
 }
 
-void UserCacheViewController::showSize(const FolderMeasured &measured)
+void UserCacheViewController::showTrouble(CacheTrouble trouble)
 {
-    const QString title = qtTrId(cacheCategories.at(measured.category).titleKey);
-    const auto bytes = static_cast<std::uint64_t>(measured.bytes);
-    const QString size = bytes != 0 ? MiscTool::convertBytes(bytes) : QString();
-    checkBoxes().at(measured.category)->setText(title + size);
+    ui->statusLabel->setText(trouble == CacheTrouble::NoThread ? qtTrId("UserCache.NoThread")
+                                                               : qtTrId("UserCache.NoAnswer"));
+    QAccessibleEvent alert(ui->statusLabel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
 }
 
-std::array<QCheckBox *, cacheCategories.size()> UserCacheViewController::checkBoxes() const
+CategoryRows UserCacheViewController::rows() const
 {
-    return {ui->cachesCheckBox, ui->logsCheckBox, ui->downloadsCheckBox, ui->mailDownloadCheckBox,
-            ui->trashCheckBox};
+    return CategoryRows({{{ui->cachesCheckBox, ui->cachesResult},
+                          {ui->logsCheckBox, ui->logsResult},
+                          {ui->downloadsCheckBox, ui->downloadsResult},
+                          {ui->mailDownloadCheckBox, ui->mailDownloadResult},
+                          {ui->trashCheckBox, ui->trashResult}}});
 }
 
 void UserCacheViewController::setStatus(bool idle)
 {
     ui->authorizeButton->setEnabled(idle);
-    ui->cachesCheckBox->setEnabled(idle);
-    ui->downloadsCheckBox->setEnabled(idle);
-    ui->trashCheckBox->setEnabled(idle);
-    ui->logsCheckBox->setEnabled(idle);
-    ui->trashCheckBox->setEnabled(idle);
-    ui->mailDownloadCheckBox->setEnabled(idle);
+    rows().setEnabled(idle);
     ui->checkButton->setEnabled(idle);
     ui->cleanButton->setEnabled(idle);
     ui->progressIndicatorBox->setHidden(idle);

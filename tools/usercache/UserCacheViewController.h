@@ -6,12 +6,10 @@
 #include <QUrl>
 #include <QWidget>
 
-#include <array>
 #include <memory>
-#include <mutex>
 
+class CategoryRows;
 class JobList;
-class QCheckBox;
 
 namespace Ui
 {
@@ -47,16 +45,14 @@ private:
     void refuseGrant(const QString &message, const QString &advice);
     void showGrant();
 
-    void start(CacheRun::Work work);
-    CacheSelection tickedCategories() const;
+    void start(void (CacheCleaner::*work)());
     void follow(const CacheUpdate &update, bool isNewest);
-    void showSize(const FolderMeasured &measured);
-    std::array<QCheckBox *, cacheCategories.size()> checkBoxes() const;
+    void showTrouble(CacheTrouble trouble);
+    CategoryRows rows() const;
 
     std::unique_ptr<Ui::UserCacheViewController> ui;
     JobList &m_jobs;
     bool m_isAuthorized = false;
     QUrl m_bookmarkURL; ///< Empty while the stored grant leads to no folder.
     QPointer<CacheRun> m_newestRun;
-    std::shared_ptr<std::mutex> m_turn = std::make_shared<std::mutex>();
 };

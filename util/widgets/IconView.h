@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QIcon>
+#include "NamedImage.h"
+
+#include <QPainter>
 #include <QWidget>
 
 /// Shows one of the application's own images, by name, as large as the widget is. The image is
@@ -12,14 +14,24 @@ class IconView : public QWidget
     Q_PROPERTY(QString imageName READ imageName WRITE setImageName)
 
 public:
-    explicit IconView(QWidget *parent = nullptr);
+    using QWidget::QWidget;
 
     QString imageName() const { return m_imageName; }
     /// An unknown name shows nothing.
-    void setImageName(const QString &name);
+    void setImageName(const QString &name)
+    {
+        m_imageName = name;
+        m_icon = namedImage(name);
+        update();
+    }
 
 protected:
-    void paintEvent(QPaintEvent *event) override;
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        m_icon.paint(&painter, rect(), Qt::AlignCenter,
+                     isEnabled() ? QIcon::Normal : QIcon::Disabled);
+    }
 
 private:
     QString m_imageName;

@@ -1,12 +1,9 @@
 #include "LevelIndicator.h"
 
-#include <QLocale>
 #include <QPainter>
 #include <QStyle>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace
 {
@@ -21,7 +18,6 @@ constexpr int gap = 12;
 LevelIndicator::LevelIndicator(QWidget *parent) : QProgressBar(parent)
 {
     setRange(0, 100);
-    setLocale(QLocale::c()); // the digits of all other sizes
     setValue(0);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -40,9 +36,7 @@ void LevelIndicator::setWarningText(const QString &text)
 
 QString LevelIndicator::text() const
 {
-    const QString percentage = QProgressBar::text();
-    return isNearlyFull() && !m_warningText.isEmpty() ? m_warningText + u"  "_s + percentage
-                                                      : percentage;
+    return isNearlyFull() ? m_warningText : QString();
 }
 
 QSize LevelIndicator::minimumSizeHint() const
@@ -56,12 +50,10 @@ QSize LevelIndicator::sizeHint() const
     return minimumSizeHint() + QSize(minBarWidth, 0);
 }
 
-// The text gets at least the width of "100%", so that the bar does not move with each value.
 QRect LevelIndicator::barRect() const
 {
-    const int textWidth = std::max(fontMetrics().horizontalAdvance(text()),
-                                   fontMetrics().horizontalAdvance(u"100%"_s));
-    const QRect bar(0, (height() - barHeight) / 2, width() - textWidth - gap, barHeight);
+    const int textWidth = text().isEmpty() ? 0 : fontMetrics().horizontalAdvance(text()) + gap;
+    const QRect bar(0, (height() - barHeight) / 2, width() - textWidth, barHeight);
     return QStyle::visualRect(layoutDirection(), rect(), bar);
 }
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QIconEngine>
+#include <QImage>
 #include <QPainter>
 #include <QPalette>
 #include <QPicture>
@@ -16,28 +17,58 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-// Up to this size the plainer version of a picture is used, see file().
+// Up to this size the plainer version of a picture is used, see stemFor().
 constexpr int maxSmallSize = 32;
 constexpr float disabledPictureOpacity = 0.4F;
 
-enum class Kind { None, Symbol, Picture };
+constexpr auto symbols = ":/images/symbols/"_L1;
+constexpr auto pictures = ":/images/pictures/"_L1;
 
-QString fileOf(Kind kind, const QString &name)
+bool hasRecording(const QString &stem)
 {
-    return (kind == Kind::Symbol ? u":/images/symbols/%1.pic"_s : u":/images/pictures/%1.pic"_s)
-        .arg(name);
+    return QFile::exists(stem + ".pic"_L1);
 }
 
-Kind kindOf(const QString &name)
+// The path of the image without its suffix; empty if there is none.
+QString stemOf(const QString &name)
 {
-    const bool wellFormed = std::all_of(name.begin(), name.end(), [](QChar c) {
+    const bool wellFormed = std::ranges::all_of(name, [](QChar c) {
         return c == u'-' || c == u'_' || (c.unicode() < 128 && c.isLetterOrNumber());
     });
-    if (name.isEmpty() || !wellFormed)
-        return Kind::None;
-    if (QFile::exists(fileOf(Kind::Symbol, name)))
-        return Kind::Symbol;
-    return QFile::exists(fileOf(Kind::Picture, name)) ? Kind::Picture : Kind::None;
+    for (const QLatin1String folder : {symbols, pictures})
+        if (wellFormed && hasRecording(folder + name))
+            return folder + name;
+    return {};
+}
+
+// What the first paint shows was drawn when the program was built; false for other sizes.
+bool drawPixels(QPainter &painter, const QString &stem, const QSize &size)
+{
+    QFile file(stem + u"-%1.argb"_s.arg(size.width()));
+    if (size.width() != size.height() || !file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray bytes = file.readAll();
+    const QImage image(reinterpret_cast<const uchar *>(bytes.constData()), size.width(),
+                       size.height(), QImage::Format_ARGB32_Premultiplied);
+    if (bytes.size() != image.sizeInBytes())
+        return false;
+    painter.drawImage(0, 0, image);
+    return true;
+}
+
+void playRecording(QPainter &painter, const QString &stem, const QSize &size)
+{
+    QPicture picture;
+    picture.load(stem + ".pic"_L1);
+    const QRectF box = picture.boundingRect();
+    if (box.isEmpty())
+        return;
+    const qreal side = std::min(size.width() / box.width(), size.height() / box.height());
+    painter.translate(QRectF({}, size).center());
+    painter.scale(side, side);
+    painter.translate(-box.center());
+    painter.drawPicture(0, 0, picture);
+    painter.resetTransform();
 }
 
 QPalette::ColorGroup groupOf(QIcon::Mode mode)
@@ -61,7 +92,9 @@ QColor textColor(const QPaintDevice *device, QIcon::Mode mode)
 class NamedImageEngine : public QIconEngine
 {
 public:
-    NamedImageEngine(Kind kind, QString name) : m_kind(kind), m_name(std::move(name)) { }
+    NamedImageEngine(QString name, QString stem) : m_name(std::move(name)), m_stem(std::move(stem))
+    {
+    }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
     {
@@ -86,11 +119,13 @@ public:
     QIconEngine *clone() const override { return new NamedImageEngine(*this); }
 
 private:
+    bool isSymbol() const { return m_stem.startsWith(symbols); }
+
     QPixmap rendered(const QSize &size, QIcon::Mode mode, const QColor &color) const
     {
         const QString key = u"toolvane-image:%1:%2x%3:%4:%5"_s.arg(
             m_name, QString::number(size.width()), QString::number(size.height()),
-            m_kind == Kind::Symbol ? color.name(QColor::HexArgb) : QString(),
+            isSymbol() ? color.name(QColor::HexArgb) : QString(),
             QString::number(mode == QIcon::Disabled));
         QPixmap pixmap;
         if (!QPixmapCache::find(key, &pixmap)) {
@@ -102,21 +137,14 @@ private:
 
     QPixmap drawn(const QSize &size, QIcon::Mode mode, const QColor &color) const
     {
-        QPicture picture;
-        picture.load(file(size));
-        const QRectF box = picture.boundingRect();
         QPixmap pixmap(size);
         pixmap.fill(Qt::transparent);
-        if (box.isEmpty() || size.isEmpty())
+        if (size.isEmpty())
             return pixmap;
         QPainter painter(&pixmap);
-        const qreal side = std::min(size.width() / box.width(), size.height() / box.height());
-        painter.translate(QRectF({}, size).center());
-        painter.scale(side, side);
-        painter.translate(-box.center());
-        painter.drawPicture(0, 0, picture);
-        painter.resetTransform();
-        if (m_kind == Kind::Symbol) {
+        if (const QString stem = stemFor(size); !drawPixels(painter, stem, size))
+            playRecording(painter, stem, size);
+        if (isSymbol()) {
             painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
             painter.fillRect(QRect({}, size), color);
         } else if (mode == QIcon::Disabled) {
@@ -127,26 +155,26 @@ private:
     }
 
     // A picture in full detail has a plainer version for the smallest sizes.
-    QString file(const QSize &size) const
+    QString stemFor(const QSize &size) const
     {
-        const QString small = fileOf(m_kind, m_name + u"-small"_s);
+        const QString small = m_stem + "-small"_L1;
         const bool isSmall = std::max(size.width(), size.height()) <= maxSmallSize;
-        return isSmall && QFile::exists(small) ? small : fileOf(m_kind, m_name);
+        return isSmall && hasRecording(small) ? small : m_stem;
     }
 
-    Kind m_kind;
     QString m_name;
+    QString m_stem;
 };
 
 } // namespace
 
 bool hasNamedImage(const QString &name)
 {
-    return kindOf(name) != Kind::None;
+    return !stemOf(name).isEmpty();
 }
 
 QIcon namedImage(const QString &name)
 {
-    const Kind kind = kindOf(name);
-    return kind == Kind::None ? QIcon() : QIcon(new NamedImageEngine(kind, name));
+    const QString stem = stemOf(name);
+    return stem.isEmpty() ? QIcon() : QIcon(new NamedImageEngine(name, stem));
 }

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-// Labels that the theme recognises by their class.
+// Labels that the theme recognises by their class. Interface thread only.
 
 /// The title at the head of a page; the theme gives this class its font.
 class PageTitle : public QLabel

@@ -1,8 +1,8 @@
-// What packing and unpacking cost beside the system's programs on the same tree, in the same run
-// and taking turns, warm, on two processors. The tree is made from what every build machine has and
-// lies in /dev/shm, with everything else, so that no disk is measured: 8 GB of memory, ten minutes.
-// Time by the clock counts only on a machine with two cores and nothing else to do. The exit status
-// is 1 if a limit is passed.
+// Compares packing and unpacking with the system's programs on the same tree, in turns and in the
+// same run, with warm caches and on two processors. The tree is made from files of every build
+// machine. All of it is in /dev/shm, so that no disk is measured: 8 GB of memory, ten minutes.
+// Clock time counts only on a machine with two cores and no other load. The exit status is 1 if a
+// figure is over its limit.
 //   bench_archives [WORD]   only rows with the word in their name
 
 #include "ProcessCost.h"
@@ -45,7 +45,7 @@ bool isQuiet()
     return getloadavg(&load, 1) == 1 && load < 0.5 && std::thread::hardware_concurrency() >= 2;
 }
 
-// The limits of memory are those of two processors.
+// The memory limits are for two processors.
 void useTwoProcessors()
 {
     cpu_set_t all;
@@ -71,7 +71,7 @@ double anonymousMemory(pid_t process)
     return kibibytes * 1024 / megabyte;
 }
 
-// The most that the program itself has at a time.
+// The peak memory of the program itself.
 double peakOf(const Command &command)
 {
     std::vector<char *> arguments;
@@ -132,7 +132,7 @@ private:
 
 void ArchiveBench::makeTree()
 {
-    // What cannot be read, or leads nowhere, is missing for both sides.
+    // Files that cannot be read and links that lead nowhere are missing for both sides.
     shell("mkdir -p " + path("tree/program") + "; cd " + path("tree")
           + " && for folder in /usr/include /usr/share/doc; do cp -rL $folder . 2>/dev/null; done; "
             "cp -L $(gcc -print-prog-name=cc1plus) $(ls /usr/lib/*/libicudata.so.?? | head -1) "

@@ -1,4 +1,4 @@
-// A conversion against the bare ffmpeg call with the same settings.
+// Compares a conversion with the bare ffmpeg call with the same settings.
 #include "ConversionArguments.h"
 #include "ProcessCost.h"
 #include "StandinRatio.h"

@@ -1,7 +1,7 @@
-// What making an image costs beside the plain tool on the same folder, in the same run and taking
-// turns: an HFS Plus image beside "cp -r", a hybrid image beside the same call of xorriso. Figures
-// are medians of the rounds' ratios. Rows end with the figure, its limit and "ok" or "PASSED"; the
-// exit status is 1 when one is passed. Uses 2 GB below TMPDIR for about half a minute.
+// Compares making an image with the plain tool on the same folder, in turns and in the same run: an
+// HFS Plus image with "cp -r", a hybrid image with the same call of xorriso. Figures are medians of
+// the rounds' ratios. The exit status is 1 if a figure is over its limit. Uses 2 GB below TMPDIR
+// for about half a minute.
 
 #include "HybridImage.h"
 #include "ProcessCost.h"
@@ -48,7 +48,7 @@ private:
     bool m_passed = false;
 };
 
-// 500 MB that no layer below can make smaller.
+// 500 MB that no lower layer can compress.
 std::string ImageBench::largeFolder() const
 {
     const fs::path folder = m_folder / "large";
@@ -77,7 +77,7 @@ Command ImageBench::image(bool isHfs, const std::string &source) const
     return command;
 }
 
-// Starts with nothing of an earlier run on its way to the disk.
+// Starts when everything of an earlier run is on the disk.
 ProcessCost ImageBench::costOf(const Command &command) const
 {
     fs::remove_all(m_folder / "ours");

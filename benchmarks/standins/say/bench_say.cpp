@@ -1,4 +1,4 @@
-// Saved speech against espeak-ng writing the same speech by itself.
+// Compares saved speech with espeak-ng writing the same speech directly.
 #include "StandinRatio.h"
 
 int main()

@@ -55,6 +55,9 @@ bool hasText(const QWidget &widget)
 /// Where the widget shows texts of its own, without its edges.
 QList<QRect> textPlaces(const QWidget &widget)
 {
+    const auto *label = qobject_cast<const QLabel *>(&widget);
+    if (label && label->text().trimmed().isEmpty())
+        return {}; // it only keeps the room of a text
     QList<QRect> places;
     if (const auto *tabs = qobject_cast<const QTabBar *>(&widget))
         for (int i = 0; i < tabs->count(); ++i)

@@ -60,7 +60,7 @@ private Q_SLOTS:
                  "last");
         QCOMPARE(runToEnd(shell("kill -9 $$"), discard).lastWords, "sh ended with signal 9");
         Command command = shell("printf 'the\\treason\\r\\nno reason\\n' >&2");
-        command.ignoredWords = "no reason";
+        command.isReason = [](std::string_view line) { return line != "no reason"; };
         QCOMPARE(runToEnd(command, discard).lastWords, "the reason");
 
         const auto endless = runToEnd(shell("yes \"$(printf '\\033[31m')\" | head -c 3000000"

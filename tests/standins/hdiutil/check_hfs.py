@@ -152,7 +152,12 @@ class Image:
 
     def tree(self, header, at, what):
         fork = self.fork(header, at, what)
-        return Tree(self.data[fork.offset:fork.offset + fork.size])
+        tree = Tree(self.data[fork.offset:fork.offset + fork.size])
+        clump, size = u32(header, at + 8), len(self.data)
+        require(clump > 0 and clump % self.block_size == 0 and 4 * clump <= size
+                and (clump >= 1 << 20 or size <= 500 << 20) and clump == u32(tree.data, 46),
+                f"clump size of {what}")
+        return tree
 
     def read(self, catalog):
         data, order = catalog.data, None

@@ -2,12 +2,14 @@
 // folder can hold, the same text where that is possible; trees of every size; files that change
 // while they are copied.
 
+#include "Failure.h"
 #include "HfsBTree.h"
 #include "HfsFormat.h"
 #include "HfsNames.h"
 #include "HybridImage.h"
 #include "ImageFile.h"
 #include "ImageTrial.h"
+#include "SourceFolder.h"
 
 #include <QTemporaryFile>
 #include <QTest>
@@ -79,7 +81,7 @@ private Q_SLOTS:
             QTemporaryFile file;
             QVERIFY(file.open());
             hfs::ImageFile image(file.handle(), "image");
-            hfs::BTreeWriter tree(image, {512, 516, 0, 6});
+            hfs::BTreeWriter tree(image, {512, 516, 0, 6, 512});
             for (int i = 0; i < records; ++i) {
                 const auto name = u"%1"_s.arg(i % 1000, 3, 10, QChar(u'0')).toStdU16String();
                 tree.append(hfs::catalogKey(static_cast<std::uint32_t>(i / 1000), name),
@@ -99,6 +101,26 @@ private Q_SLOTS:
         takesWhatIsThere(300'000, 400'000);
         takesWhatIsThere(300'000, 5);
         takesWhatIsThere(9'000'000, 8'000'000); // cut in its hole
+    }
+
+    // Whole blocks of files; what a link leads to is not below.
+    void countsWhatThereIsToPack()
+    {
+        const ImageTrial trial;
+        trial.makeFile("source/empty", "");
+        trial.makeFile("source/a", "x");
+        trial.makeFile("source/sub/b", QByteArray(4097, 'y'));
+        trial.require(u"ln -s .. source/sub/up && mkfifo source/fifo"_s);
+        const std::string path = QFileInfo(trial.image()).path().toStdString() + "/source";
+        std::stop_source stop;
+        const auto size = [&](int levels) {
+            return source::contentSize(source::openRoot(path), path, 4096, stop.get_token(),
+                                       levels);
+        };
+        QCOMPARE(size(2), 3U * 4096);
+        QVERIFY_THROWS_EXCEPTION(standin::Failure, size(1));
+        stop.request_stop();
+        QVERIFY_THROWS_EXCEPTION(standin::Failure, size(2));
     }
 
 private:

@@ -62,6 +62,9 @@ private Q_SLOTS:
         offerFileManager();
         const QDir folder(m_dir.path());
         QVERIFY(folder.mkpath(u"plain"_s) && folder.mkpath(u"a, b#c?d%41;\u00fc"_s));
+        const auto scripts = u"中文 й ع"_s;
+        const auto codedScripts = u"%E4%B8%AD%E6%96%87%20%D0%B9%20%D8%B9"_s;
+        QVERIFY(folder.mkpath(scripts));
         writeFile(folder.filePath(u"plain/-f, 1"_s), {});
         QFile::link(u"/nowhere"_s, folder.filePath(u"link"_s));
         const auto coded = u"a%2C%20b%23c%3Fd%2541%3B%C3%BC"_s;
@@ -70,6 +73,7 @@ private Q_SLOTS:
              {std::tuple(u"plain/"_s, u"plain/"_s, u"plain"_s),
               std::tuple(u"a, b#c?d%41;\u00fc"_s, coded, coded),
               std::tuple(u"plain/-f, 1"_s, u"plain"_s, u"plain/-f%2C%201"_s),
+              std::tuple(scripts, codedScripts, codedScripts),
               std::tuple(u"link"_s, QString(), u"link"_s)}) {
             m_manager.shown.clear();
             QStringList expected{u"selected"_s, u"file://"_s + folder.filePath(selected)};

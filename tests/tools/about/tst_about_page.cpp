@@ -74,9 +74,8 @@ private Q_SLOTS:
         QCOMPARE(rows(), 0);
         QVERIFY(table().isVisible() && !QApplication::activeModalWidget());
         QVERIFY(table().viewport()->findChild<QLabel *>()->isVisible()); // which says so
-        for (const char *button : buttons)
-            press(*m_page, button);
-        QCOMPARE(m_opened, QStringList());
+        for (const char *button : buttons) // they would open nothing
+            QVERIFY2(!control<QPushButton>(*m_page, button).isEnabled(), button);
         const QByteArray list = AppsPlist::list(twoApps(), social);
         serve(list);
         open();
@@ -95,6 +94,22 @@ private Q_SLOTS:
         QCOMPARE(text(1, AppsTable::DescColumn), u"what Crane does"_s);
         QCOMPARE(text(1, AppsTable::TypeColumn), u"Tool"_s);
         QCOMPARE(read("Apps.plist"), list);
+    }
+
+    void loadsAgain()
+    {
+        open();
+        QCOMPARE(rows(), 0);
+        serve(AppsPlist::list(twoApps(), social));
+        press(*m_page, "reloadButton");
+        QTRY_COMPARE(rows(), 2);
+        press(*m_page, "webButton");
+        QCOMPARE(m_opened, QStringList{u"https://maker.example/"_s});
+        m_server->set("/conf/Apps.plist", MakersServer::silent("HTTP/1.1 200 OK\r\n"));
+        press(*m_page, "reloadButton");
+        QTRY_VERIFY(control<QWidget>(*m_page, "progressIndicator").isVisible());
+        press(*m_page, "reloadButton"); // changes nothing while it loads
+        QVERIFY(control<QWidget>(*m_page, "progressIndicator").isVisible());
     }
 
     void opensTheSelectedRow()
@@ -123,14 +138,38 @@ private Q_SLOTS:
         for (const char *address :
              {"file:///etc/passwd", "FILE:///etc/passwd", "/etc/passwd", "javascript:alert(1)",
               "x-other://a", "https:///etc", "mailto:", "//a.example", "http://[bad/",
-              "http://a.example/", "mailto:a@b.example?attach=/etc/passwd"})
+              "http://a.example/", "mailto:a@b.example?attach=/etc/passwd",
+              "mailto:a@b.example?attach=/etc/passwd&amp;subject=What%20next%3F&amp;body=x",
+              "mailto:a@b.example?subject=one%0d%0abcc:c@d.example"})
             apps += AppsPlist::app("", "A", address);
+        const QByteArray longest = "http://a.example/" + QByteArray(2048 - 17, 'x');
+        apps += AppsPlist::app("", "A", longest) + AppsPlist::app("", "A", longest + 'x');
         serve(AppsPlist::list(apps, AppsPlist::string("Twitter", "file:///etc/passwd")));
         open();
-        press(*m_page, "twitterButton");
+        QVERIFY(!control<QPushButton>(*m_page, "twitterButton").isEnabled());
         for (int row = 0; row < rows(); ++row)
             table().setCurrentIndex(cell(row, 1));
-        QCOMPARE(m_opened, (QStringList{u"http://a.example/"_s, u"mailto:a@b.example"_s}));
+        QCOMPARE(m_opened,
+                 (QStringList{u"http://a.example/"_s, u"mailto:a@b.example"_s,
+                              u"mailto:a@b.example?subject=What next%3F"_s, u"mailto:a@b.example"_s,
+                              QString::fromLatin1(longest)}));
+    }
+
+    // A row says what it opens, as it would be opened, before it does.
+    void showsTheAddressOfARow()
+    {
+        serve(AppsPlist::list(AppsPlist::app("zip", "A", "https://m\xc3\xa4ker.example/&lt;b&gt;")
+                              + AppsPlist::app("", "B", "file:///etc/passwd")
+                              + AppsPlist::app("", "C", "https://h/" + QByteArray(2000, 'x'))));
+        open();
+        const auto tip = [this](int row, int column) {
+            return cell(row, column).data(Qt::ToolTipRole).toString().remove(QChar(0x200b));
+        };
+        for (const int column : {AppsTable::IconColumn, AppsTable::NameColumn})
+            QVERIFY2(tip(0, column).contains(u"<p>https://xn--mker-loa.example/%3Cb%3E</p>"_s),
+                     qPrintable(tip(0, column)));
+        QVERIFY(tip(1, AppsTable::NameColumn) == u"<p>B</p>"_s);
+        QVERIFY(tip(2, AppsTable::NameColumn).size() < 600);
     }
 
     void showsPlainText()

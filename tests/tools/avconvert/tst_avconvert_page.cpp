@@ -1,14 +1,17 @@
 // The video page passes the chosen format's preset on, and a list of formats that is broken makes a
-// conversion fail, not the page.
+// conversion fail, not the page. Each language has its own list of the same presets.
 
 #include "AVConvertViewController.h"
 #include "JobList.h"
 #include "MessageBoxes.h"
 #include "PageControls.h"
+#include "PropertyList.h"
 #include "RecordedProgram.h"
 
 #include <QComboBox>
+#include <QDir>
 #include <QTemporaryDir>
+#include <QTranslator>
 
 using namespace PageControls;
 using namespace Qt::StringLiterals;
@@ -43,6 +46,37 @@ private Q_SLOTS:
             QTRY_COMPARE(boxes.texts, QStringList{u"Convert is failed."_s});
             boxes.texts.clear();
             QCOMPARE(program.arguments()->join(u'|'), arguments);
+        }
+    }
+
+    void offersTheFormatsInEachLanguage()
+    {
+        JobList jobs;
+        const auto listIn = [&jobs](const QString &table) {
+            QTranslator texts;
+            if (!texts.load(u":/localisation/"_s + table) || !qApp->installTranslator(&texts))
+                return QVariantMap();
+            const QString path = AVConvertViewController::presetListOfLanguage();
+            const QVariantMap list = PropertyList::readDictionaryFile(path).value_or(QVariantMap());
+            const AVConvertViewController page(jobs);
+            const auto &popUp = control<QComboBox>(page, "outputFormatPopUp");
+            if (popUp.count() != list.size()
+                || list.value(popUp.currentText()) != u"Preset3840x2160"_s)
+                QTest::qFail(qPrintable(table), __FILE__, __LINE__);
+            return list;
+        };
+        const QVariantMap english = listIn(u"toolvane_en.qm"_s);
+        const auto presetsOf = [](const QVariantMap &list) {
+            QStringList presets = QVariant(list.values()).toStringList();
+            presets.sort();
+            return presets;
+        };
+        const QStringList tables = QDir(u":/localisation"_s).entryList();
+        QCOMPARE(tables.size(), 13);
+        for (const QString &table : tables) {
+            const QVariantMap list = listIn(table);
+            QCOMPARE(presetsOf(list), presetsOf(english));
+            QCOMPARE(list == english, table.endsWith(u"_en.qm"));
         }
     }
 };

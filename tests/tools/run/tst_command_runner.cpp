@@ -63,7 +63,7 @@ private Q_SLOTS:
         const QString program = behaviour({}).launchPath;
         const QString nullInside = "/tmp"_L1 + QChar(u'\0') + "/x"_L1;
         for (const Command &command :
-             {Command{u"/nonexistent/zip"_s, {}}, Command{QString(), {}},
+             {Command{u"/nonexistent/program"_s, {}}, Command{QString(), {}},
               Command{u"/etc/passwd"_s, {}}, Command{program, {QString(200 * 1024, u'a')}},
               Command{program, {u"exit"_s, nullInside}}}) {
             const QFuture<CommandResult> future = m_runner->run(command, m_jobs.begin(description));

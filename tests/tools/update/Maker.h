@@ -48,12 +48,14 @@ public:
     }
 
     static QByteArray feed(const QByteArray &items,
-                           const QByteArray &date = "Mon, 02 Mar 2026 10:00:00 +0000")
+                           const QByteArray &date = "Mon, 02 Mar 2026 10:00:00 +0000",
+                           const QByteArray &expiry = "Mon, 02 Mar 2099 10:00:00 +0000")
     {
         return "<rss version=\"2.0\" xmlns:t=\"urn:toolvane:feed\" "
                "xmlns:c=\"http://www.andymatuschak.org/xml-namespaces/sparkle\"><channel>\n"
                "<lastBuildDate>"
-            + date + "</lastBuildDate>\n" + items + "</channel></rss>\n";
+            + date + "</lastBuildDate>\n<t:expires>" + expiry + "</t:expires>\n" + items
+            + "</channel></rss>\n";
     }
 
 private:

@@ -2,6 +2,7 @@
 // none is offered that should not be.
 
 #include "Maker.h"
+#include "NotesText.h"
 #include "UpdateFeed.h"
 
 #include <QTest>
@@ -39,6 +40,7 @@ private Q_SLOTS:
             "Mon, 02 Mar 2026 12:00:00 +0200"));
         QVERIFY(feed);
         QCOMPARE(feed->date, QDateTime(QDate(2026, 3, 2), QTime(10, 0), Qt::UTC));
+        QCOMPARE(feed->expiry, QDateTime(QDate(2099, 3, 2), QTime(10, 0), Qt::UTC));
         const UpdateItem &item = feed->items.first();
         QCOMPARE(item.shortVersion, u"2 <b>"_s);
         QCOMPARE(item.minimumSystem, QVersionNumber(5, 10));
@@ -51,6 +53,29 @@ private Q_SLOTS:
         QCOMPARE(onEnclosure.system, u"macos"_s);
         QCOMPARE(onEnclosure.signature, QByteArray());
         QCOMPARE(onEnclosure.length, 0);
+    }
+
+    void takesTheTextOutOfNotes_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("blocks") << u"<h2>New</h2>\n<p>one\n <b>two</b>,\tthree<br>four</p>"_s
+                                << u"New\none two, three\nfour"_s;
+        QTest::newRow("list") << u"<UL class='x'><LI>a<LI>b</UL>c"_s << u"• a\n• b\nc"_s;
+        QTest::newRow("entities") << u"&lt;b&gt; &amp;amp; &#8364;&#x20ac;&nbsp;&quot;&apos;"_s
+                                  << u"<b> &amp; €€ \"'"_s;
+        QTest::newRow("no entities") << u"a & b &; &none; &#0; &#xd800; &#1114112; &lt"_s
+                                     << u"a & b &; &none; &#0; &#xd800; &#1114112; &lt"_s;
+        QTest::newRow("left out") << u"a<script>if (a<b) x()</script >b<!-- <p>c -->d"_s
+                                  << u"abd"_s;
+        for (const auto &open : {u"<"_s, u"<p"_s, u"<!--"_s, u"<script>"_s, u"<style a='"_s})
+            QTest::newRow(qPrintable(u"never closed: "_s + open))
+                << u"a"_s + open + u" b"_s << u"a"_s;
+    }
+    void takesTheTextOutOfNotes()
+    {
+        QFETCH(const QString, html);
+        QTEST(plainTextOfNotes(html), "text");
     }
 
     void readsOnlyNumbersAsVersions()
@@ -88,6 +113,12 @@ private Q_SLOTS:
                         + "</c:shortVersionString><description>" + text + "</description></item>"));
         QVERIFY(longTexts && longTexts->items.first().shortVersion.size() <= 200);
         QVERIFY(longTexts->items.first().notes.size() <= 16 * 1024);
+        // A layout of these would take half a minute.
+        const auto cells = UpdateFeed::read(
+            Maker::feed("<item><c:version>1</c:version><description><![CDATA["
+                        + QByteArray("<table><td>x").repeated(1300) + "]]></description></item>"));
+        QVERIFY(cells);
+        QCOMPARE(cells->items.first().notes, QStringList(1300, u"x"_s).join(u'\n'));
         for (const QByteArray &items : {deep, "<item" + attributes + "/>"}) {
             const auto feed = UpdateFeed::read(Maker::feed(items));
             QVERIFY(!feed || feed->items.isEmpty());

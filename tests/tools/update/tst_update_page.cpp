@@ -1,60 +1,28 @@
-// Proves that the page contacts no server before the user wants it, shows what came of it, leaves
-// the user's choices to the user, and that a download which is stopped or abandoned leaves nothing
-// behind.
+// Proves that the page contacts no server before the user wants it, shows what came of it, and
+// leaves the user's choices to the user.
 
-#include "JobList.h"
-#include "Maker.h"
-#include "MakersServer.h"
-#include "MiscTool.h"
-#include "PageControls.h"
-#include "UpdateViewController.h"
+#include "UpdatePageFixture.h"
 
-#include <QDesktopServices>
-#include <QDir>
-#include <QLabel>
 #include <QPlainTextEdit>
-#include <QProgressBar>
-#include <QSettings>
-#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 using namespace PageControls;
 
-class TestUpdatePage : public QObject
+class TestUpdatePage : public UpdatePageFixture
 {
     Q_OBJECT
 
-public Q_SLOTS:
-    void noteOpened(const QUrl &url) { m_opened += url; }
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QCoreApplication::setOrganizationName("Toolvane"_L1);
-        QCoreApplication::setApplicationName("UpdateTest"_L1);
-        QCoreApplication::setApplicationVersion("1.2.0"_L1);
-        QVERIFY(MiscTool::getUserHome().startsWith(qEnvironmentVariable("TOOLVANE_TEST_SANDBOX")));
-        QVERIFY(m_texts.load(":/localisation/toolvane_en.qm"_L1));
-        QCoreApplication::installTranslator(&m_texts);
-        QDesktopServices::setUrlHandler("file"_L1, this, "noteOpened");
-    }
-    void init()
-    {
-        QSettings().clear();
-        useServer();
-        QDir(MiscTool::getDownloadFolder()).removeRecursively();
-        m_server.set("/files/new.bin", m_file);
-        m_opened.clear();
-    }
-    void cleanup() { m_view.reset(); }
-    void cleanupTestCase() { QDesktopServices::unsetUrlHandler("file"_L1); }
-
     void contactsNoServerUnasked()
     {
         QSettings().remove(u"Addresses/UpdateFeed"_s);
         open(m_maker.publicKey);
         QVERIFY(says("Update.NoFeed") && isShown("detailLabel"));
+        QVERIFY(!control<QPushButton>(*m_view, "checkButton").isEnabled());
         useServer();
+        m_view->hide(); // the user has written the address and comes back
+        m_view->show();
+        QVERIFY(control<QPushButton>(*m_view, "checkButton").isEnabled());
         const qsizetype before = m_server.paths().size();
         publish("");
         open(m_maker.publicKey);
@@ -106,11 +74,12 @@ private Q_SLOTS:
         QVERIFY2(notes.startsWith(u"one"_s) && notes.endsWith(u"three"_s), qPrintable(notes));
         QVERIFY(!notes.contains(u'<'));
 
+        QVERIFY(!isShown("keyLabel"));
         open({}); // built without the maker's key: nothing can be trusted, so nothing is fetched
         m_server.set("/feed.xml", Maker::feed(offered("1.3")));
         check();
         QVERIFY(says("Update.Result.Available"));
-        QCOMPARE(label("detailLabel"), qtTrId("Update.NoKey"));
+        QVERIFY(isShown("keyLabel") && !isShown("detailLabel")); // said once
         QVERIFY(!isShown("downloadButton"));
     }
 
@@ -118,8 +87,10 @@ private Q_SLOTS:
     {
         open(m_maker.publicKey);
         for (const auto &[headline, detail, reply] :
-             {std::tuple("Update.Result.NotReached", qtTrId("Update.Problem.Status").arg(503),
+             {std::tuple("Update.Result.NotChecked", qtTrId("Update.Problem.Status").arg(503),
                          HttpPeer::reply("", "503 No")),
+              {"Update.Result.NotChecked", qtTrId("Update.Problem.Garbled"), "garbage\r\n\r\n"},
+              {"Update.Result.NotReached", qtTrId("Update.Problem.Unreachable"), ""},
               {"Update.Result.NotTrusted", qtTrId("Update.Problem.WrongSignature"),
                HttpPeer::reply(Maker().sealed(Maker::feed(offered("1.3"))))}}) {
             publish(offered("1.3"));
@@ -154,6 +125,45 @@ private Q_SLOTS:
         QCOMPARE(label("detailLabel"), qtTrId("Update.Problem.WrongSignature"));
     }
 
+    // Another program sees a newer feed while this one waits for its own.
+    void letsTheMemoryOfFeedsOnlyGoForward()
+    {
+        publish("", "Tue, 03 Mar 2026 10:00:00 +0000");
+        open(m_maker.publicKey);
+        check();
+        const QString key = QSettings().allKeys().filter(u"NewestFeed"_s).value(0);
+        const QString newer = u"2026-03-05T10:00:00Z"_s;
+        const QByteArray feed =
+            m_maker.sealed(Maker::feed(offered("1.3"), "Wed, 04 Mar 2026 10:00:00 +0000"));
+        m_server.set("/feed.xml", [=](HttpPeer::Connection &connection) {
+            QSettings().setValue(key, newer);
+            connection.send(HttpPeer::reply(feed));
+        });
+        check();
+        QCOMPARE(label("detailLabel"), qtTrId("Update.Problem.Older"));
+        QVERIFY(!isShown("offerBox"));
+        QCOMPARE(QSettings().value(key).toString(), newer);
+    }
+
+    void saysOfWhenTheFeedIsAndWarnsPastItsExpiry()
+    {
+        open(m_maker.publicKey);
+        for (const bool isOffered : {false, true}) {
+            m_server.set("/feed.xml",
+                         m_maker.sealed(Maker::feed(isOffered ? offered("1.3") : QByteArray(),
+                                                    "Mon, 02 Mar 2020 10:00:00 +0000",
+                                                    "Wed, 02 Sep 2020 10:00:00 +0000")));
+            check();
+            QVERIFY(says(isOffered ? "Update.Result.Available" : "Update.Result.Expired"));
+            QCOMPARE(label("detailLabel"), qtTrId("Update.Expired").arg(shown({2020, 9, 2})));
+            QVERIFY(label("lastCheckLabel")
+                        .endsWith(qtTrId("Update.FeedDate").arg(shown({2020, 3, 2}))));
+        }
+        publish("");
+        check();
+        QVERIFY(says("Update.Result.UpToDate") && !isShown("detailLabel"));
+    }
+
     void hasASentenceForEachProblem()
     {
         for (int kind = 1; kind <= int(UpdateProblem::Kind::Stopped); ++kind) {
@@ -161,92 +171,6 @@ private Q_SLOTS:
             QVERIFY2(sentence.endsWith(u'.') && !sentence.contains(u'%'), qPrintable(sentence));
         }
     }
-
-    void checksDownloadsAndOpensOnReturn()
-    {
-        publish(offered("1.3"));
-        open(m_maker.publicKey);
-        QTest::keyClick(m_view.get(), Qt::Key_Return);
-        QTRY_VERIFY(says("Update.Result.Available"));
-        QSignalSpy ended(&m_jobs, &JobList::jobEnded);
-        QTest::keyClick(m_view.get(), Qt::Key_Return);
-        QCOMPARE(m_jobs.running().size(), 1U);
-        QVERIFY(!control<QPushButton>(*m_view, "checkButton").isEnabled());
-        QTRY_VERIFY(says("Update.Downloaded"));
-        QCOMPARE(ended.value(0).value(1).value<JobOutcome>(), JobOutcome::Succeeded);
-        QCOMPARE(downloads(), QStringList{u"new.bin"_s});
-        const QUrl file = QUrl::fromLocalFile(MiscTool::getDownloadFolder() + u"/new.bin"_s);
-        QCOMPARE(m_opened, QList<QUrl>{file});
-        press(*m_view, "openButton");
-        QCOMPARE(m_opened.size(), 2);
-    }
-
-    void stopsADownloadAndLeavesNothingBehind()
-    {
-        publish(offered("1.3"));
-        m_server.set("/files/new.bin",
-                     MakersServer::silent(HttpPeer::reply(m_file).first(100'000)));
-        open(m_maker.publicKey);
-        check();
-        press(*m_view, "downloadButton");
-        auto &bar = control<QProgressBar>(*m_view, "progressIndicator");
-        QTRY_VERIFY(bar.value() > 100 && bar.value() < bar.maximum());
-        press(*m_view, "stopButton");
-        QTRY_VERIFY(says("Update.Result.Available"));
-        QVERIFY(m_jobs.isEmpty() && downloads().isEmpty() && m_opened.isEmpty());
-        press(*m_view, "downloadButton");
-        m_view.reset(); // goes away in the middle
-        QTRY_VERIFY(m_jobs.isEmpty());
-        QVERIFY(downloads().isEmpty());
-    }
-
-private:
-    void open(const QByteArray &key)
-    {
-        m_view = std::make_unique<UpdateCheckView>(key, nullptr);
-        m_view->setJobs(m_jobs, "Page"_L1);
-        m_view->show();
-    }
-    void useServer() const
-    {
-        QSettings().setValue("Addresses/UpdateFeed"_L1,
-                             QString::fromLatin1(m_server.address("/feed.xml")));
-    }
-    void publish(const QByteArray &items,
-                 const QByteArray &date = "Mon, 02 Mar 2026 10:00:00 +0000")
-    {
-        m_server.set("/feed.xml", m_maker.sealed(Maker::feed(items, date)));
-    }
-    QByteArray offered(const QByteArray &version, const QByteArray &more = {}) const
-    {
-        return m_maker.item(version, m_server.address("/files/new.bin"), m_file, more);
-    }
-    void check()
-    {
-        press(*m_view, "checkButton");
-        QTRY_VERIFY(control<QPushButton>(*m_view, "checkButton").isEnabled());
-    }
-    QString label(const char *name) const { return control<QLabel>(*m_view, name).text(); }
-    /// Whether the sentence in bold is this one.
-    bool says(const char *key, const QString &version = "1.3"_L1) const
-    {
-        const QString text = qtTrId(key);
-        return label("headlineLabel") == (text.contains("%1"_L1) ? text.arg(version) : text);
-    }
-    bool isShown(const char *name) const { return control<QWidget>(*m_view, name).isVisible(); }
-    QStringList downloads() const
-    {
-        return QDir(MiscTool::getDownloadFolder())
-            .entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
-
-    QTranslator m_texts;
-    Maker m_maker;
-    MakersServer m_server;
-    JobList m_jobs;
-    QByteArray m_file = QByteArray(200'000, 'n');
-    QList<QUrl> m_opened;
-    std::unique_ptr<UpdateCheckView> m_view;
 };
 
 QTEST_MAIN(TestUpdatePage)

@@ -88,13 +88,18 @@ private Q_SLOTS:
             QVERIFY(file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered));
             QVERIFY(isNamed || QFile::remove(file.fileName()));
             const QByteArray ofNothing = m_maker.sign({});
-            QVERIFY(UpdateSignature::isValid(file, m_maker.publicKey, ofNothing));
+            QVERIFY(!UpdateSignature::hashIfValid(file, m_maker.publicKey, ofNothing).isEmpty());
             QCOMPARE(file.write(message), message.size()); // and is checked from its begin
             const QByteArray signature = m_maker.sign(message);
-            QVERIFY(UpdateSignature::isValid(file, m_maker.publicKey, signature));
-            QVERIFY(!UpdateSignature::isValid(file, m_maker.publicKey, ofNothing));
+            const auto hash = [&](const QByteArray &given) {
+                return UpdateSignature::hashIfValid(file, m_maker.publicKey, given);
+            };
+            QCOMPARE(hash(signature), UpdateSignature::hash(file, {}));
+            QCOMPARE(hash(signature).size(), 32);
+            QVERIFY(hash(ofNothing).isEmpty());
+            QVERIFY(file.seek(message.size()));
             QCOMPARE(file.write("m"), 1);
-            QVERIFY(!UpdateSignature::isValid(file, m_maker.publicKey, signature));
+            QVERIFY(hash(signature).isEmpty());
         }
     }
 
@@ -112,6 +117,10 @@ private Q_SLOTS:
             {dated("some day"), Kind::NoDate},
             {MakersServer::serving(m_maker.sealed("hello\n")), Kind::NotAFeed},
             {MakersServer::serving(feed), Kind::Unsigned},
+            {MakersServer::serving("<html>Sign in to the network</html>"), Kind::NotAFeed},
+            {MakersServer::raw("220 mail.example ready\r\n"), Kind::Garbled},
+            {MakersServer::dropping(feed), Kind::BrokenOff},
+            {[](HttpPeer::Connection &) {}, Kind::Unreachable},
             {MakersServer::serving(Maker().sealed(feed)), Kind::WrongSignature},
             {MakersServer::serving(QByteArray(good).replace("1.1", "1.9")), Kind::WrongSignature},
             {MakersServer::status("500 Oh"), Kind::Status},
@@ -146,16 +155,40 @@ private Q_SLOTS:
         m_server.set(filePath, file);
         const FetchedFile fetched = fetch(item(file), folder.path());
         QCOMPARE(fetched.problem.kind, Kind::None);
-        QCOMPARE(fetched.path, folder.filePath(u"toolvane-1.4.tar.gz"_s));
+        QCOMPARE(fetched.file.path, folder.filePath(u"toolvane-1.4.tar.gz"_s));
         QCOMPARE(m_received, file.size());
         QVERIFY(QFile::link(u"/nowhere"_s, folder.filePath(u"toolvane-1.4 2.tar.gz"_s)));
         m_server.set(filePath, QByteArray("new"));
-        QCOMPARE(fetch(item("new"), folder.path()).path,
+        QCOMPARE(fetch(item("new"), folder.path()).file.path,
                  folder.filePath(u"toolvane-1.4 3.tar.gz"_s));
-        QCOMPARE(fetch(item("new"), fetched.path).problem.kind, Kind::NotWritten); // no folder
-        QCOMPARE(Files::read(fetched.path), file);
+        QCOMPARE(fetch(item("new"), fetched.file.path).problem.kind, Kind::NotWritten); // no folder
+        QCOMPARE(Files::read(fetched.file.path), file);
         // Who installs it may be another user.
-        QVERIFY(QFile::permissions(fetched.path) & QFile::ReadOther);
+        QVERIFY(QFile::permissions(fetched.file.path) & QFile::ReadOther);
+    }
+
+    void recognisesTheFileThatItChecked()
+    {
+        const QTemporaryDir base;
+        const QDir folder(base.filePath(u"Downloads"_s));
+        const QByteArray content(3'000'000, 'f');
+        m_server.set(filePath, content);
+        const CheckedFile file = fetch(item(content), folder.path()).file;
+        QVERIFY(file.isUnchanged({}));
+        const QString aside = base.filePath(u"aside"_s);
+        QVERIFY(QDir().rename(folder.path(), aside) && QDir().mkdir(folder.path()));
+        QVERIFY(!file.isUnchanged({})); // gone
+        Files::write(file.path, content);
+        QVERIFY(!file.isUnchanged({})); // alike, but another one
+        QVERIFY(QFile::remove(file.path));
+        QVERIFY(QFile::link(aside + u"/toolvane-1.4.tar.gz"_s, file.path));
+        QVERIFY(!file.isUnchanged({}));
+        QVERIFY(QDir(folder).removeRecursively() && QDir().rename(aside, folder.path()));
+        QVERIFY(file.isUnchanged({}));
+        QFile same(file.path);
+        QVERIFY(same.open(QIODevice::ReadWrite) && same.seek(2'000'000) && same.putChar('g'));
+        same.close();
+        QVERIFY(!file.isUnchanged({}));
     }
 
     void keepsNothingElse()
@@ -165,7 +198,7 @@ private Q_SLOTS:
                               {MakersServer::serving(file.chopped(1)), Kind::Incomplete},
                               {MakersServer::serving(file + 'f'), Kind::TooLarge},
                               {MakersServer::endless(file), Kind::TooLarge},
-                              {MakersServer::dropping(file.chopped(1000)), Kind::Unreachable},
+                              {MakersServer::dropping(file.chopped(1000)), Kind::BrokenOff},
                               {MakersServer::status("404 Not Found"), Kind::Status},
                               {MakersServer::redirect("file:///etc/passwd"), Kind::Status}};
         const QTemporaryDir folder;
@@ -173,7 +206,7 @@ private Q_SLOTS:
             m_server.set(filePath, answer);
             const FetchedFile fetched = fetch(item(file), folder.path());
             QCOMPARE(fetched.problem.kind, problem);
-            QVERIFY(fetched.path.isEmpty());
+            QVERIFY(fetched.file.path.isEmpty());
             QVERIFY(QDir(folder.path())
                         .isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
         }
@@ -226,6 +259,7 @@ private Q_SLOTS:
         const UpdateSource source{address + "feed.xml", publicKey};
         const FetchedFeed fetched = fetchFeed(source, {}, {});
         QCOMPARE(fetched.problem.kind, Kind::None);
+        QCOMPARE(fetched.feed.date.daysTo(fetched.feed.expiry), 180);
         const auto offer = chooseOffer(
             fetched.feed, {.installed = {0, 1}, .system = {6, 1}, .systemName = u"linux"_s});
         QVERIFY(offer && offer->notes.startsWith(u'•'));
@@ -233,7 +267,7 @@ private Q_SLOTS:
         const FetchedFile got =
             fetchFile(*offer, publicKey, own.filePath(u"Downloads"_s), m_received, {});
         QCOMPARE(got.problem.kind, Kind::None);
-        QCOMPARE(Files::read(got.path), file);
+        QCOMPARE(Files::read(got.file.path), file);
         QCOMPARE(build(address), 0); // each feed is dated later than the last
         QVERIFY(fetchFeed(source, {}, {}).feed.date > fetched.feed.date);
         server.terminate();

@@ -2,18 +2,31 @@
 // restored, the ticked folders and nothing else, and the page's states on the way.
 
 #include "CacheRun.h"
+#include "FileDescriptor.h"
 #include "Files.h"
 #include "JobList.h"
 #include "MessageBoxes.h"
 #include "PageControls.h"
 #include "TestHome.h"
 #include "UserCacheViewController.h"
+#include "WithoutPrivilege.h"
 
 #include <QCheckBox>
 #include <QDir>
 #include <QLabel>
 #include <QProgressBar>
+#include <QScopeGuard>
 #include <QSignalSpy>
+#include <QTranslator>
+
+#include <fcntl.h>
+#include <pthread.h>
+#include <sched.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
 
 using namespace PageControls;
 using namespace Qt::StringLiterals;
@@ -178,6 +191,130 @@ private Q_SLOTS:
         QVERIFY(!TestHome::exists("Downloads") && TestHome::exists("Logs/c"));
     }
 
+    void saysWhatItFoundFreedAndLeft()
+    {
+        QTranslator english;
+        QVERIFY(english.load(u":/localisation/toolvane_en.qm"_s));
+        QCoreApplication::installTranslator(&english);
+        const QByteArray home = TestHome::path();
+        std::filesystem::remove_all((home + "/Logs").toStdString());
+        std::filesystem::remove_all((home + "/Mail Downloads").toStdString());
+        std::filesystem::remove_all((home + "/Downloads").toStdString());
+        SampleTree::makeFolder(home + "/Downloads");
+        TestHome::makeFile("Mail Downloads", 1536);
+        TestHome::grant();
+        open();
+        for (const char *box : boxes)
+            tick(box);
+        const WithoutPrivilege plainUser; // the worker inherits it
+        const auto permit = [&home](mode_t mode) {
+            QCOMPARE(chmod((home + "/.Trash").constData(), mode), 0);
+            QCOMPARE(chmod((home + "/Library/Caches/deep").constData(), mode), 0);
+        };
+        permit(0);
+        run("checkButton");
+        QCOMPARE(results(),
+                 QStringList({u"Some of it cannot be read"_s, u"Not there"_s, u"0 bytes"_s,
+                              u"Not a folder"_s, u"Cannot be read"_s}));
+        run("cleanButton");
+        permit(0700);
+        QCOMPARE(results(),
+                 QStringList({u"1.5 KB freed, some stayed: no permission"_s, u"Not there"_s,
+                              u"0 bytes freed"_s, u"1.5 KB freed"_s,
+                              u"Nothing deleted: no permission"_s}));
+        QVERIFY(TestHome::exists(".Trash/f") && TestHome::exists("Library/Caches/deep/b"));
+        QCOMPARE(title("cachesCheckBox"), u"Caches "_s);
+        QVERIFY(control<QCheckBox>(*m_page, "mailDownloadCheckBox")
+                    .toolTip()
+                    .contains(MiscTool::getUserHome() + u"/Mail Downloads"_s));
+        // What is said of a folder is gone with the next run that looks at it.
+        for (const char *box : {"logsCheckBox", "downloadsCheckBox"})
+            tick(box, false);
+        run("checkButton");
+        QCOMPARE(results(),
+                 QStringList({{}, u"Not there"_s, u"0 bytes freed"_s, u"Not there"_s, {}}));
+    }
+
+    // As when the system's limit of threads is met: none gets a stack.
+    void goesOnWithoutThreads()
+    {
+        TestHome::grant();
+        open();
+        tick("logsCheckBox");
+        pthread_attr_t before;
+        QCOMPARE(pthread_getattr_default_np(&before), 0);
+        pthread_attr_t huge;
+        QCOMPARE(pthread_attr_init(&huge), 0);
+        QCOMPARE(pthread_attr_setstacksize(&huge, std::size_t(1) << 50), 0);
+        for (const char *button : {"checkButton", "cleanButton"}) {
+            QSignalSpy ended(&m_jobs, &JobList::jobEnded);
+            QCOMPARE(pthread_setattr_default_np(&huge), 0);
+            press(*m_page, button);
+            QCOMPARE(pthread_setattr_default_np(&before), 0);
+            QTRY_VERIFY_WITH_TIMEOUT(isIdle(), timeout);
+            QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Failed);
+            QCOMPARE(status(), u"UserCache.NoThread"_s);
+        }
+        QVERIFY(TestHome::exists("Logs/c"));
+        run("cleanButton");
+        QCOMPARE(status(), QString());
+        QVERIFY(!TestHome::exists("Logs"));
+    }
+
+    // A file system whose server never says a word holds whoever looks into it.
+    void stopDoesNotWaitForAMountThatNeverAnswers()
+    {
+        SampleTree::makeFolder(TestHome::path() + "/Downloads/server");
+        FileDescriptor server(::open("/dev/fuse", O_RDWR | O_CLOEXEC));
+        const QByteArray options = "fd=" + QByteArray::number(server.get())
+            + ",rootmode=40000,user_id=" + QByteArray::number(getuid())
+            + ",group_id=" + QByteArray::number(getgid());
+        if (!server || unshare(CLONE_NEWNS) != 0
+            || mount("", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0
+            || mount("hanging", (TestHome::path() + "/Downloads/server").constData(), "fuse", 0,
+                     options.constData())
+                != 0)
+            QSKIP(qPrintable(u"may not mount: "_s + qt_error_string(errno)));
+        const auto unmount = qScopeGuard([&server] { // wakes the thread that was left behind
+            umount2((TestHome::path() + "/Downloads/server").constData(), MNT_DETACH);
+            server.close();
+        });
+        TestHome::grant();
+        open();
+        tick("downloadsCheckBox");
+        QSignalSpy ended(&m_jobs, &JobList::jobEnded);
+        press(*m_page, "checkButton");
+        QTest::qWait(200); // it hangs by then; if not, stopping is quicker still
+        m_jobs.stopAll();
+        QTRY_VERIFY_WITH_TIMEOUT(isIdle(), timeout);
+        QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
+        QCOMPARE(status(), u"UserCache.NoAnswer"_s);
+        tick("downloadsCheckBox", false);
+        tick("logsCheckBox");
+        run("cleanButton");
+        QVERIFY(!TestHome::exists("Logs"));
+    }
+
+    // The chooser hands out the path as it is written properly.
+    void homeWithNeedlessSlashesAndDots()
+    {
+        const QString users = qEnvironmentVariable("NSS_WRAPPER_PASSWD");
+        const QByteArray before = Files::read(users);
+        const QString home = MiscTool::getUserHome();
+        const QString odd = QFileInfo(home).path() + u"//"_s + QFileInfo(home).fileName() + u"/."_s;
+        const auto restore = qScopeGuard([&] { Files::write(users, before); });
+        Files::write(users, QByteArray(before).replace(home.toUtf8() + ':', odd.toUtf8() + ':'));
+        QCOMPARE(MiscTool::getUserHome(), odd);
+        open();
+        authorize(home);
+        QVERIFY(showsGrant());
+        QCOMPARE(m_boxes->texts, QStringList());
+        tick("logsCheckBox");
+        press(*m_page, "cleanButton");
+        QTRY_VERIFY_WITH_TIMEOUT(isIdle(), timeout);
+        QVERIFY(!TestHome::exists("Logs") && TestHome::exists("Documents/k"));
+    }
+
     // As on quitting: the run stays listed until its thread has ended.
     void pageDestroyedWhileItRuns()
     {
@@ -195,6 +332,8 @@ private Q_SLOTS:
     }
 
 private:
+    static constexpr auto boxes = {"cachesCheckBox", "logsCheckBox", "downloadsCheckBox",
+                                   "mailDownloadCheckBox", "trashCheckBox"};
     static constexpr int timeout = 30'000; ///< Milliseconds, on a machine that has much to do.
 
     void open()
@@ -210,6 +349,15 @@ private:
     {
         control<QCheckBox>(*m_page, checkBox).setChecked(ticked);
     }
+    QStringList results() const
+    {
+        QStringList texts;
+        for (const char *name :
+             {"cachesResult", "logsResult", "downloadsResult", "mailDownloadResult", "trashResult"})
+            texts += control<QLabel>(*m_page, name).text();
+        return texts;
+    }
+    QString status() const { return control<QLabel>(*m_page, "statusLabel").text(); }
     bool showsGrant() const
     {
         return control<QWidget>(*m_page, "authorizeStatusButton").accessibleName()
