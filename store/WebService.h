@@ -18,7 +18,7 @@ public:
     /// A request to this address, with the headers and the name and password. It keeps its
     /// connection and follows no redirect that would turn a write into a read.
     HttpRequest request(const QByteArray &address, const QList<QByteArray> &headers = {}) const;
-    /// Asks whether the service works: 200 says so.
+    /// For the service's health: 200 if it works.
     HttpRequest healthRequest() const;
 
 private:

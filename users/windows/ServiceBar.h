@@ -16,17 +16,17 @@ class QStackedLayout;
 /// A line that says where the web service keeps the records and, as soon as it does not answer,
 /// since when. The protocol of the records hides such a failure: a write reads as success.
 ///
-/// While the line is shown, the service is asked off the interface thread. One without an address
-/// for the question (404) counts as reachable.
+/// While the line is shown, the service is checked off the interface thread. One without an address
+/// for the check (404) counts as reachable.
 class ServiceBar : public QWidget
 {
     Q_OBJECT
 
 public:
     explicit ServiceBar(const QString &address, QWidget *parent = nullptr);
-    ~ServiceBar() override; ///< Does not wait for a question that is under way.
+    ~ServiceBar() override; ///< Does not wait for a check that is under way.
 
-    /// Between two questions; ten seconds. A change applies to lines that are shown afterwards.
+    /// Between two checks; ten seconds. A change applies to lines that are shown afterwards.
     static std::chrono::milliseconds &interval();
 
 Q_SIGNALS:
