@@ -1,6 +1,5 @@
 #include "Application.h"
 
-#include "DB.h"
 #include "HoverTableAppDelegate.h"
 #include "LoginDelegate.h"
 #include "NamedImage.h"
@@ -91,7 +90,6 @@ Application::~Application() = default;
 
 void Application::start(const QString &page)
 {
-    DB::openConfiguredWebService();
     openPage(page);
     m_delegate.applicationDidFinishLaunching();
     // A window's icon is drawn in every size that a window manager may want. The window comes

@@ -15,11 +15,18 @@ bool isWebService()
     return DB::getDBType() == "webservice"_L1;
 }
 
-/// Has the database open for the scope, and closes it afterwards only if it was closed before.
+/// Has the store open for the scope, and closes it afterwards only if it was closed before. An
+/// address that did not come from the configuration stays as it is: no session gave it to DB.
 class DBScope
 {
 public:
-    DBScope() : m_hasOpened(!DBSession::isDBOpen()) { DBSession::openDB(); }
+    DBScope()
+        : m_hasOpened(!DBSession::isDBOpen()
+                      && (!isWebService() || !DB::configuredWebService().isEmpty()))
+    {
+        if (m_hasOpened)
+            DBSession::openDB();
+    }
     ~DBScope()
     {
         if (m_hasOpened)
@@ -33,7 +40,6 @@ private:
 
 bool runs(const QString &sql)
 {
-    const DBScope open;
     return DB::exec(sql) == 0;
 }
 
@@ -73,18 +79,21 @@ bool BLGeneral::initTable()
 
 bool BLGeneral::insert(RecordView record)
 {
+    const DBScope open;
     return isWebService() ? execHTTP(record) == 0
                           : runs(SchemaReflect::getFullInsertStatement(tableName, record));
 }
 
 bool BLGeneral::update(RecordView record)
 {
+    const DBScope open;
     return isWebService() ? execHTTP(record) == 0
                           : runs(SchemaReflect::getFullUpdateStatement(tableName, record));
 }
 
 bool BLGeneral::delete_(QAnyStringView whereClause)
 {
+    const DBScope open;
     return isWebService()
         ? deleteHTTP(whereClause) == 0
         : runs(SchemaReflect::getDeleteStatementIncludeWhere(tableName, whereClause.toString()));
@@ -93,11 +102,11 @@ bool BLGeneral::delete_(QAnyStringView whereClause)
 bool BLGeneral::selectInto(QAnyStringView whereClause, RecordList records,
                            const std::optional<RecordPage> &page)
 {
+    const DBScope open;
     if (isWebService()) {
         selectHTTPInto(whereClause, records, page);
         return true;
     }
-    const DBScope open;
     const QString sql =
         SchemaReflect::getSelectStatementIncludeWhere(tableName, whereClause.toString());
     return DB::selectInto(sql, records, page) == DB::Selected::All;

@@ -12,10 +12,10 @@
 ///     users.insert(user);
 ///     if (const auto all = users.select("1=1", UserSchema{})) …
 ///
-/// Locally, an operation opens the database and closes it again unless DBSession has it open.
+/// An operation opens the store and closes it again unless DBSession has it open.
 /// Where-clauses are SQL conditions without the word WHERE and are passed on unchanged. Writes
 /// return whether they succeeded; errors go to the system log. Each operation blocks until it is
-/// done, a request of the web service up to its time limit (60 s by default). Interface thread
+/// done, a request of the web service up to its time limit (10 s by default). Interface thread
 /// only.
 class BLGeneral
 {

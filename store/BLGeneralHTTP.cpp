@@ -2,10 +2,10 @@
 // differs from request to request, and the services rely on that.
 
 #include "BLGeneral.h"
-#include "Http.h"
 #include "LeadingNumber.h"
 #include "MiscTool.h"
 #include "SchemaReflect.h"
+#include "WebService.h"
 
 #include <utility>
 
@@ -16,9 +16,8 @@ namespace
 
 /// The body of the reply; empty unless it came whole. The HTTP status is ignored: the services
 /// write their own into the body.
-QByteArray post(const QString &address, const QList<QByteArray> &headers, QByteArrayView body)
+QByteArray post(const HttpRequest &request, QByteArrayView body)
 {
-    const HttpRequest request{address.toUtf8(), headers, DB::webServiceLimits()};
     HttpReply reply = httpPost(request, body);
     if (reply.end == HttpReply::End::TooLarge)
         MiscTool::printMsg(u"BLGeneral"_s, u"post"_s, u"the reply is too large"_s);
@@ -49,27 +48,32 @@ int BLGeneral::execHTTP(RecordView record) const
 {
     const bool hasKey = integerValue(SchemaReflect::getValue(record, 0)) != 0;
     const QString operation = hasKey ? u"UPDATE"_s : u"INSERT"_s;
-    const QString address = getWebServiceURL() + "?OPERATION="_L1 + operation;
+    const WebService service(getWebServiceURL());
+    const QString address = service.place() + "?OPERATION="_L1 + operation;
     const QString json = SchemaReflect::toJSON(record);
     // As many bytes as the text has UTF-16 units, even if its UTF-8 form is longer. httpPost writes
     // the Content-Length for it.
     const QByteArray body = json.toUtf8().left(json.size());
-    return leadingInteger(post(
-        escaped(address), {"Accept: application/json", "Content-Type: application/json"}, body));
+    return leadingInteger(
+        post(service.request(escaped(address).toUtf8(),
+                             {"Accept: application/json", "Content-Type: application/json"}),
+             body));
 }
 
 int BLGeneral::deleteHTTP(QAnyStringView whereClause) const
 {
-    const QString query = "?OPERATION=DELETE&CLAUSE="_L1 + whereClause.toString();
-    return leadingInteger(post(getWebServiceURL() + escaped(query), {}, {}));
+    const WebService service(getWebServiceURL());
+    const QString query = escaped("?OPERATION=DELETE&CLAUSE="_L1 + whereClause.toString());
+    return leadingInteger(post(service.request((service.place() + query).toUtf8()), {}));
 }
 
 void BLGeneral::selectHTTPInto(QAnyStringView whereClause, RecordList records,
                                const std::optional<RecordPage> &page) const
 {
-    QString address = getWebServiceURL() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
+    const WebService service(getWebServiceURL());
+    QString address = service.place() + "?OPERATION=SELECT&CLAUSE="_L1 + whereClause.toString();
     if (page)
         address += "&FROM="_L1 + QString::number(page->from) + "&STEP="_L1
             + QString::number(page->stepLength);
-    SchemaReflect::appendSelectReply(post(escaped(address), {}, {}), records);
+    SchemaReflect::appendSelectReply(post(service.request(escaped(address).toUtf8()), {}), records);
 }

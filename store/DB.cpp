@@ -27,7 +27,8 @@ struct State {
     std::vector<sqlite3 *> earlierHandles; ///< Opened, then replaced by another open().
     QString type; ///< Null while unset.
     std::optional<QString> webServiceURL;
-    HttpLimits webServiceLimits{.bytes = maxReplyBytes};
+    std::optional<QString> configuredWebService; ///< None until it is read.
+    HttpLimits webServiceLimits{.time = std::chrono::seconds(10), .bytes = maxReplyBytes};
     bool isSessionOpen = false;
 };
 
@@ -87,17 +88,18 @@ int DB::open(const QString &webServiceURL)
     return 0;
 }
 
-void DB::openConfiguredWebService()
+QString DB::configuredWebService()
 {
-    const QSettings settings;
-    const QString address =
-        settings.value(u"Addresses/WebService"_s, QStringLiteral(TOOLVANE_WEB_SERVICE)).toString();
-    if (address.isEmpty())
-        return;
-    open(address);
-    const int seconds = settings.value(u"WebService/TimeoutSeconds"_s).toInt();
-    if (seconds >= 1 && seconds <= 3600)
-        state().webServiceLimits.time = std::chrono::seconds(seconds);
+    std::optional<QString> &address = state().configuredWebService;
+    if (!address) {
+        const QSettings settings;
+        address = settings.value(u"Addresses/WebService"_s, QStringLiteral(TOOLVANE_WEB_SERVICE))
+                      .toString();
+        const int seconds = settings.value(u"WebService/TimeoutSeconds"_s).toInt();
+        if (seconds >= 1 && seconds <= 3600)
+            state().webServiceLimits.time = std::chrono::seconds(seconds);
+    }
+    return *address;
 }
 
 void DB::close()
@@ -181,7 +183,10 @@ void DBSession::openDB()
 {
     if (isDBOpen())
         return;
-    DB::open();
+    if (const QString service = DB::configuredWebService(); !service.isEmpty())
+        DB::open(service);
+    else
+        DB::open();
     state().isSessionOpen = true;
 }
 

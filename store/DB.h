@@ -19,7 +19,7 @@ struct RecordPage {
 
 /// The process's one database connection, and the switch that says where records are kept: in the
 /// SQLite file ("sqlite3", from the first open() on) or behind a web service ("webservice", if the
-/// type is read before any open()).
+/// type is read before any open()). DBSession opens the one or the other.
 ///
 /// Errors are returned and written to the system log. Every operation may be called at any time;
 /// without a usable connection it fails like a statement with an error. Interface thread only.
@@ -36,10 +36,11 @@ public:
     /// Sets the address of the web service; a table's name is appended to it without a separator.
     /// Always returns 0; the type stays as it is.
     static int open(const QString &webServiceURL);
-    /// Sets the address that the settings hold under "Addresses/WebService", else the one that was
-    /// compiled in, and the settings' time limit for requests, "WebService/TimeoutSeconds" from 1
-    /// to 3600. Does nothing if there is no address.
-    static void openConfiguredWebService();
+    /// The address of the web service that keeps the records: what the settings hold under
+    /// "Addresses/WebService", else what was compiled in. Empty if the file keeps them. It is read
+    /// once, with the time limit of requests, "WebService/TimeoutSeconds" from 1 to 3600: while the
+    /// program runs, the records do not move.
+    static QString configuredWebService();
     /// Closes the connection or clears the web service's address, depending on the type.
     static void close();
     static std::optional<QString> getWebServiceURL();
@@ -98,7 +99,9 @@ public:
     static Selected selectInto(const QString &sql, RecordList records,
                                const std::optional<RecordPage> &page);
 
-    static HttpLimits &webServiceLimits(); ///< A change applies to the requests that follow.
+    /// Ten seconds, unless the settings say otherwise. A change applies to the requests that
+    /// follow.
+    static HttpLimits &webServiceLimits();
 
     static void reset(); ///< Closes every connection and restores the initial state; for tests.
 
@@ -116,7 +119,9 @@ private:
 class DBSession
 {
 public:
-    static void openDB(); ///< Sets the flag even if the database cannot be opened.
+    /// Opens the file, or passes DB the configured address. Sets the flag even if the file cannot
+    /// be opened.
+    static void openDB();
     static void closeDB();
     static bool isDBOpen();
 

@@ -24,6 +24,7 @@ struct CurlLibrary {
     decltype(&curl_easy_setopt) easySetopt = nullptr;
     decltype(&curl_easy_perform) easyPerform = nullptr;
     decltype(&curl_easy_getinfo) easyGetinfo = nullptr;
+    decltype(&curl_easy_reset) easyReset = nullptr;
     decltype(&curl_easy_cleanup) easyCleanup = nullptr;
     decltype(&curl_easy_strerror) easyStrerror = nullptr;
     decltype(&curl_slist_append) slistAppend = nullptr;
@@ -40,6 +41,7 @@ bool load(CurlLibrary &curl)
         && resolveSymbol(library, "curl_easy_setopt", curl.easySetopt)
         && resolveSymbol(library, "curl_easy_perform", curl.easyPerform)
         && resolveSymbol(library, "curl_easy_getinfo", curl.easyGetinfo)
+        && resolveSymbol(library, "curl_easy_reset", curl.easyReset)
         && resolveSymbol(library, "curl_easy_cleanup", curl.easyCleanup)
         && resolveSymbol(library, "curl_easy_strerror", curl.easyStrerror)
         && resolveSymbol(library, "curl_slist_append", curl.slistAppend)
@@ -53,6 +55,18 @@ const CurlLibrary *curlLibrary()
     static CurlLibrary curl;
     static const bool loaded = load(curl);
     return loaded ? &curl : nullptr;
+}
+
+using EasyHandle = std::unique_ptr<CURL, decltype(&curl_easy_cleanup)>;
+
+/// The handle of one request. The thread's own is reset after it, which leaves its connections
+/// open.
+EasyHandle easyHandle(const CurlLibrary &curl, bool keepsConnection)
+{
+    if (!keepsConnection)
+        return {curl.easyInit(), curl.easyCleanup};
+    thread_local const EasyHandle kept(curl.easyInit(), curl.easyCleanup);
+    return {kept.get(), curl.easyReset};
 }
 
 /// The header blocks of a reply and its redirects together; libcurl remembers every line of them.
@@ -113,7 +127,7 @@ class Transfer
 public:
     Transfer(const CurlLibrary &curl, const HttpRequest &request, QIODevice *target)
         : m_curl(curl), m_request(request), m_target(target),
-          m_easy(curl.easyInit(), curl.easyCleanup), m_headers(nullptr, curl.slistFreeAll)
+          m_easy(easyHandle(curl, request.keepsConnection)), m_headers(nullptr, curl.slistFreeAll)
     {
     }
 
@@ -123,6 +137,8 @@ public:
             return {HttpReply::End::Failed, 0, {}, "out of memory"};
         setUp();
         setHeaders();
+        if (m_request.limits.keepsMethod)
+            set(CURLOPT_HEADERFUNCTION, &Transfer::takeHeaderBeforeRedirect);
         if (postBody) {
             set(CURLOPT_POST, 1L);
             set(CURLOPT_POSTFIELDS, postBody->isEmpty() ? "" : postBody->data());
@@ -252,6 +268,18 @@ private:
         return refused;
     }
 
+    /// The status line comes first, so the redirect is refused before libcurl reads where it leads.
+    static std::size_t takeHeaderBeforeRedirect(const char *data, std::size_t one, std::size_t size,
+                                                void *transfer)
+    {
+        auto *self = static_cast<Transfer *>(transfer);
+        long status = 0;
+        self->m_curl.easyGetinfo(self->m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+        if (status >= 301 && status <= 303)
+            self->set(CURLOPT_FOLLOWLOCATION, 0L);
+        return takeHeader(data, one, size, transfer);
+    }
+
     static int takeProgress(void *transfer, curl_off_t, curl_off_t received, curl_off_t, curl_off_t)
     {
         auto *self = static_cast<Transfer *>(transfer);
@@ -263,7 +291,7 @@ private:
     const CurlLibrary &m_curl;
     const HttpRequest &m_request;
     QIODevice *m_target;
-    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy;
+    EasyHandle m_easy;
     std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> m_headers;
     QByteArray m_body;
     qint64 m_received = 0;
@@ -286,7 +314,7 @@ HttpReply perform(const HttpRequest &request, QIODevice *target,
 HttpReply performAndLog(const HttpRequest &request, QIODevice *target)
 {
     HttpReply reply = perform(request, target, std::nullopt);
-    if (!reply.answered() && reply.end != HttpReply::End::Cancelled)
+    if (request.isLogged && !reply.answered() && reply.end != HttpReply::End::Cancelled)
         qWarning().noquote() << QUrl::fromEncoded(request.address).host() + u": "_s
                 + QString::fromUtf8(reply.message);
     return reply;

@@ -26,6 +26,8 @@ struct HttpLimits {
     std::chrono::seconds silenceTimeout{0}; ///< Without a byte, or a connection. 0: not limited.
     qint64 bytes = 1024 * 1024; ///< Of the body.
     int redirects = 5; ///< With 0 a redirect is itself the reply.
+    /// If set, so is a redirect with 301, 302 or 303, which would turn a POST into a GET.
+    bool keepsMethod = false;
     HttpSchemes schemes = HttpSchemes::Any;
 };
 
@@ -37,6 +39,11 @@ struct HttpRequest {
     QList<QByteArray> headers = {}; ///< "Name: value" each, without line ends.
     HttpLimits limits = {};
     std::stop_token stop = {}; ///< A request ends within about a second of a stop request.
+    /// Uses the connection that the thread's last such request left open, if it leads to the same
+    /// server and still exists. A request that finds it closed by then is sent again over a new
+    /// one.
+    bool keepsConnection = false;
+    bool isLogged = true; ///< Whether httpGet() logs a failure.
     /// Called on the requesting thread with the bytes received so far.
     std::function<void(qint64 received)> progress = {};
 };
@@ -64,7 +71,7 @@ struct HttpReply {
     bool succeeded() const { return answered() && status >= 200 && status < 300; }
 };
 
-/// A failure leaves a line in the log.
+/// A failure leaves a line in the log, unless the request says otherwise.
 HttpReply httpGet(const HttpRequest &request);
 
 /// Writes the body into the open target piece by piece, whatever the reply's status is. The target

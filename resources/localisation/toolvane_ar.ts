@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>يمكنك حفظه كما تراه هنا، أو العودة دون حفظ.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>تُحفظ السجلات في %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>تعذّر الوصول إلى السجلات في %1 منذ %2؛ وما تحفظه الآن سيضيع.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>المخ&amp;زون</translation>

@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>Sie können ihn so speichern, wie Sie ihn hier sehen, oder zurückgehen, ohne zu speichern.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>Die Einträge liegen bei %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>Die Einträge bei %1 sind seit %2 nicht erreichbar; was Sie jetzt speichern, ginge verloren.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>&amp;Lagerbestand</translation>

@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>You can save it as you see it here, or go back without saving.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>The records are kept at %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>The records at %1 cannot be reached since %2; what you save now would be lost.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>&amp;Stock</translation>

@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>Puede guardarla tal como la ve aquí o volver sin guardar.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>Las entradas se guardan en %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>No se puede acceder a las entradas de %1 desde las %2; lo que guarde ahora se perdería.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>E&amp;xistencias</translation>

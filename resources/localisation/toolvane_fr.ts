@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>Vous pouvez l’enregistrer telle que vous la voyez ici, ou revenir sans enregistrer.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>Les entrées sont conservées sur %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>Les entrées sur %1 sont inaccessibles depuis %2 ; ce que vous enregistrez maintenant serait perdu.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>S&amp;tock</translation>

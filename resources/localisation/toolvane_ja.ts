@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>ここに表示されている内容で保存するか、保存せずに戻ることができます。</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>項目の保存先: %1</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>%2 から %1 の項目にアクセスできません。今保存した内容は失われます。</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>在庫(&amp;S)</translation>

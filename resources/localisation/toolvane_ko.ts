@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>여기에 보이는 대로 저장하거나 저장하지 않고 돌아갈 수 있습니다.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>항목이 저장되는 곳: %1</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>%2부터 %1의 항목에 연결할 수 없습니다. 지금 저장하는 내용은 사라집니다.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>재고(&amp;S)</translation>

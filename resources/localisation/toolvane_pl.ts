@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>Można zapisać go tak, jak jest tu widoczny, albo wrócić bez zapisywania.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>Wpisy są przechowywane pod adresem %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>Wpisy pod adresem %1 są nieosiągalne od %2; to, co teraz zapiszesz, przepadnie.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>&amp;Magazyn</translation>

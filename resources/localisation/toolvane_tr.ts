@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>Burada gördüğünüz gibi kaydedebilir ya da kaydetmeden geri dönebilirsiniz.</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>Kayıtlar şurada tutuluyor: %1.</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>Kayıtlara (%1) şu saatten beri ulaşılamıyor: %2. Şimdi kaydettikleriniz kaybolur.</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>Sto&amp;k</translation>

@@ -515,6 +515,14 @@
         <source>You can save it as you see it here, or go back without saving.</source>
         <translation>您可以按此处显示的内容保存，也可以返回而不保存。</translation>
     </message>
+    <message id="Records.Service">
+        <source>The records are kept at %1.</source>
+        <translation>条目保存在 %1。</translation>
+    </message>
+    <message id="Records.Service.Lost">
+        <source>The records at %1 cannot be reached since %2; what you save now would be lost.</source>
+        <translation>自 %2 起无法访问 %1 上的条目;现在保存的内容会丢失。</translation>
+    </message>
     <message id="Records.Stock">
         <source>&amp;Stock</source>
         <translation>库存(&amp;S)</translation>

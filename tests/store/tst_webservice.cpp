@@ -7,11 +7,15 @@
 #include "HttpPeer.h"
 #include "LogLines.h"
 #include "SampleRecords.h"
+#include "SchemaReflect.h"
 #include "UserSchema.h"
+#include "WebService.h"
 
 #include <QFile>
 #include <QSettings>
 #include <QTest>
+
+#include <atomic>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -23,6 +27,16 @@ void use(const HttpPeer &peer)
 {
     DB::open(QString::fromLatin1(peer.address("/api/")));
     DB::webServiceLimits() = {.time = 1s, .bytes = 100'000};
+}
+
+/// The four requests of the protocol.
+void sendAll()
+{
+    BLGeneral gateway(u"T"_s);
+    gateway.insert(PriceSchema{});
+    gateway.delete_("ID=1");
+    gateway.select("1=1", PriceSchema{});
+    gateway.select("1=1", PriceSchema{}, 0, 10);
 }
 
 /// "<method> <path>" of each request.
@@ -152,19 +166,96 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(DB::dbFilePath()));
     }
 
-    void addressAndTimeLimitComeFromTheUserDefaults()
+    void aConfiguredAddressIsUsedByEverySession()
     {
+        const HttpPeer peer(HttpPeer::reply(R"({"RESULT":[{"ID":"7"}]})"));
+        const QString address = QString::fromLatin1(peer.address("/records/"));
         QSettings settings;
-        settings.setValue(u"Addresses/WebService"_s, u"https://service.example/api/"_s);
+        settings.setValue(u"Addresses/WebService"_s, address);
         settings.setValue(u"WebService/TimeoutSeconds"_s, 5);
-        DB::openConfiguredWebService();
-        QCOMPARE(DB::getWebServiceURL(), u"https://service.example/api/"_s);
+        DBSession::openDB();
+        QCOMPARE(DB::getWebServiceURL(), address);
         QCOMPARE(DB::webServiceLimits().time, 5s);
-        settings.setValue(u"WebService/TimeoutSeconds"_s, 0);
+        BLGeneral gateway(u"User"_s);
+        settings.clear(); // the records do not move while the program runs
+        DBSession::closeDB();
+        QVERIFY(!DB::getWebServiceURL());
+        QCOMPARE(gateway.select("1=1", UserSchema{})->at(0).ID, 7); // a session of its own
+        QVERIFY(!DB::getWebServiceURL());
+        gateway.insert(UserSchema{});
+        gateway.delete_("ID=7");
+        QCOMPARE(requestLines(peer),
+                 (QList<QByteArray>{"POST /records/User?OPERATION=SELECT&CLAUSE=1=1",
+                                    "POST /records/User?OPERATION=INSERT",
+                                    "POST /records/User?OPERATION=DELETE&CLAUSE=ID=7"}));
+        QVERIFY(!QFile::exists(DB::dbFilePath()));
+
         DB::reset();
-        DB::openConfiguredWebService();
-        QCOMPARE(DB::webServiceLimits().time, 60s);
+        settings.setValue(u"WebService/TimeoutSeconds"_s, 0);
+        QVERIFY(DB::configuredWebService().isEmpty());
+        QCOMPARE(DB::webServiceLimits().time, 10s);
         settings.clear();
+    }
+
+    void allRequestsCarryTheSameCredentials()
+    {
+        const std::tuple<QByteArray, QByteArray, QByteArray> cases[] = {
+            {"till:secret@", "till:secret", "/records/"},
+            {"till:@", "till:", "/records/"},
+            {"t%3cll:%22%25%2F%3F%23%40%20%c3%A9:@", "t<ll:\"%/?#@ é:", "/records/"},
+            {"till:a@b%c100%é'\"<+&@", "till:a@b%c100%é'\"<+&", "/records/"},
+            {"", "", "/~till@home/a:b@"}, // all of it the path
+        };
+        for (const auto &[userInfo, sent, path] : cases) {
+            const HttpPeer peer(HttpPeer::reply("0"));
+            const QString plain = QString::fromLatin1(peer.address(path));
+            const QString address = QString(plain).insert(7, QString::fromUtf8(userInfo));
+            DB::open(address);
+            sendAll();
+            QVERIFY(httpGet(WebService(address).healthRequest()).succeeded());
+            QCOMPARE(WebService(address).place(), plain);
+            QCOMPARE(peer.requests().size(), 5);
+            const QByteArray header = "\r\nAuthorization: Basic " + sent.toBase64() + "\r\n";
+            for (const QByteArray &request : peer.requests()) {
+                QCOMPARE(request.count(header), sent.isEmpty() ? 0 : 1);
+                QCOMPARE(request.count("\r\nAuthorization: "), sent.isEmpty() ? 0 : 1);
+            }
+            QVERIFY(requestLines(peer).constLast() == "GET " + path + "healthz");
+        }
+    }
+
+    void noRedirectTurnsAWriteIntoARead()
+    {
+        const HttpPeer other(HttpPeer::reply("4 exists"));
+        for (const char *status : {"301", "302", "303", "307", "308"}) {
+            const bool keepsMethod = QByteArray(status) >= "307";
+            const HttpPeer peer(HttpPeer::reply(
+                "3", status + (" Elsewhere\r\nLocation: " + other.address("/there"))));
+            DB::open(QString::fromLatin1(peer.address("/api/")).insert(7, u"till:secret@"_s));
+            const auto before = other.requests().size();
+            QCOMPARE(BLGeneral(u"T"_s).execHTTP(PriceSchema{}), keepsMethod ? 4 : 3);
+            QCOMPARE(other.requests().size() - before, keepsMethod ? 1 : 0);
+            QCOMPARE(peer.requests().size(), 1);
+        }
+        QCOMPARE(requestLines(other), QList<QByteArray>(2, "POST /there"));
+        QVERIFY(
+            other.requests().constLast().endsWith(SchemaReflect::toJSON(PriceSchema{}).toUtf8()));
+        QVERIFY(!other.requests().constLast().contains("Authorization")); // another server
+    }
+
+    void requestsShareOneConnectionWhileItLasts()
+    {
+        std::atomic<int> connections = 0;
+        const HttpPeer peer([&connections](HttpPeer::Connection &connection) {
+            ++connections;
+            const QByteArray reply = HttpPeer::reply("7").replace("Connection: close\r\n", "");
+            for (int left = 4; connection.send(reply) && --left > 0 && connection.readNext();) { }
+        });
+        use(peer);
+        sendAll();
+        QCOMPARE(connections, 1);
+        QCOMPARE(BLGeneral(u"T"_s).execHTTP(PriceSchema{}), 7); // the peer has closed it meanwhile
+        QCOMPARE(connections, 2);
     }
 };
 

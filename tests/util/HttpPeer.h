@@ -39,6 +39,13 @@ public:
             return poll(&wait, 1, int(time.count())) > 0;
         }
         const QByteArray &request() const { return m_request; }
+        /// Waits for one more request on this connection. False if the client or the test has gone.
+        bool readNext()
+        {
+            m_request.clear();
+            readRequest();
+            return isWhole();
+        }
 
     private:
         void readRequest()

@@ -19,6 +19,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
+constexpr auto deleteQuestionName = "deleteQuestion"_L1;
+
 /// A question with two buttons, not yet shown: what "confirm" says, and Cancel.
 struct Question {
     QMessageBox *box; ///< Deleted once it is answered.
@@ -109,12 +111,23 @@ void AbstractViewController::setPermissions()
 
 void AbstractViewController::refresh()
 {
-    if (page->moduleBox->isHidden() || hasOpenSheet())
+    if (page->moduleBox->isHidden() || !m_isStorable || hasOpenSheet())
         return;
     const BusyBudget budget;
     reloadData();
     if (hasRowWithoutKey())
         reloadData(); // now it has the key that the table gave it
+}
+
+// The three buttons have a widget of their own: disabled with it, each of them keeps its own state.
+void AbstractViewController::setStorable(bool isStorable)
+{
+    m_isStorable = isStorable;
+    table->setEmptyText(isStorable ? qtTrId("Records.Empty") : QString());
+    page->buttons->setEnabled(isStorable);
+    panelParts->saveButton->setEnabled(isStorable && m_isSaveAllowed);
+    if (auto *question = findChild<QMessageBox *>(deleteQuestionName))
+        question->defaultButton()->setEnabled(isStorable);
 }
 
 bool AbstractViewController::hasOpenSheet() const
@@ -187,8 +200,9 @@ void AbstractViewController::editAction()
 // save it.
 void AbstractViewController::showPanel(const QAbstractButton &starter)
 {
-    panelParts->saveButton->setEnabled(starter.isEnabled());
-    panelParts->saveButton->setToolTip(starter.isEnabled() ? QString() : starter.toolTip());
+    m_isSaveAllowed = starter.isEnabledTo(page->buttons);
+    panelParts->saveButton->setEnabled(m_isStorable && m_isSaveAllowed);
+    panelParts->saveButton->setToolTip(m_isSaveAllowed ? QString() : starter.toolTip());
     panel->setWindowTitle(page->moduleBox->title());
     panel->open();
 }
@@ -247,7 +261,7 @@ void AbstractViewController::deleteAction()
     const BusyBudget budget;
     if (table->selectedRecord() < 0 || !deleteVerify())
         return;
-    const Question question(this, u"deleteQuestion"_s, qtTrId("DelConfirm"), qtTrId("DelInfo"),
+    const Question question(this, deleteQuestionName, qtTrId("DelConfirm"), qtTrId("DelInfo"),
                             qtTrId("OK"));
     question.box->setWindowTitle(page->moduleBox->title());
     question.box->setDefaultButton(question.confirm);

@@ -54,8 +54,12 @@ public:
     /// stay as they are, and a line says so.
     virtual void reloadData() = 0;
     /// Loads the records again because the page comes into sight. Does nothing on a page that was
-    /// refused or while its sheet or a question is open.
+    /// refused, while its sheet or a question is open, and while nothing can be stored: a service
+    /// that does not answer reads as an empty table.
     void refresh();
+    /// Whether a change would be stored. Meanwhile Add, Edit, Delete and Save are disabled; those
+    /// that the user's rights allow are then enabled again.
+    void setStorable(bool isStorable);
     bool hasOpenSheet() const; ///< Or a question.
     void focusTable();
     void addAction();
@@ -131,6 +135,8 @@ private:
     void save();
     void askToSaveAnyway(bool isDeleted);
 
+    bool m_isStorable = true;
+    bool m_isSaveAllowed = false; ///< By the rights, for what the sheet is open for.
     bool m_isRefusalDue = false;
     bool m_arePermissionsDue = false; ///< They could not be read when the page was set up.
 };

@@ -3,6 +3,7 @@
 #include "BusyBudget.h"
 #include "MiscTool.h"
 #include "Mnemonics.h"
+#include "ServiceBar.h"
 #include "TemplateViewController.h"
 #include "UserGroupViewController.h"
 #include "UserViewController.h"
@@ -63,6 +64,8 @@ RecordWindow::RecordWindow(QWidget &owner)
     ui->pages->addTab(new UserViewController, qtTrId("Records.Users"));
     ui->pages->addTab(new TemplateViewController, qtTrId("Records.Stock"));
     connect(ui->pages, &QTabWidget::currentChanged, this, [this] { shownPage()->refresh(); });
+    if (const QString service = DB::configuredWebService(); !service.isEmpty())
+        watchService(service);
     Mnemonics::keepUnique(this);
     connect(new QShortcut(QKeySequence::Close, this), &QShortcut::activated, this, &QWidget::close);
     stayIndependent();
@@ -72,6 +75,18 @@ RecordWindow::RecordWindow(QWidget &owner)
 RecordWindow::~RecordWindow()
 {
     ui->pages->disconnect(this); // the pages leave the tabs one by one
+}
+
+void RecordWindow::watchService(const QString &address)
+{
+    auto *bar = new ServiceBar(address);
+    ui->windowLayout->insertWidget(0, bar);
+    ui->windowLayout->setStretchFactor(ui->pages, 1);
+    connect(bar, &ServiceBar::reachableChanged, this, [this](bool isReachable) {
+        for (int i = 0; i < ui->pages->count(); ++i)
+            static_cast<AbstractViewController *>(ui->pages->widget(i))->setStorable(isReachable);
+        shownPage()->refresh();
+    });
 }
 
 // A sheet blocks its window and those that this window belongs to: on the screen, the record window

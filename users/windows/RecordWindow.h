@@ -13,8 +13,9 @@ class AbstractViewController;
 
 /// The window with the record pages. They are created when it opens, so that they follow the rights
 /// of the user who is logged in then, and deleted when it closes. A page loads its records again
-/// whenever it comes into sight. The sheets of the window do not block its owner. It remembers its
-/// place and size.
+/// whenever it comes into sight. If a web service keeps the records, a line says where and whether
+/// it answers; meanwhile nothing can be changed. The sheets of the window do not block its owner.
+/// It remembers its place and size.
 class RecordWindow : public QWidget
 {
     Q_OBJECT
@@ -39,6 +40,7 @@ private:
     AbstractViewController *shownPage() const;
     void showPage(Page page);
     void stayIndependent();
+    void watchService(const QString &address);
 
     std::unique_ptr<Ui::RecordWindow> ui;
 };
