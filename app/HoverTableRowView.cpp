@@ -80,7 +80,8 @@ HoverTableRowView::HoverTableRowView(const QString &imageName, const QString &na
     layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     layout->setSpacing(gap);
     layout->addWidget(m_imageView);
-    layout->addWidget(m_textField, 1);
+    layout->addWidget(m_textField); // as wide as its text: a wider row need not draw it again
+    layout->addStretch(1);
     layout->addWidget(m_runningMark);
 }
 

@@ -18,6 +18,7 @@ AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
       m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     PageStatus::keepSpaceWhenHidden(*ui->progressBox);
     connectButtons();
     awakeFromNib(presetList);

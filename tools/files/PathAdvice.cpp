@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <fcntl.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
@@ -17,7 +18,7 @@ namespace
 
 bool allows(const QString &path, int access)
 {
-    return ::access(QFile::encodeName(path).constData(), access) == 0;
+    return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), access, AT_EACCESS) == 0;
 }
 
 QString folderOf(const QString &path)

@@ -23,6 +23,7 @@ ImageViewController::~ImageViewController() = default;
 void ImageViewController::awakeFromNib(QWidget &formPlace)
 {
     ui->setupUi(&formPlace);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     connectForm();
     ui->srcBox->setTitle(qtTrId("Source"));
     ui->srcSelectButton->setText(qtTrId("Select"));

@@ -111,9 +111,9 @@ void PathHint::forgetSize()
 }
 
 // Another program may have made or removed something meanwhile.
-void PathHint::changeEvent(QEvent *event)
+bool PathHint::event(QEvent *event)
 {
-    HintLine::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && m_field && isActiveWindow() && isVisible())
+    if (event->type() == QEvent::WindowActivate && m_field && !m_delay.isActive())
         ask();
+    return HintLine::event(event);
 }

@@ -28,7 +28,7 @@ public:
     void setSource(const QLineEdit &source, std::function<QString()> made = {});
 
 protected:
-    void changeEvent(QEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     PathQuestion question() const;

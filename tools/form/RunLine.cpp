@@ -1,7 +1,6 @@
 #include "RunLine.h"
 
 #include "NamedImage.h"
-#include "PageStatus.h"
 #include "PlainToolTip.h"
 
 #include <QAccessible>
@@ -29,8 +28,9 @@ RunLine::RunLine(QWidget *parent)
         button->setAutoDefault(false);
 
     m_text->setMinimumHeight(2 * fontMetrics().lineSpacing()); // which long sentences take
-    setFocusProxy(m_place); // its place in the tab order is the line's
-    PageStatus::keepSpaceWhenHidden(*this);
+    QSizePolicy takesWhatIsLeft = m_text->sizePolicy();
+    takesWhatIsLeft.setHorizontalPolicy(QSizePolicy::Ignored);
+    m_text->setSizePolicy(takesWhatIsLeft);
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -39,7 +39,14 @@ RunLine::RunLine(QWidget *parent)
     layout->addWidget(m_discard);
     connect(m_place, &QPushButton::clicked, this, &RunLine::placeWanted);
     connect(m_discard, &QPushButton::clicked, this, &RunLine::discardWanted);
-    withdraw();
+    hide();
+}
+
+void RunLine::putInTabOrder(QWidget *before, QWidget *after)
+{
+    QWidget::setTabOrder(before, m_place);
+    QWidget::setTabOrder(m_place, m_discard);
+    QWidget::setTabOrder(m_discard, after);
 }
 
 void RunLine::say(const QString &text)

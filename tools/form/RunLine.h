@@ -19,6 +19,7 @@ public:
     /// The same, with buttons for a finished file that has no place yet.
     void offerPlace(const QString &text, const QString &file);
     void withdraw();
+    void putInTabOrder(QWidget *before, QWidget *after); ///< The buttons: between these two.
 
 Q_SIGNALS:
     void placeWanted(); ///< The user wants to choose another place.

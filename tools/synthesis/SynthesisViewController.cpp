@@ -40,6 +40,7 @@ SynthesisViewController::SynthesisViewController(JobList &jobs, QWidget *parent)
       m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     ui->testButton->setIcon(namedImage(u"play"_s));
     ui->resetButton->setIcon(namedImage(u"reset"_s));
     connectButtons();

@@ -18,6 +18,7 @@ UNZIPViewController::UNZIPViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::UNZIPViewController>()), m_jobs(jobs), m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     connectButtons();
     awakeFromNib();
 }

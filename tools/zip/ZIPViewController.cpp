@@ -74,6 +74,7 @@ ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::ZIPViewController>()), m_jobs(jobs), m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     connect(ui->srcSelectButton, &QPushButton::clicked, this, &ZIPViewController::srcSelectAction);
     connect(ui->outputButton, &QPushButton::clicked, this, &ZIPViewController::outputAction);
     connect(ui->clearButton, &QPushButton::clicked, this, &ZIPViewController::clearAction);
@@ -85,6 +86,7 @@ ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     ui->srcHint->watch(*ui->srcFolderField, PathUse::SourceFolder);
     ui->outputHint->watch(*ui->outputField, PathUse::NewFile);
     ui->outputHint->setSource(*ui->srcFolderField);
+    ui->runLine->putInTabOrder(ui->showInFolderButton, ui->clearButton);
     connect(ui->runLine, &RunLine::placeWanted, this, &ZIPViewController::choosePlace);
     connect(ui->runLine, &RunLine::discardWanted, this, &ZIPViewController::askToDiscard);
     awakeFromNib();
