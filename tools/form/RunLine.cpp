@@ -21,11 +21,14 @@ RunLine::RunLine(QWidget *parent)
     m_place->setText(qtTrId("Run.OtherPlace"));
     m_place->setAccessibleName(qtTrId("Run.OtherPlace.Name"));
     m_discard->setObjectName(u"discardButton"_s);
-    m_discard->setIcon(namedImage(u"stop"_s));
+    m_discard->setIcon(namedImage(u"discard"_s));
     m_discard->setAccessibleName(qtTrId("Run.Discard.Name"));
     m_discard->setToolTip(qtTrId("Run.Discard.Name"));
-    for (QPushButton *button : {m_place, m_discard})
+    for (QPushButton *button : {m_place, m_discard}) {
         button->setAutoDefault(false);
+        button->hide();
+    }
+    m_discard->setFixedWidth(m_place->sizeHint().height()); // a square
 
     m_text->setMinimumHeight(2 * fontMetrics().lineSpacing()); // which long sentences take
     QSizePolicy takesWhatIsLeft = m_text->sizePolicy();
@@ -34,6 +37,7 @@ RunLine::RunLine(QWidget *parent)
 
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
     layout->addWidget(m_text, 1);
     layout->addWidget(m_place);
     layout->addWidget(m_discard);
