@@ -34,7 +34,8 @@ public:
 
     int numberOfRowsInTableView() const { return static_cast<int>(m_naviItems.size()); }
     NaviItem objectValueForTableColumn(int row) const { return m_naviItems.at(row); }
-    /// Makes the selected row's name bold and shows its page, unless the row is scrolled out of view.
+    /// Makes the selected row's name bold and shows its page, unless the row is scrolled out of
+    /// view.
     void tableViewSelectionDidChange();
 
     /// The page of a row, owned by the container.

@@ -81,8 +81,8 @@ std::int64_t MiscTool::getSize(const QString &path)
 QString MiscTool::getAppDocumentFolder()
 {
     // Not the user's own Documents: what we update and remove there would be the user's.
-    const QString own = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
-        + "/Toolvane"_L1;
+    const QString own =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Toolvane"_L1;
     const QString folder = own + "/Documents"_L1;
     if (!QFileInfo::exists(folder)) {
         // The folders that lead there get the modes that the user's own settings give.

@@ -69,9 +69,10 @@ private Q_SLOTS:
         };
         const auto cleanUp = qScopeGuard(removeBoth);
         const auto groups = [] { return DB::getRecords(u"UserGroup"_s).size(); };
-        const QByteArray ours = "PRAGMA journal_mode=WAL; CREATE TABLE UserGroup(ID INTEGER PRIMARY "
-                                "KEY,ShopID,Name,Permission,Memo);"
-                                "INSERT INTO UserGroup VALUES(1,0,'a','b','c')";
+        const QByteArray ours =
+            "PRAGMA journal_mode=WAL; CREATE TABLE UserGroup(ID INTEGER PRIMARY "
+            "KEY,ShopID,Name,Permission,Memo);"
+            "INSERT INTO UserGroup VALUES(1,0,'a','b','c')";
         for (const auto &[sql, isTaken] :
              {std::pair(ours, true), std::pair(QByteArray("CREATE TABLE UserGroup(Name)"), false),
               std::pair(QByteArray(), false)}) {

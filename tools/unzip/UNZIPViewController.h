@@ -30,7 +30,8 @@ public:
     void openAction();
     void clearAction(); ///< Empties both fields.
     /// Unpacks and ends after the message, of which there is none if the run was stopped. If unzip
-    /// cannot be started there is no message either, and the page stays busy. After a failure the new folder stays, with what is in it.
+    /// cannot be started there is no message either, and the page stays busy. After a failure the
+    /// new folder stays, with what is in it.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false). The two fields stay as they are.

@@ -35,8 +35,8 @@ QString UnplacedArchives::keep(const QString &archive)
 
 QString UnplacedArchives::newest()
 {
-    const auto folders = QDir(keepingFolder()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot,
-                                                             QDir::Time);
+    const auto folders =
+        QDir(keepingFolder()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
     for (const QFileInfo &folder : folders) {
         const auto files =
             QDir(folder.filePath()).entryInfoList(QDir::Files | QDir::Hidden | QDir::NoSymLinks);

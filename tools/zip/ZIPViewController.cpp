@@ -130,6 +130,8 @@ void ZIPViewController::clearAction()
     ui->ratioPopUp->setCurrentIndex(ui->ratioPopUp->findData(ZipCommand::Faster));
     ui->outputField->clear();
     ui->showInFolderButton->withdraw();
+    ui->runLine->withdraw();
+    offerNewest(); // stays until it is placed or discarded
 }
 
 QString ZIPViewController::getCompressRatio() const

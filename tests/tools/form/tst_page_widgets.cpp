@@ -200,8 +200,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("advice");
         using enum PathUse;
         const auto row = [](PathUse use, const char *typed, const char *advice) {
-            QTest::addRow("%d %s", int(use), typed) << use << QString::fromUtf8(typed)
-                                                    << QString::fromUtf8(advice);
+            QTest::addRow("%d %s", int(use), typed)
+                << use << QString::fromUtf8(typed) << QString::fromUtf8(advice);
         };
         row(SourceFolder, "", "");
         row(SourceFolder, "@/a folder", "");
@@ -251,9 +251,8 @@ private Q_SLOTS:
         PathQuestion question{.use = PathUse::NewFile, .path = path(u"new"_s)};
         PathFacts facts = pathFacts(question);
         QVERIFY(facts.available);
-        for (const auto &[needed, advice] :
-             {std::pair(*facts.available, QString()),
-              std::pair(*facts.available + 1, u"Path.NoRoom"_s)}) {
+        for (const auto &[needed, advice] : {std::pair(*facts.available, QString()),
+                                             std::pair(*facts.available + 1, u"Path.NoRoom"_s)}) {
             question.needed = needed;
             QCOMPARE(pathAdvice(question, facts), advice);
         }
