@@ -1,8 +1,8 @@
 #include "ZIPViewController.h"
 
+#include "ArchivePlacement.h"
 #include "Chooser.h"
 #include "FileNames.h"
-#include "FilePlacement.h"
 #include "JobList.h"
 #include "MiscTool.h"
 #include "PageAction.h"
@@ -14,61 +14,8 @@
 
 #include <QFileInfo>
 #include <QPointer>
-#include <QtConcurrentRun>
-
-#include <cerrno>
 
 using namespace Qt::StringLiterals;
-
-namespace
-{
-
-struct Placement {
-    int error = 0; ///< An `errno`.
-    QString kept = {}; ///< Where the archive is if it has not found its place.
-
-    JobOutcome outcome() const
-    {
-        if (error == 0)
-            return JobOutcome::Succeeded;
-        return error == ECANCELED ? JobOutcome::Stopped : JobOutcome::Failed;
-    }
-};
-
-// Goes on when its page closes: a finished archive is placed, or kept.
-QCoro::Task<Placement> place(QString archive, QString output, std::stop_token stop)
-{
-    const int error = co_await QtConcurrent::run(placeFile, archive, output, stop);
-    if (error != 0)
-        co_return Placement{error, UnplacedArchives::keep(archive)};
-    UnplacedArchives::remove(archive); // the folder that it was kept in
-    co_return Placement{};
-}
-
-QString reasonText(int error)
-{
-    switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-        return qtTrId("Zip.NotSaved.NoFolder");
-    case EEXIST:
-        return qtTrId("Zip.NotSaved.Taken");
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-        return qtTrId("Zip.NotSaved.NoRoom");
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return qtTrId("Zip.NotSaved.Unwritable");
-    case ECANCELED:
-        return qtTrId("Zip.NotSaved.Stopped");
-    default: // also one that was kept when the program ended
-        return qtTrId("Zip.NotSaved");
-    }
-}
-
-} // namespace
 
 ZIPViewController::ZIPViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::ZIPViewController>()), m_jobs(jobs), m_runner(jobs)
@@ -171,7 +118,8 @@ QCoro::Task<> ZIPViewController::generateAction()
     Placement placement;
     JobOutcome outcome = packed.outcome();
     if (packed.succeeded()) {
-        placement = co_await place(ZipCommand::writtenArchive(archive), output, job.stopToken());
+        placement =
+            co_await placeArchive(ZipCommand::writtenArchive(archive), output, job.stopToken());
         outcome = placement.outcome();
     }
     job.end(outcome);
@@ -193,7 +141,7 @@ QCoro::Task<> ZIPViewController::placeKept(QString archive, QString output)
     setStatus(false);
     const QPointer<ZIPViewController> self(this);
     Job job = m_jobs.begin({.page = objectName(), .title = qtTrId("Zip"), .subject = output});
-    const Placement placement = co_await place(archive, output, job.stopToken());
+    const Placement placement = co_await placeArchive(archive, output, job.stopToken());
     job.end(placement.outcome());
     if (!self)
         co_return;
@@ -205,7 +153,7 @@ void ZIPViewController::showEnd(JobOutcome outcome, int error, const QString &ke
                                 const QString &output)
 {
     if (!kept.isEmpty())
-        return offerPlace(kept, reasonText(error));
+        return offerPlace(kept, unplacedText(error));
     if (outcome == JobOutcome::Succeeded)
         ui->showInFolderButton->offer(output); // where the progress was
     else if (outcome == JobOutcome::Stopped)
@@ -231,7 +179,7 @@ void ZIPViewController::offerPlace(const QString &archive, const QString &text)
 void ZIPViewController::offerNewest()
 {
     if (const QString kept = UnplacedArchives::newest(); !kept.isEmpty())
-        offerPlace(kept, reasonText(0));
+        offerPlace(kept, unplacedText(0));
 }
 
 void ZIPViewController::choosePlace()
