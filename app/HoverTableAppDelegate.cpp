@@ -54,13 +54,14 @@ void HoverTableAppDelegate::tableViewSelectionDidChange()
         font.setPointSize(static_cast<int>(pointSize(rowView->textField()->font())));
         font.setBold(rowView->isSelected());
         rowView->textField()->setFont(font);
-        if (rowView->isSelected() && row < m_viewItems.size())
+        if (rowView->isSelected() && row < m_viewItems.size() && m_tableView.isInView(row))
             m_appDelegate.container->setContentView(m_viewItems.at(row));
     }
 }
 
 void HoverTableAppDelegate::selectTool(int row)
 {
+    m_tableView.scrollTo(index(row)); // a row out of view shows no page
     m_tableView.setCurrentIndex(index(row));
 }
 

@@ -35,12 +35,13 @@ public:
     /// All rows must be in range: 0 up to this number.
     int numberOfRowsInTableView() const { return static_cast<int>(m_naviItems.size()); }
     NaviItem objectValueForTableColumn(int row) const { return m_naviItems.at(row); }
-    /// Makes the selected row's name bold and shows its page.
+    /// Makes the selected row's name bold and shows its page, unless the row is scrolled out of
+    /// view.
     void tableViewSelectionDidChange();
 
     /// The page of a row, owned by the container. Not after closePages().
     QWidget *viewItem(int row) const { return m_viewItems.at(row); }
-    void selectTool(int row); ///< As if the user had clicked it.
+    void selectTool(int row); ///< As if the user had scrolled to it and clicked it.
     /// Selects the tool whose page has this name: its class name, as in JobDescription::page.
     /// Returns false and does nothing if no tool has such a page.
     bool showPage(const QString &page);

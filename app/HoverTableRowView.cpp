@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QLinearGradient>
 #include <QPainter>
-#include <QStyle>
 
 #include <utility>
 
@@ -43,29 +42,6 @@ QLinearGradient fadingGradient(const QColor &color)
 }
 
 } // namespace
-
-ElidedLabel::ElidedLabel(const QString &text, QWidget *parent) : QLabel(text, parent)
-{
-    setTextFormat(Qt::PlainText);
-}
-
-QSize ElidedLabel::minimumSizeHint() const
-{
-    return {fontMetrics().height(), QLabel::minimumSizeHint().height()};
-}
-
-void ElidedLabel::paintEvent(QPaintEvent *)
-{
-    QPainter painter(this);
-    // QLabel keeps its size hint, so that a text that fits is laid out only once.
-    const bool fits = QLabel::sizeHint().width() <= width();
-    const QString shown = fits ? text() : fontMetrics().elidedText(text(), Qt::ElideRight, width());
-    const QString tip = shown == text() ? QString() : text();
-    if (toolTip() != tip)
-        setToolTip(tip);
-    style()->drawItemText(&painter, rect(), Qt::AlignVCenter | Qt::AlignLeading, palette(),
-                          isEnabled(), shown, foregroundRole());
-}
 
 RunningMark::RunningMark(QWidget *parent) : QWidget(parent)
 {
@@ -104,7 +80,8 @@ HoverTableRowView::HoverTableRowView(const QString &imageName, const QString &na
     layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     layout->setSpacing(gap);
     layout->addWidget(m_imageView);
-    layout->addWidget(m_textField, 1);
+    layout->addWidget(m_textField); // as wide as its text: a wider row need not draw it again
+    layout->addStretch(1);
     layout->addWidget(m_runningMark);
 }
 

@@ -1,24 +1,9 @@
 #pragma once
 
-#include <QLabel>
-#include <QWidget>
+#include "ElidedLabel.h"
 
 class IconView;
 class QGradient;
-
-/// One line of plain text. If it does not fit, it ends with "…" and the whole text is its tool tip.
-class ElidedLabel : public QLabel
-{
-    Q_OBJECT
-
-public:
-    explicit ElidedLabel(const QString &text, QWidget *parent = nullptr);
-
-    QSize minimumSizeHint() const override; ///< One character wide.
-
-protected:
-    void paintEvent(QPaintEvent *event) override;
-};
 
 /// The small dot at the end of a sidebar row whose page is running something.
 class RunningMark : public QWidget

@@ -70,6 +70,11 @@ HoverTableRowView *HoverTableView::rowView(int row) const
     return qobject_cast<HoverTableRowView *>(indexWidget(model()->index(row, 0)));
 }
 
+bool HoverTableView::isInView(int row) const
+{
+    return !isVisible() || visualRect(model()->index(row, 0)).intersects(viewport()->rect());
+}
+
 void HoverTableView::setModel(QAbstractItemModel *newModel)
 {
     QListView::setModel(newModel);
@@ -151,15 +156,42 @@ void HoverTableView::focusOutEvent(QFocusEvent *event)
     setKeyboardIsHere(false);
 }
 
+void HoverTableView::chooseFirst()
+{
+    const QModelIndex first = currentIndex().isValid() ? currentIndex() : model()->index(0, 0);
+    scrollTo(first);
+    setCurrentIndex(first);
+}
+
 // As long as no tool is chosen, the first arrow key chooses the current row instead of the next.
 void HoverTableView::keyPressEvent(QKeyEvent *event)
 {
     const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
     if (isArrow && rowCount() > 0 && !selectionModel()->hasSelection())
-        setCurrentIndex(currentIndex().isValid() ? currentIndex() : model()->index(0, 0));
+        chooseFirst();
     else
         QListView::keyPressEvent(event);
     setKeyboardIsHere(true);
+}
+
+// What a key chooses is scrolled into view before it is chosen.
+QModelIndex HoverTableView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const QModelIndex next = QListView::moveCursor(action, modifiers);
+    scrollTo(next);
+    return next;
+}
+
+// Here it cannot be known before, so the row is chosen once more.
+void HoverTableView::keyboardSearch(const QString &search)
+{
+    const QModelIndex before = currentIndex();
+    QListView::keyboardSearch(search);
+    if (const QModelIndex found = currentIndex(); found != before) {
+        selectionModel()->clearSelection();
+        scrollTo(found);
+        setCurrentIndex(found);
+    }
 }
 
 void HoverTableView::mousePressEvent(QMouseEvent *event)

@@ -24,9 +24,12 @@ public:
     int rowHeight() const; ///< In pixels; grows with the font.
     /// Null if the list has no such row.
     HoverTableRowView *rowView(int row) const;
+    /// Whether the list shows a part of the row. As long as it was not shown itself, it does.
+    bool isInView(int row) const;
 
     /// Makes the row views. The rows of the model must not change afterwards.
     void setModel(QAbstractItemModel *model) override;
+    void keyboardSearch(const QString &search) override;
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -35,6 +38,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     /// Every click selects a row or nothing changes: a page is always shown.
@@ -48,6 +52,7 @@ private:
     void insertRowViews();
     /// The separator lines below the last row.
     void drawGridInClipRect();
+    void chooseFirst(); ///< The current row, if there is one.
     void setKeyboardIsHere(bool here);
     /// Shows selection and focus ring in the rows as they are now.
     void updateRowViews();

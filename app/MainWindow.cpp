@@ -9,8 +9,10 @@
 #include "MiscTool.h"
 #include "Mnemonics.h"
 #include "NamedImage.h"
+#include "Question.h"
 #include "RecordWindow.h"
 #include "ThemedLabels.h"
+#include "UnplacedArchives.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -18,8 +20,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QHBoxLayout>
-#include <QMessageBox>
-#include <QPushButton>
 #include <QScreen>
 #include <QSettings>
 #include <QUrl>
@@ -147,7 +147,7 @@ void MainWindow::comeToFront(const QString &activationToken)
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_jobs.isEmpty()) {
+    if (!m_jobs.isEmpty() || !UnplacedArchives::newest().isEmpty()) {
         event->ignore();
         askBeforeClosing();
         return;
@@ -158,22 +158,17 @@ void MainWindow::closeEvent(QCloseEvent *event)
 
 void MainWindow::askBeforeClosing()
 {
-    if (findChild<QMessageBox *>(u"quitQuestion"_s))
-        return;
-    auto *question = new QMessageBox(QMessageBox::Question, windowTitle(), qtTrId("Quit.Question"),
-                                     QMessageBox::NoButton, this);
-    question->setObjectName(u"quitQuestion"_s);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    question->setInformativeText(qtTrId("Quit.Consequence"));
-    QPushButton *quit = question->addButton(qtTrId("Quit.Quit"), QMessageBox::DestructiveRole);
-    QPushButton *stay = question->addButton(qtTrId("Quit.KeepWorking"), QMessageBox::RejectRole);
-    question->setDefaultButton(stay);
-    question->setEscapeButton(stay);
-    connect(quit, &QPushButton::clicked, this, &MainWindow::quitWithoutFinishing);
-    // After the last run there is nothing left to decide.
-    connect(&m_jobs, &JobList::allEnded, question, &QWidget::close);
-    Mnemonics::keepUnique(question);
-    question->open();
+    const bool runs = !m_jobs.isEmpty();
+    const QMessageBox *question =
+        ask(this,
+            {.name = "quitQuestion",
+             .text = qtTrId(runs ? "Quit.Question" : "Quit.Unplaced"),
+             .consequence = qtTrId(runs ? "Quit.Consequence" : "Quit.Kept"),
+             .agree = qtTrId("Quit.Quit"),
+             .decline = qtTrId("Quit.KeepWorking")},
+            [this] { quit(); });
+    if (question && runs) // after the last run there is nothing left to decide
+        connect(&m_jobs, &JobList::allEnded, question, &QWidget::close);
 }
 
 void MainWindow::quit()

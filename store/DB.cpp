@@ -1,6 +1,7 @@
 #include "DB.h"
 
 #include "BusyBudget.h"
+#include "EarlierDatabase.h"
 #include "Http.h"
 #include "MiscTool.h"
 
@@ -74,6 +75,11 @@ int DB::open()
     if (state().isUsable)
         state().earlierHandles.push_back(state().handle);
     const QString path = dbFilePath();
+    if (const int failure = EarlierDatabase::takeOver(path)) {
+        // A new and empty file would hide the earlier records for good.
+        state().isUsable = false;
+        return failure;
+    }
     createForOwner(path);
     const int code = sqlite3_open16(path.utf16(), &state().handle);
     state().isUsable = state().handle != nullptr;

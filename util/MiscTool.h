@@ -86,7 +86,8 @@ public:
     /// if the data are not a bookmark.
     static std::optional<QUrl> urlForBookmark(const QByteArray &bookmark);
 
-    /// The user's Documents folder. If it is missing, it is made, readable by its owner alone.
+    /// The application's own folder, "Toolvane/Documents" where the user's programs keep their data
+    /// ($XDG_DATA_HOME). If it is missing, it is made, for its owner alone.
     static QString getAppDocumentFolder();
 
     // The window half: interface thread only.

@@ -80,12 +80,13 @@ std::int64_t MiscTool::getSize(const QString &path)
 
 QString MiscTool::getAppDocumentFolder()
 {
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const QFileInfo info(folder);
-    if (!info.exists()) {
-        // Documents and the record database are private; the folders that lead there get the modes
-        // that the user's own settings give.
-        QDir().mkpath(info.path());
+    // Not the user's own Documents: what we update and remove there would be the user's.
+    const QString own =
+        QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + "/Toolvane"_L1;
+    const QString folder = own + "/Documents"_L1;
+    if (!QFileInfo::exists(folder)) {
+        // The folders that lead there get the modes that the user's own settings give.
+        QDir().mkpath(own);
         QDir().mkdir(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
     return folder;

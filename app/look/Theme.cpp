@@ -118,8 +118,9 @@ void Theme::apply(Scheme scheme)
     if (QApplication::palette() == chosen)
         return;
     QApplication::setPalette(chosen);
-    QApplication::setPalette(withRole(chosen, {QPalette::WindowText}, QPalette::PlaceholderText),
-                             "HintLabel");
+    for (const char *quiet : {"HintLabel", "HintLine"})
+        QApplication::setPalette(
+            withRole(chosen, {QPalette::WindowText}, QPalette::PlaceholderText), quiet);
     // A menu lies above the window like a card. Lists of combo boxes take theirs from here, too.
     QApplication::setPalette(withRole(chosen, {QPalette::Window, QPalette::Base}, QPalette::Light),
                              "QMenu");

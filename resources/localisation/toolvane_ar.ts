@@ -415,6 +415,62 @@
         <source>The password is too long. Use at most 100 characters.</source>
         <translation>كلمة المرور طويلة جدًا. استخدم 100 حرف على الأكثر.</translation>
     </message>
+    <message id="Path.CurrentFolder">
+        <source>Without a folder, the current one is used: %1</source>
+        <translation>من دون مجلد يُستخدم المجلد الحالي: %1</translation>
+    </message>
+    <message id="Path.FolderTaken">
+        <source>This folder already holds an item with the archive's name.</source>
+        <translation>يوجد في هذا المجلد عنصر يحمل اسم الأرشيف.</translation>
+    </message>
+    <message id="Path.NoFile">
+        <source>This is a folder. Add the name of a file.</source>
+        <translation>هذا مجلد. أضف اسم ملف.</translation>
+    </message>
+    <message id="Path.NoFolder">
+        <source>This is not a folder.</source>
+        <translation>هذا ليس مجلدًا.</translation>
+    </message>
+    <message id="Path.NoPlace">
+        <source>The folder for this file does not exist.</source>
+        <translation>المجلد المخصص لهذا الملف غير موجود.</translation>
+    </message>
+    <message id="Path.NoRoom">
+        <source>There may not be enough room: the source has %1, only %2 are free.</source>
+        <translation>قد لا تكفي المساحة: حجم المصدر %1 والمتاح %2 فقط.</translation>
+    </message>
+    <message id="Path.NoSuchFile">
+        <source>This file does not exist.</source>
+        <translation>هذا الملف غير موجود.</translation>
+    </message>
+    <message id="Path.NoSuchFolder">
+        <source>This folder does not exist.</source>
+        <translation>هذا المجلد غير موجود.</translation>
+    </message>
+    <message id="Path.Relative">
+        <source>This path starts in the current folder: %1</source>
+        <translation>يبدأ هذا المسار من المجلد الحالي: %1</translation>
+    </message>
+    <message id="Path.Replaced">
+        <source>This file exists and will be replaced.</source>
+        <translation>هذا الملف موجود وسيُستبدل.</translation>
+    </message>
+    <message id="Path.Taken">
+        <source>Something with this name already exists. Choose another name.</source>
+        <translation>يوجد عنصر بهذا الاسم. اختر اسمًا آخر.</translation>
+    </message>
+    <message id="Path.Unreadable">
+        <source>This cannot be read.</source>
+        <translation>تتعذّر قراءة هذا.</translation>
+    </message>
+    <message id="Path.Unwritable">
+        <source>Nothing can be written here.</source>
+        <translation>تتعذّر الكتابة هنا.</translation>
+    </message>
+    <message id="Path.WillBeMade">
+        <source>This folder does not exist yet. It will be made.</source>
+        <translation>هذا المجلد غير موجود بعد. سيُنشأ.</translation>
+    </message>
     <message id="Permission">
         <source>Rights</source>
         <translation>(الصلاحيات)</translation>
@@ -459,6 +515,10 @@
         <source>Keep Working</source>
         <translation>متابعة العمل</translation>
     </message>
+    <message id="Quit.Kept">
+        <source>It is kept. The Zip page offers it again when Toolvane starts next.</source>
+        <translation>سيُحتفظ به. ستعرضه صفحة Zip مجددًا عند التشغيل التالي.</translation>
+    </message>
     <message id="Quit.Question">
         <source>Something is still running. Quit anyway?</source>
         <translation>لا يزال هناك عمل جارٍ. هل تريد الإنهاء رغم ذلك؟</translation>
@@ -466,6 +526,10 @@
     <message id="Quit.Quit">
         <source>Quit</source>
         <translation>إنهاء</translation>
+    </message>
+    <message id="Quit.Unplaced">
+        <source>A finished archive has not been saved yet. Quit anyway?</source>
+        <translation>لم يُحفظ أرشيف مكتمل بعد. هل تريد الإنهاء رغم ذلك؟</translation>
     </message>
     <message id="Rate">
         <source>&amp;Rate</source>
@@ -551,6 +615,26 @@
         <source>Back to the usual rate</source>
         <translation>العودة إلى السرعة المعتادة</translation>
     </message>
+    <message id="Run.CouldNotStart">
+        <source>%1 could not be started. Check that it is installed, then start Toolvane again.</source>
+        <translation>تعذّر تشغيل %1. تحقّق من أنه مثبّت ثم أعد تشغيل Toolvane.</translation>
+    </message>
+    <message id="Run.Discard.Name">
+        <source>Discard the finished archive</source>
+        <translation>تجاهل الأرشيف المكتمل</translation>
+    </message>
+    <message id="Run.OtherPlace">
+        <source>Another Place…</source>
+        <translation>مكان آخر…</translation>
+    </message>
+    <message id="Run.OtherPlace.Name">
+        <source>Choose another place for the finished archive</source>
+        <translation>اختيار مكان آخر للأرشيف المكتمل</translation>
+    </message>
+    <message id="Run.Stopped">
+        <source>The run was stopped.</source>
+        <translation>أُوقف العمل.</translation>
+    </message>
     <message id="Sample">
         <source>Hear a sample</source>
         <translation>الاستماع إلى عيّنة</translation>
@@ -607,6 +691,10 @@
         <source>Speech Synthesis</source>
         <translation>توليد الكلام</translation>
     </message>
+    <message id="Speech.NoProgram">
+        <source>The text cannot be spoken: espeak-ng is not installed.</source>
+        <translation>تتعذّر قراءة النص: espeak-ng غير مثبّت.</translation>
+    </message>
     <message id="Speech.Rate.Name">
         <source>Rate in words per minute</source>
         <translation>السرعة بعدد الكلمات في الدقيقة</translation>
@@ -630,6 +718,10 @@
     <message id="Speech.Text.Placeholder">
         <source>Type or paste the text to read aloud</source>
         <translation>اكتب النص المراد قراءته أو الصقه</translation>
+    </message>
+    <message id="Speech.TooLong">
+        <source>This text is too long to be spoken at once. Take it in parts.</source>
+        <translation>هذا النص أطول من أن يُقرأ دفعة واحدة. قسّمه إلى أجزاء.</translation>
     </message>
     <message id="Speech.Voice.Name">
         <source>Voice</source>
@@ -734,6 +826,10 @@
     <message id="Unzip.SourceSelect.Name">
         <source>Select the archive to unpack</source>
         <translation>اختيار الأرشيف المراد فك ضغطه</translation>
+    </message>
+    <message id="Unzip.Stopped">
+        <source>The run was stopped. What was unpacked is in the new folder.</source>
+        <translation>أُوقف العمل. ما فُك ضغطه موجود في المجلد الجديد.</translation>
     </message>
     <message id="Unzip.Subtitle">
         <source>Unpacks a zip archive into a new folder that is named after it.</source>
@@ -1178,6 +1274,42 @@
     <message id="Zip">
         <source>Zip</source>
         <translation>إنشاء zip</translation>
+    </message>
+    <message id="Zip.Discard">
+        <source>Discard</source>
+        <translation>تجاهل</translation>
+    </message>
+    <message id="Zip.Discard.Question">
+        <source>Discard the finished archive?</source>
+        <translation>هل تريد تجاهل الأرشيف المكتمل؟</translation>
+    </message>
+    <message id="Zip.Keep">
+        <source>Keep</source>
+        <translation>احتفاظ</translation>
+    </message>
+    <message id="Zip.NotSaved">
+        <source>The archive is not saved yet.</source>
+        <translation>لم يُحفظ الأرشيف بعد.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoFolder">
+        <source>Not saved: the folder does not exist.</source>
+        <translation>لم يُحفظ: المجلد غير موجود.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoRoom">
+        <source>Not saved: there is not enough room.</source>
+        <translation>لم يُحفظ: المساحة لا تكفي.</translation>
+    </message>
+    <message id="Zip.NotSaved.Stopped">
+        <source>Stopped before it was saved.</source>
+        <translation>أُوقف قبل حفظه.</translation>
+    </message>
+    <message id="Zip.NotSaved.Taken">
+        <source>Not saved: the name is taken.</source>
+        <translation>لم يُحفظ: الاسم مستخدم.</translation>
+    </message>
+    <message id="Zip.NotSaved.Unwritable">
+        <source>Not saved: nothing can be written there.</source>
+        <translation>لم يُحفظ: تتعذّر الكتابة هناك.</translation>
     </message>
     <message id="Zip.Output.Name">
         <source>Archive to make</source>

@@ -415,6 +415,62 @@
         <source>The password is too long. Use at most 100 characters.</source>
         <translation>Das Passwort ist zu lang. Verwenden Sie höchstens 100 Zeichen.</translation>
     </message>
+    <message id="Path.CurrentFolder">
+        <source>Without a folder, the current one is used: %1</source>
+        <translation>Ohne Ordner gilt der aktuelle: %1</translation>
+    </message>
+    <message id="Path.FolderTaken">
+        <source>This folder already holds an item with the archive's name.</source>
+        <translation>In diesem Ordner liegt schon etwas mit dem Namen des Archivs.</translation>
+    </message>
+    <message id="Path.NoFile">
+        <source>This is a folder. Add the name of a file.</source>
+        <translation>Das ist ein Ordner. Fügen Sie einen Dateinamen an.</translation>
+    </message>
+    <message id="Path.NoFolder">
+        <source>This is not a folder.</source>
+        <translation>Das ist kein Ordner.</translation>
+    </message>
+    <message id="Path.NoPlace">
+        <source>The folder for this file does not exist.</source>
+        <translation>Den Ordner für diese Datei gibt es nicht.</translation>
+    </message>
+    <message id="Path.NoRoom">
+        <source>There may not be enough room: the source has %1, only %2 are free.</source>
+        <translation>Der Platz reicht vielleicht nicht: Die Quelle hat %1, frei sind nur %2.</translation>
+    </message>
+    <message id="Path.NoSuchFile">
+        <source>This file does not exist.</source>
+        <translation>Diese Datei gibt es nicht.</translation>
+    </message>
+    <message id="Path.NoSuchFolder">
+        <source>This folder does not exist.</source>
+        <translation>Diesen Ordner gibt es nicht.</translation>
+    </message>
+    <message id="Path.Relative">
+        <source>This path starts in the current folder: %1</source>
+        <translation>Dieser Pfad beginnt im aktuellen Ordner: %1</translation>
+    </message>
+    <message id="Path.Replaced">
+        <source>This file exists and will be replaced.</source>
+        <translation>Diese Datei gibt es schon. Sie wird ersetzt.</translation>
+    </message>
+    <message id="Path.Taken">
+        <source>Something with this name already exists. Choose another name.</source>
+        <translation>Etwas mit diesem Namen gibt es schon. Wählen Sie einen anderen Namen.</translation>
+    </message>
+    <message id="Path.Unreadable">
+        <source>This cannot be read.</source>
+        <translation>Das kann nicht gelesen werden.</translation>
+    </message>
+    <message id="Path.Unwritable">
+        <source>Nothing can be written here.</source>
+        <translation>Hier kann nichts gespeichert werden.</translation>
+    </message>
+    <message id="Path.WillBeMade">
+        <source>This folder does not exist yet. It will be made.</source>
+        <translation>Diesen Ordner gibt es noch nicht. Er wird angelegt.</translation>
+    </message>
     <message id="Permission">
         <source>Rights</source>
         <translation>(Rechte)</translation>
@@ -459,6 +515,10 @@
         <source>Keep Working</source>
         <translation>Weiterarbeiten</translation>
     </message>
+    <message id="Quit.Kept">
+        <source>It is kept. The Zip page offers it again when Toolvane starts next.</source>
+        <translation>Es bleibt erhalten. Die Seite Zip bietet es beim nächsten Start wieder an.</translation>
+    </message>
     <message id="Quit.Question">
         <source>Something is still running. Quit anyway?</source>
         <translation>Es läuft noch etwas. Trotzdem beenden?</translation>
@@ -466,6 +526,10 @@
     <message id="Quit.Quit">
         <source>Quit</source>
         <translation>Beenden</translation>
+    </message>
+    <message id="Quit.Unplaced">
+        <source>A finished archive has not been saved yet. Quit anyway?</source>
+        <translation>Ein fertiges Archiv ist noch nicht gespeichert. Trotzdem beenden?</translation>
     </message>
     <message id="Rate">
         <source>&amp;Rate</source>
@@ -551,6 +615,26 @@
         <source>Back to the usual rate</source>
         <translation>Zum üblichen Tempo zurückkehren</translation>
     </message>
+    <message id="Run.CouldNotStart">
+        <source>%1 could not be started. Check that it is installed, then start Toolvane again.</source>
+        <translation>%1 konnte nicht gestartet werden. Prüfen Sie, ob es installiert ist, und starten Sie Toolvane neu.</translation>
+    </message>
+    <message id="Run.Discard.Name">
+        <source>Discard the finished archive</source>
+        <translation>Das fertige Archiv verwerfen</translation>
+    </message>
+    <message id="Run.OtherPlace">
+        <source>Another Place…</source>
+        <translation>Anderer Ort…</translation>
+    </message>
+    <message id="Run.OtherPlace.Name">
+        <source>Choose another place for the finished archive</source>
+        <translation>Einen anderen Ort für das fertige Archiv wählen</translation>
+    </message>
+    <message id="Run.Stopped">
+        <source>The run was stopped.</source>
+        <translation>Der Vorgang wurde gestoppt.</translation>
+    </message>
     <message id="Sample">
         <source>Hear a sample</source>
         <translation>Hörprobe abspielen</translation>
@@ -607,6 +691,10 @@
         <source>Speech Synthesis</source>
         <translation>Sprachausgabe</translation>
     </message>
+    <message id="Speech.NoProgram">
+        <source>The text cannot be spoken: espeak-ng is not installed.</source>
+        <translation>Der Text kann nicht gesprochen werden: espeak-ng ist nicht installiert.</translation>
+    </message>
     <message id="Speech.Rate.Name">
         <source>Rate in words per minute</source>
         <translation>Tempo in Wörtern pro Minute</translation>
@@ -630,6 +718,10 @@
     <message id="Speech.Text.Placeholder">
         <source>Type or paste the text to read aloud</source>
         <translation>Geben Sie den vorzulesenden Text ein oder fügen Sie ihn ein</translation>
+    </message>
+    <message id="Speech.TooLong">
+        <source>This text is too long to be spoken at once. Take it in parts.</source>
+        <translation>Dieser Text ist zu lang, um am Stück gesprochen zu werden. Teilen Sie ihn auf.</translation>
     </message>
     <message id="Speech.Voice.Name">
         <source>Voice</source>
@@ -734,6 +826,10 @@
     <message id="Unzip.SourceSelect.Name">
         <source>Select the archive to unpack</source>
         <translation>Zu entpackendes Archiv auswählen</translation>
+    </message>
+    <message id="Unzip.Stopped">
+        <source>The run was stopped. What was unpacked is in the new folder.</source>
+        <translation>Der Vorgang wurde gestoppt. Was entpackt wurde, liegt im neuen Ordner.</translation>
     </message>
     <message id="Unzip.Subtitle">
         <source>Unpacks a zip archive into a new folder that is named after it.</source>
@@ -1178,6 +1274,42 @@
     <message id="Zip">
         <source>Zip</source>
         <translation>Packen</translation>
+    </message>
+    <message id="Zip.Discard">
+        <source>Discard</source>
+        <translation>Verwerfen</translation>
+    </message>
+    <message id="Zip.Discard.Question">
+        <source>Discard the finished archive?</source>
+        <translation>Das fertige Archiv verwerfen?</translation>
+    </message>
+    <message id="Zip.Keep">
+        <source>Keep</source>
+        <translation>Behalten</translation>
+    </message>
+    <message id="Zip.NotSaved">
+        <source>The archive is not saved yet.</source>
+        <translation>Das Archiv ist noch nicht gespeichert.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoFolder">
+        <source>Not saved: the folder does not exist.</source>
+        <translation>Nicht gespeichert: Der Ordner fehlt.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoRoom">
+        <source>Not saved: there is not enough room.</source>
+        <translation>Nicht gespeichert: Der Platz reicht nicht.</translation>
+    </message>
+    <message id="Zip.NotSaved.Stopped">
+        <source>Stopped before it was saved.</source>
+        <translation>Vor dem Speichern gestoppt.</translation>
+    </message>
+    <message id="Zip.NotSaved.Taken">
+        <source>Not saved: the name is taken.</source>
+        <translation>Nicht gespeichert: Der Name ist vergeben.</translation>
+    </message>
+    <message id="Zip.NotSaved.Unwritable">
+        <source>Not saved: nothing can be written there.</source>
+        <translation>Nicht gespeichert: Dort ist kein Schreiben möglich.</translation>
     </message>
     <message id="Zip.Output.Name">
         <source>Archive to make</source>

@@ -415,6 +415,62 @@
         <source>The password is too long. Use at most 100 characters.</source>
         <translation>The password is too long. Use at most 100 characters.</translation>
     </message>
+    <message id="Path.CurrentFolder">
+        <source>Without a folder, the current one is used: %1</source>
+        <translation>Without a folder, the current one is used: %1</translation>
+    </message>
+    <message id="Path.FolderTaken">
+        <source>This folder already holds an item with the archive's name.</source>
+        <translation>This folder already holds an item with the archive's name.</translation>
+    </message>
+    <message id="Path.NoFile">
+        <source>This is a folder. Add the name of a file.</source>
+        <translation>This is a folder. Add the name of a file.</translation>
+    </message>
+    <message id="Path.NoFolder">
+        <source>This is not a folder.</source>
+        <translation>This is not a folder.</translation>
+    </message>
+    <message id="Path.NoPlace">
+        <source>The folder for this file does not exist.</source>
+        <translation>The folder for this file does not exist.</translation>
+    </message>
+    <message id="Path.NoRoom">
+        <source>There may not be enough room: the source has %1, only %2 are free.</source>
+        <translation>There may not be enough room: the source has %1, only %2 are free.</translation>
+    </message>
+    <message id="Path.NoSuchFile">
+        <source>This file does not exist.</source>
+        <translation>This file does not exist.</translation>
+    </message>
+    <message id="Path.NoSuchFolder">
+        <source>This folder does not exist.</source>
+        <translation>This folder does not exist.</translation>
+    </message>
+    <message id="Path.Relative">
+        <source>This path starts in the current folder: %1</source>
+        <translation>This path starts in the current folder: %1</translation>
+    </message>
+    <message id="Path.Replaced">
+        <source>This file exists and will be replaced.</source>
+        <translation>This file exists and will be replaced.</translation>
+    </message>
+    <message id="Path.Taken">
+        <source>Something with this name already exists. Choose another name.</source>
+        <translation>Something with this name already exists. Choose another name.</translation>
+    </message>
+    <message id="Path.Unreadable">
+        <source>This cannot be read.</source>
+        <translation>This cannot be read.</translation>
+    </message>
+    <message id="Path.Unwritable">
+        <source>Nothing can be written here.</source>
+        <translation>Nothing can be written here.</translation>
+    </message>
+    <message id="Path.WillBeMade">
+        <source>This folder does not exist yet. It will be made.</source>
+        <translation>This folder does not exist yet. It will be made.</translation>
+    </message>
     <message id="Permission">
         <source>Rights</source>
         <translation>Rights</translation>
@@ -459,6 +515,10 @@
         <source>Keep Working</source>
         <translation>Keep Working</translation>
     </message>
+    <message id="Quit.Kept">
+        <source>It is kept. The Zip page offers it again when Toolvane starts next.</source>
+        <translation>It is kept. The Zip page offers it again when Toolvane starts next.</translation>
+    </message>
     <message id="Quit.Question">
         <source>Something is still running. Quit anyway?</source>
         <translation>Something is still running. Quit anyway?</translation>
@@ -466,6 +526,10 @@
     <message id="Quit.Quit">
         <source>Quit</source>
         <translation>Quit</translation>
+    </message>
+    <message id="Quit.Unplaced">
+        <source>A finished archive has not been saved yet. Quit anyway?</source>
+        <translation>A finished archive has not been saved yet. Quit anyway?</translation>
     </message>
     <message id="Rate">
         <source>&amp;Rate</source>
@@ -551,6 +615,26 @@
         <source>Back to the usual rate</source>
         <translation>Back to the usual rate</translation>
     </message>
+    <message id="Run.CouldNotStart">
+        <source>%1 could not be started. Check that it is installed, then start Toolvane again.</source>
+        <translation>%1 could not be started. Check that it is installed, then start Toolvane again.</translation>
+    </message>
+    <message id="Run.Discard.Name">
+        <source>Discard the finished archive</source>
+        <translation>Discard the finished archive</translation>
+    </message>
+    <message id="Run.OtherPlace">
+        <source>Another Place…</source>
+        <translation>Another Place…</translation>
+    </message>
+    <message id="Run.OtherPlace.Name">
+        <source>Choose another place for the finished archive</source>
+        <translation>Choose another place for the finished archive</translation>
+    </message>
+    <message id="Run.Stopped">
+        <source>The run was stopped.</source>
+        <translation>The run was stopped.</translation>
+    </message>
     <message id="Sample">
         <source>Hear a sample</source>
         <translation>Hear a sample</translation>
@@ -607,6 +691,10 @@
         <source>Speech Synthesis</source>
         <translation>Speech Synthesis</translation>
     </message>
+    <message id="Speech.NoProgram">
+        <source>The text cannot be spoken: espeak-ng is not installed.</source>
+        <translation>The text cannot be spoken: espeak-ng is not installed.</translation>
+    </message>
     <message id="Speech.Rate.Name">
         <source>Rate in words per minute</source>
         <translation>Rate in words per minute</translation>
@@ -630,6 +718,10 @@
     <message id="Speech.Text.Placeholder">
         <source>Type or paste the text to read aloud</source>
         <translation>Type or paste the text to read aloud</translation>
+    </message>
+    <message id="Speech.TooLong">
+        <source>This text is too long to be spoken at once. Take it in parts.</source>
+        <translation>This text is too long to be spoken at once. Take it in parts.</translation>
     </message>
     <message id="Speech.Voice.Name">
         <source>Voice</source>
@@ -734,6 +826,10 @@
     <message id="Unzip.SourceSelect.Name">
         <source>Select the archive to unpack</source>
         <translation>Select the archive to unpack</translation>
+    </message>
+    <message id="Unzip.Stopped">
+        <source>The run was stopped. What was unpacked is in the new folder.</source>
+        <translation>The run was stopped. What was unpacked is in the new folder.</translation>
     </message>
     <message id="Unzip.Subtitle">
         <source>Unpacks a zip archive into a new folder that is named after it.</source>
@@ -1178,6 +1274,42 @@
     <message id="Zip">
         <source>Zip</source>
         <translation>Zip</translation>
+    </message>
+    <message id="Zip.Discard">
+        <source>Discard</source>
+        <translation>Discard</translation>
+    </message>
+    <message id="Zip.Discard.Question">
+        <source>Discard the finished archive?</source>
+        <translation>Discard the finished archive?</translation>
+    </message>
+    <message id="Zip.Keep">
+        <source>Keep</source>
+        <translation>Keep</translation>
+    </message>
+    <message id="Zip.NotSaved">
+        <source>The archive is not saved yet.</source>
+        <translation>The archive is not saved yet.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoFolder">
+        <source>Not saved: the folder does not exist.</source>
+        <translation>Not saved: the folder does not exist.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoRoom">
+        <source>Not saved: there is not enough room.</source>
+        <translation>Not saved: there is not enough room.</translation>
+    </message>
+    <message id="Zip.NotSaved.Stopped">
+        <source>Stopped before it was saved.</source>
+        <translation>Stopped before it was saved.</translation>
+    </message>
+    <message id="Zip.NotSaved.Taken">
+        <source>Not saved: the name is taken.</source>
+        <translation>Not saved: the name is taken.</translation>
+    </message>
+    <message id="Zip.NotSaved.Unwritable">
+        <source>Not saved: nothing can be written there.</source>
+        <translation>Not saved: nothing can be written there.</translation>
     </message>
     <message id="Zip.Output.Name">
         <source>Archive to make</source>

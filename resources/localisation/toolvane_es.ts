@@ -415,6 +415,62 @@
         <source>The password is too long. Use at most 100 characters.</source>
         <translation>La contraseña es demasiado larga. Use 100 caracteres como máximo.</translation>
     </message>
+    <message id="Path.CurrentFolder">
+        <source>Without a folder, the current one is used: %1</source>
+        <translation>Sin carpeta se usa la actual: %1</translation>
+    </message>
+    <message id="Path.FolderTaken">
+        <source>This folder already holds an item with the archive's name.</source>
+        <translation>Esta carpeta ya contiene un elemento con el nombre del archivo zip.</translation>
+    </message>
+    <message id="Path.NoFile">
+        <source>This is a folder. Add the name of a file.</source>
+        <translation>Esto es una carpeta. Añada un nombre de archivo.</translation>
+    </message>
+    <message id="Path.NoFolder">
+        <source>This is not a folder.</source>
+        <translation>Esto no es una carpeta.</translation>
+    </message>
+    <message id="Path.NoPlace">
+        <source>The folder for this file does not exist.</source>
+        <translation>La carpeta de este archivo no existe.</translation>
+    </message>
+    <message id="Path.NoRoom">
+        <source>There may not be enough room: the source has %1, only %2 are free.</source>
+        <translation>Puede faltar espacio: el origen ocupa %1 y solo quedan %2.</translation>
+    </message>
+    <message id="Path.NoSuchFile">
+        <source>This file does not exist.</source>
+        <translation>Este archivo no existe.</translation>
+    </message>
+    <message id="Path.NoSuchFolder">
+        <source>This folder does not exist.</source>
+        <translation>Esta carpeta no existe.</translation>
+    </message>
+    <message id="Path.Relative">
+        <source>This path starts in the current folder: %1</source>
+        <translation>Esta ruta parte de la carpeta actual: %1</translation>
+    </message>
+    <message id="Path.Replaced">
+        <source>This file exists and will be replaced.</source>
+        <translation>Este archivo ya existe y se reemplazará.</translation>
+    </message>
+    <message id="Path.Taken">
+        <source>Something with this name already exists. Choose another name.</source>
+        <translation>Ya existe un elemento con este nombre. Elija otro nombre.</translation>
+    </message>
+    <message id="Path.Unreadable">
+        <source>This cannot be read.</source>
+        <translation>Esto no se puede leer.</translation>
+    </message>
+    <message id="Path.Unwritable">
+        <source>Nothing can be written here.</source>
+        <translation>Aquí no se puede escribir nada.</translation>
+    </message>
+    <message id="Path.WillBeMade">
+        <source>This folder does not exist yet. It will be made.</source>
+        <translation>Esta carpeta aún no existe. Se creará.</translation>
+    </message>
     <message id="Permission">
         <source>Rights</source>
         <translation>(permisos)</translation>
@@ -459,6 +515,10 @@
         <source>Keep Working</source>
         <translation>Continuar</translation>
     </message>
+    <message id="Quit.Kept">
+        <source>It is kept. The Zip page offers it again when Toolvane starts next.</source>
+        <translation>Se conserva. La página Zip lo ofrecerá en el próximo inicio.</translation>
+    </message>
     <message id="Quit.Question">
         <source>Something is still running. Quit anyway?</source>
         <translation>Aún hay tareas en curso. ¿Salir de todos modos?</translation>
@@ -466,6 +526,10 @@
     <message id="Quit.Quit">
         <source>Quit</source>
         <translation>Salir</translation>
+    </message>
+    <message id="Quit.Unplaced">
+        <source>A finished archive has not been saved yet. Quit anyway?</source>
+        <translation>Un archivo zip terminado aún no se ha guardado. ¿Salir de todos modos?</translation>
     </message>
     <message id="Rate">
         <source>&amp;Rate</source>
@@ -551,6 +615,26 @@
         <source>Back to the usual rate</source>
         <translation>Volver a la velocidad habitual</translation>
     </message>
+    <message id="Run.CouldNotStart">
+        <source>%1 could not be started. Check that it is installed, then start Toolvane again.</source>
+        <translation>No se ha podido iniciar %1. Compruebe que está instalado y reinicie Toolvane.</translation>
+    </message>
+    <message id="Run.Discard.Name">
+        <source>Discard the finished archive</source>
+        <translation>Descartar el archivo zip terminado</translation>
+    </message>
+    <message id="Run.OtherPlace">
+        <source>Another Place…</source>
+        <translation>Otro lugar…</translation>
+    </message>
+    <message id="Run.OtherPlace.Name">
+        <source>Choose another place for the finished archive</source>
+        <translation>Elegir otro lugar para el archivo zip terminado</translation>
+    </message>
+    <message id="Run.Stopped">
+        <source>The run was stopped.</source>
+        <translation>La tarea se ha detenido.</translation>
+    </message>
     <message id="Sample">
         <source>Hear a sample</source>
         <translation>Escuchar una muestra</translation>
@@ -607,6 +691,10 @@
         <source>Speech Synthesis</source>
         <translation>Síntesis de voz</translation>
     </message>
+    <message id="Speech.NoProgram">
+        <source>The text cannot be spoken: espeak-ng is not installed.</source>
+        <translation>El texto no se puede leer: espeak-ng no está instalado.</translation>
+    </message>
     <message id="Speech.Rate.Name">
         <source>Rate in words per minute</source>
         <translation>Velocidad en palabras por minuto</translation>
@@ -630,6 +718,10 @@
     <message id="Speech.Text.Placeholder">
         <source>Type or paste the text to read aloud</source>
         <translation>Escriba o pegue el texto que se leerá en voz alta</translation>
+    </message>
+    <message id="Speech.TooLong">
+        <source>This text is too long to be spoken at once. Take it in parts.</source>
+        <translation>Este texto es demasiado largo para leerlo de una vez. Divídalo en partes.</translation>
     </message>
     <message id="Speech.Voice.Name">
         <source>Voice</source>
@@ -734,6 +826,10 @@
     <message id="Unzip.SourceSelect.Name">
         <source>Select the archive to unpack</source>
         <translation>Elegir el archivo zip que se descomprimirá</translation>
+    </message>
+    <message id="Unzip.Stopped">
+        <source>The run was stopped. What was unpacked is in the new folder.</source>
+        <translation>La tarea se ha detenido. Lo descomprimido está en la carpeta nueva.</translation>
     </message>
     <message id="Unzip.Subtitle">
         <source>Unpacks a zip archive into a new folder that is named after it.</source>
@@ -1178,6 +1274,42 @@
     <message id="Zip">
         <source>Zip</source>
         <translation>Comprimir</translation>
+    </message>
+    <message id="Zip.Discard">
+        <source>Discard</source>
+        <translation>Descartar</translation>
+    </message>
+    <message id="Zip.Discard.Question">
+        <source>Discard the finished archive?</source>
+        <translation>¿Descartar el archivo zip terminado?</translation>
+    </message>
+    <message id="Zip.Keep">
+        <source>Keep</source>
+        <translation>Conservar</translation>
+    </message>
+    <message id="Zip.NotSaved">
+        <source>The archive is not saved yet.</source>
+        <translation>El archivo zip aún no se ha guardado.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoFolder">
+        <source>Not saved: the folder does not exist.</source>
+        <translation>No guardado: la carpeta no existe.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoRoom">
+        <source>Not saved: there is not enough room.</source>
+        <translation>No guardado: falta espacio.</translation>
+    </message>
+    <message id="Zip.NotSaved.Stopped">
+        <source>Stopped before it was saved.</source>
+        <translation>Detenido antes de guardarlo.</translation>
+    </message>
+    <message id="Zip.NotSaved.Taken">
+        <source>Not saved: the name is taken.</source>
+        <translation>No guardado: el nombre ya existe.</translation>
+    </message>
+    <message id="Zip.NotSaved.Unwritable">
+        <source>Not saved: nothing can be written there.</source>
+        <translation>No guardado: allí no se puede escribir.</translation>
     </message>
     <message id="Zip.Output.Name">
         <source>Archive to make</source>

@@ -415,6 +415,62 @@
         <source>The password is too long. Use at most 100 characters.</source>
         <translation>Le mot de passe est trop long. Utilisez 100 caractères au maximum.</translation>
     </message>
+    <message id="Path.CurrentFolder">
+        <source>Without a folder, the current one is used: %1</source>
+        <translation>Sans dossier, le dossier actuel est utilisé : %1</translation>
+    </message>
+    <message id="Path.FolderTaken">
+        <source>This folder already holds an item with the archive's name.</source>
+        <translation>Ce dossier contient déjà un élément qui porte le nom de l’archive.</translation>
+    </message>
+    <message id="Path.NoFile">
+        <source>This is a folder. Add the name of a file.</source>
+        <translation>C’est un dossier. Ajoutez un nom de fichier.</translation>
+    </message>
+    <message id="Path.NoFolder">
+        <source>This is not a folder.</source>
+        <translation>Ce n’est pas un dossier.</translation>
+    </message>
+    <message id="Path.NoPlace">
+        <source>The folder for this file does not exist.</source>
+        <translation>Le dossier de ce fichier n’existe pas.</translation>
+    </message>
+    <message id="Path.NoRoom">
+        <source>There may not be enough room: the source has %1, only %2 are free.</source>
+        <translation>La place risque de manquer : la source fait %1, il ne reste que %2.</translation>
+    </message>
+    <message id="Path.NoSuchFile">
+        <source>This file does not exist.</source>
+        <translation>Ce fichier n’existe pas.</translation>
+    </message>
+    <message id="Path.NoSuchFolder">
+        <source>This folder does not exist.</source>
+        <translation>Ce dossier n’existe pas.</translation>
+    </message>
+    <message id="Path.Relative">
+        <source>This path starts in the current folder: %1</source>
+        <translation>Ce chemin part du dossier actuel : %1</translation>
+    </message>
+    <message id="Path.Replaced">
+        <source>This file exists and will be replaced.</source>
+        <translation>Ce fichier existe et sera remplacé.</translation>
+    </message>
+    <message id="Path.Taken">
+        <source>Something with this name already exists. Choose another name.</source>
+        <translation>Un élément portant ce nom existe déjà. Choisissez un autre nom.</translation>
+    </message>
+    <message id="Path.Unreadable">
+        <source>This cannot be read.</source>
+        <translation>Cet élément ne peut pas être lu.</translation>
+    </message>
+    <message id="Path.Unwritable">
+        <source>Nothing can be written here.</source>
+        <translation>Rien ne peut être écrit ici.</translation>
+    </message>
+    <message id="Path.WillBeMade">
+        <source>This folder does not exist yet. It will be made.</source>
+        <translation>Ce dossier n’existe pas encore. Il sera créé.</translation>
+    </message>
     <message id="Permission">
         <source>Rights</source>
         <translation>(droits)</translation>
@@ -459,6 +515,10 @@
         <source>Keep Working</source>
         <translation>Continuer</translation>
     </message>
+    <message id="Quit.Kept">
+        <source>It is kept. The Zip page offers it again when Toolvane starts next.</source>
+        <translation>Elle est conservée. La page Zip la proposera au prochain démarrage.</translation>
+    </message>
     <message id="Quit.Question">
         <source>Something is still running. Quit anyway?</source>
         <translation>Une tâche est encore en cours. Quitter quand même ?</translation>
@@ -466,6 +526,10 @@
     <message id="Quit.Quit">
         <source>Quit</source>
         <translation>Quitter</translation>
+    </message>
+    <message id="Quit.Unplaced">
+        <source>A finished archive has not been saved yet. Quit anyway?</source>
+        <translation>Une archive terminée n’est pas encore enregistrée. Quitter quand même ?</translation>
     </message>
     <message id="Rate">
         <source>&amp;Rate</source>
@@ -551,6 +615,26 @@
         <source>Back to the usual rate</source>
         <translation>Revenir au débit habituel</translation>
     </message>
+    <message id="Run.CouldNotStart">
+        <source>%1 could not be started. Check that it is installed, then start Toolvane again.</source>
+        <translation>Impossible de démarrer %1. Vérifiez qu’il est installé, puis redémarrez Toolvane.</translation>
+    </message>
+    <message id="Run.Discard.Name">
+        <source>Discard the finished archive</source>
+        <translation>Abandonner l’archive terminée</translation>
+    </message>
+    <message id="Run.OtherPlace">
+        <source>Another Place…</source>
+        <translation>Autre endroit…</translation>
+    </message>
+    <message id="Run.OtherPlace.Name">
+        <source>Choose another place for the finished archive</source>
+        <translation>Choisir un autre endroit pour l’archive terminée</translation>
+    </message>
+    <message id="Run.Stopped">
+        <source>The run was stopped.</source>
+        <translation>La tâche a été arrêtée.</translation>
+    </message>
     <message id="Sample">
         <source>Hear a sample</source>
         <translation>Écouter un extrait</translation>
@@ -607,6 +691,10 @@
         <source>Speech Synthesis</source>
         <translation>Synthèse vocale</translation>
     </message>
+    <message id="Speech.NoProgram">
+        <source>The text cannot be spoken: espeak-ng is not installed.</source>
+        <translation>Le texte ne peut pas être lu : espeak-ng n’est pas installé.</translation>
+    </message>
     <message id="Speech.Rate.Name">
         <source>Rate in words per minute</source>
         <translation>Débit en mots par minute</translation>
@@ -630,6 +718,10 @@
     <message id="Speech.Text.Placeholder">
         <source>Type or paste the text to read aloud</source>
         <translation>Saisissez ou collez le texte à lire à voix haute</translation>
+    </message>
+    <message id="Speech.TooLong">
+        <source>This text is too long to be spoken at once. Take it in parts.</source>
+        <translation>Ce texte est trop long pour être lu d’une traite. Prenez-le par parties.</translation>
     </message>
     <message id="Speech.Voice.Name">
         <source>Voice</source>
@@ -734,6 +826,10 @@
     <message id="Unzip.SourceSelect.Name">
         <source>Select the archive to unpack</source>
         <translation>Choisir l’archive à extraire</translation>
+    </message>
+    <message id="Unzip.Stopped">
+        <source>The run was stopped. What was unpacked is in the new folder.</source>
+        <translation>La tâche a été arrêtée. Ce qui a été extrait est dans le nouveau dossier.</translation>
     </message>
     <message id="Unzip.Subtitle">
         <source>Unpacks a zip archive into a new folder that is named after it.</source>
@@ -1178,6 +1274,42 @@
     <message id="Zip">
         <source>Zip</source>
         <translation>Compresser</translation>
+    </message>
+    <message id="Zip.Discard">
+        <source>Discard</source>
+        <translation>Abandonner</translation>
+    </message>
+    <message id="Zip.Discard.Question">
+        <source>Discard the finished archive?</source>
+        <translation>Abandonner l’archive terminée ?</translation>
+    </message>
+    <message id="Zip.Keep">
+        <source>Keep</source>
+        <translation>Conserver</translation>
+    </message>
+    <message id="Zip.NotSaved">
+        <source>The archive is not saved yet.</source>
+        <translation>L’archive n’est pas encore enregistrée.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoFolder">
+        <source>Not saved: the folder does not exist.</source>
+        <translation>Non enregistrée : le dossier n’existe pas.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoRoom">
+        <source>Not saved: there is not enough room.</source>
+        <translation>Non enregistrée : la place manque.</translation>
+    </message>
+    <message id="Zip.NotSaved.Stopped">
+        <source>Stopped before it was saved.</source>
+        <translation>Arrêtée avant l’enregistrement.</translation>
+    </message>
+    <message id="Zip.NotSaved.Taken">
+        <source>Not saved: the name is taken.</source>
+        <translation>Non enregistrée : ce nom est pris.</translation>
+    </message>
+    <message id="Zip.NotSaved.Unwritable">
+        <source>Not saved: nothing can be written there.</source>
+        <translation>Non enregistrée : écriture impossible à cet endroit.</translation>
     </message>
     <message id="Zip.Output.Name">
         <source>Archive to make</source>

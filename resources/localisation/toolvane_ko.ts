@@ -415,6 +415,62 @@
         <source>The password is too long. Use at most 100 characters.</source>
         <translation>암호가 너무 깁니다. 100자 이내로 입력하십시오.</translation>
     </message>
+    <message id="Path.CurrentFolder">
+        <source>Without a folder, the current one is used: %1</source>
+        <translation>폴더를 지정하지 않으면 현재 폴더를 사용합니다: %1</translation>
+    </message>
+    <message id="Path.FolderTaken">
+        <source>This folder already holds an item with the archive's name.</source>
+        <translation>이 폴더에 압축 파일과 이름이 같은 항목이 이미 있습니다.</translation>
+    </message>
+    <message id="Path.NoFile">
+        <source>This is a folder. Add the name of a file.</source>
+        <translation>폴더입니다. 파일 이름을 덧붙이십시오.</translation>
+    </message>
+    <message id="Path.NoFolder">
+        <source>This is not a folder.</source>
+        <translation>폴더가 아닙니다.</translation>
+    </message>
+    <message id="Path.NoPlace">
+        <source>The folder for this file does not exist.</source>
+        <translation>이 파일을 둘 폴더가 없습니다.</translation>
+    </message>
+    <message id="Path.NoRoom">
+        <source>There may not be enough room: the source has %1, only %2 are free.</source>
+        <translation>공간이 모자랄 수 있습니다: 원본은 %1, 남은 공간은 %2입니다.</translation>
+    </message>
+    <message id="Path.NoSuchFile">
+        <source>This file does not exist.</source>
+        <translation>이 파일이 없습니다.</translation>
+    </message>
+    <message id="Path.NoSuchFolder">
+        <source>This folder does not exist.</source>
+        <translation>이 폴더가 없습니다.</translation>
+    </message>
+    <message id="Path.Relative">
+        <source>This path starts in the current folder: %1</source>
+        <translation>이 경로는 현재 폴더에서 시작합니다: %1</translation>
+    </message>
+    <message id="Path.Replaced">
+        <source>This file exists and will be replaced.</source>
+        <translation>이 파일이 이미 있으며 바뀝니다.</translation>
+    </message>
+    <message id="Path.Taken">
+        <source>Something with this name already exists. Choose another name.</source>
+        <translation>같은 이름의 항목이 이미 있습니다. 다른 이름을 지정하십시오.</translation>
+    </message>
+    <message id="Path.Unreadable">
+        <source>This cannot be read.</source>
+        <translation>읽을 수 없습니다.</translation>
+    </message>
+    <message id="Path.Unwritable">
+        <source>Nothing can be written here.</source>
+        <translation>여기에는 쓸 수 없습니다.</translation>
+    </message>
+    <message id="Path.WillBeMade">
+        <source>This folder does not exist yet. It will be made.</source>
+        <translation>이 폴더가 아직 없습니다. 새로 만듭니다.</translation>
+    </message>
     <message id="Permission">
         <source>Rights</source>
         <translation>권한</translation>
@@ -459,6 +515,10 @@
         <source>Keep Working</source>
         <translation>계속 작업</translation>
     </message>
+    <message id="Quit.Kept">
+        <source>It is kept. The Zip page offers it again when Toolvane starts next.</source>
+        <translation>압축 파일은 보관됩니다. 다음에 시작하면 Zip 페이지에 다시 나타납니다.</translation>
+    </message>
     <message id="Quit.Question">
         <source>Something is still running. Quit anyway?</source>
         <translation>아직 진행 중인 작업이 있습니다. 그래도 끝내시겠습니까?</translation>
@@ -466,6 +526,10 @@
     <message id="Quit.Quit">
         <source>Quit</source>
         <translation>끝내기</translation>
+    </message>
+    <message id="Quit.Unplaced">
+        <source>A finished archive has not been saved yet. Quit anyway?</source>
+        <translation>완성된 압축 파일이 아직 저장되지 않았습니다. 그래도 끝내시겠습니까?</translation>
     </message>
     <message id="Rate">
         <source>&amp;Rate</source>
@@ -551,6 +615,26 @@
         <source>Back to the usual rate</source>
         <translation>보통 속도로 되돌리기</translation>
     </message>
+    <message id="Run.CouldNotStart">
+        <source>%1 could not be started. Check that it is installed, then start Toolvane again.</source>
+        <translation>%1을(를) 시작하지 못했습니다. 설치되어 있는지 확인하고 Toolvane을 다시 시작하십시오.</translation>
+    </message>
+    <message id="Run.Discard.Name">
+        <source>Discard the finished archive</source>
+        <translation>완성된 압축 파일 버리기</translation>
+    </message>
+    <message id="Run.OtherPlace">
+        <source>Another Place…</source>
+        <translation>다른 위치…</translation>
+    </message>
+    <message id="Run.OtherPlace.Name">
+        <source>Choose another place for the finished archive</source>
+        <translation>완성된 압축 파일의 다른 위치 선택</translation>
+    </message>
+    <message id="Run.Stopped">
+        <source>The run was stopped.</source>
+        <translation>작업이 중지되었습니다.</translation>
+    </message>
     <message id="Sample">
         <source>Hear a sample</source>
         <translation>예시 듣기</translation>
@@ -607,6 +691,10 @@
         <source>Speech Synthesis</source>
         <translation>음성 합성</translation>
     </message>
+    <message id="Speech.NoProgram">
+        <source>The text cannot be spoken: espeak-ng is not installed.</source>
+        <translation>텍스트를 읽을 수 없습니다: espeak-ng가 설치되어 있지 않습니다.</translation>
+    </message>
     <message id="Speech.Rate.Name">
         <source>Rate in words per minute</source>
         <translation>속도(분당 단어 수)</translation>
@@ -630,6 +718,10 @@
     <message id="Speech.Text.Placeholder">
         <source>Type or paste the text to read aloud</source>
         <translation>읽을 텍스트를 입력하거나 붙여 넣으십시오</translation>
+    </message>
+    <message id="Speech.TooLong">
+        <source>This text is too long to be spoken at once. Take it in parts.</source>
+        <translation>텍스트가 너무 길어 한 번에 읽을 수 없습니다. 나누어 읽으십시오.</translation>
     </message>
     <message id="Speech.Voice.Name">
         <source>Voice</source>
@@ -734,6 +826,10 @@
     <message id="Unzip.SourceSelect.Name">
         <source>Select the archive to unpack</source>
         <translation>풀 압축 파일 선택</translation>
+    </message>
+    <message id="Unzip.Stopped">
+        <source>The run was stopped. What was unpacked is in the new folder.</source>
+        <translation>작업이 중지되었습니다. 푼 내용은 새 폴더에 있습니다.</translation>
     </message>
     <message id="Unzip.Subtitle">
         <source>Unpacks a zip archive into a new folder that is named after it.</source>
@@ -1178,6 +1274,42 @@
     <message id="Zip">
         <source>Zip</source>
         <translation>zip 압축</translation>
+    </message>
+    <message id="Zip.Discard">
+        <source>Discard</source>
+        <translation>버리기</translation>
+    </message>
+    <message id="Zip.Discard.Question">
+        <source>Discard the finished archive?</source>
+        <translation>완성된 압축 파일을 버리시겠습니까?</translation>
+    </message>
+    <message id="Zip.Keep">
+        <source>Keep</source>
+        <translation>보관</translation>
+    </message>
+    <message id="Zip.NotSaved">
+        <source>The archive is not saved yet.</source>
+        <translation>압축 파일이 아직 저장되지 않았습니다.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoFolder">
+        <source>Not saved: the folder does not exist.</source>
+        <translation>저장 안 됨: 폴더가 없습니다.</translation>
+    </message>
+    <message id="Zip.NotSaved.NoRoom">
+        <source>Not saved: there is not enough room.</source>
+        <translation>저장 안 됨: 공간이 모자랍니다.</translation>
+    </message>
+    <message id="Zip.NotSaved.Stopped">
+        <source>Stopped before it was saved.</source>
+        <translation>저장하기 전에 중지되었습니다.</translation>
+    </message>
+    <message id="Zip.NotSaved.Taken">
+        <source>Not saved: the name is taken.</source>
+        <translation>저장 안 됨: 이미 있는 이름입니다.</translation>
+    </message>
+    <message id="Zip.NotSaved.Unwritable">
+        <source>Not saved: nothing can be written there.</source>
+        <translation>저장 안 됨: 그곳에는 쓸 수 없습니다.</translation>
     </message>
     <message id="Zip.Output.Name">
         <source>Archive to make</source>

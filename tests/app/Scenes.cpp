@@ -4,7 +4,9 @@
 #include "HoverTableAppDelegate.h"
 #include "MiscTool.h"
 #include "PageControls.h"
+#include "RunLine.h"
 #include "Theme.h"
+#include "UnplacedArchives.h"
 
 #include <QAction>
 #include <QApplication>
@@ -26,8 +28,11 @@ void visitPages(Application &application, const Scenes::Look &look)
     look(u"welcome"_s, window);
     for (int row = 0; row < application.tools().rowCount(); ++row) {
         application.tools().selectTool(row);
+        QWidget &page = *application.tools().viewItem(row);
+        if (auto *line = page.findChild<RunLine *>(); line && !line->isVisible())
+            line->say(qtTrId("Unzip.Stopped"));
         Scenes::settle();
-        look(application.tools().viewItem(row)->objectName(), window);
+        look(page.objectName(), window);
     }
     control<QAction>(window, "aboutItem").trigger();
     Scenes::settle();
@@ -118,6 +123,9 @@ void Scenes::prepare()
     QLocale::setDefault(QLocale::c()); // English to begin with, whatever this machine speaks
     Application::prepare();
     Theme::install();
+    const QString archive = MiscTool::getAppDocumentFolder() + u"/a finished archive.zip"_s;
+    QVERIFY(QFile(archive).open(QIODevice::WriteOnly));
+    UnplacedArchives::keep(archive); // which the Zip page offers another place
 }
 
 QString Scenes::described(const QWidget &widget)

@@ -4,6 +4,7 @@
 #include "HoverTableAppDelegate.h"
 #include "MiscTool.h"
 #include "TerminationSignals.h"
+#include "UnplacedArchives.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -65,6 +66,28 @@ private Q_SLOTS:
         QTimer::singleShot(0, &application.window(), &QWidget::close);
         QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(1); });
         QCOMPARE(QApplication::exec(), 0); // ended by the window, not by the watchdog
+    }
+
+    void asksBeforeItLeavesAnArchiveWithoutAPlace()
+    {
+        const QString archive = MiscTool::getAppDocumentFolder() + u"/a.zip"_s;
+        QVERIFY(QFile(archive).open(QIODevice::WriteOnly));
+        const QString kept = UnplacedArchives::keep(archive);
+        Application application;
+        application.start();
+        application.window().close();
+        QVERIFY(application.window().isVisible());
+        QCOMPARE(quitQuestions(application.window()).constFirst()->text(), qtTrId("Quit.Unplaced"));
+        answer(application.window(), QMessageBox::RejectRole);
+        QTRY_VERIFY(quitQuestions(application.window()).isEmpty());
+        application.window().close();
+        QTimer::singleShot(0, &application.window(), [&application] {
+            answer(application.window(), QMessageBox::DestructiveRole);
+        });
+        QTimer::singleShot(5000, &application.window(), [] { QCoreApplication::exit(1); });
+        QCOMPARE(QApplication::exec(), 0);
+        QVERIFY(!application.window().isVisible() && QFile::exists(kept)); // for the next start
+        UnplacedArchives::remove(kept);
     }
 
     void opensToolsFromTheKeyboard()

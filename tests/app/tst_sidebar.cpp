@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QEnterEvent>
+#include <QPaintEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -47,6 +48,23 @@ public:
 
 private:
     Application m_application;
+};
+
+/// Which part of a widget is painted as long as this lives.
+class PaintedRegion : public QObject
+{
+public:
+    explicit PaintedRegion(QWidget &widget) { widget.installEventFilter(this); }
+
+    QRegion region;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint)
+            region += static_cast<QPaintEvent *>(event)->region();
+        return false;
+    }
 };
 
 QColor pixel(QWidget &widget, int x, int y)
@@ -130,6 +148,52 @@ private Q_SLOTS:
         QVERIFY(list.height() > past + height);
         QVERIFY(list.pixelColor(110, past) != line);
         QCOMPARE(list.pixelColor(110, past + height), line);
+    }
+
+    // A row that is out of view shows no page, so whatever chooses one scrolls to it first.
+    void choosesOnlyWhatIsInView()
+    {
+        Window window;
+        window.list().setFixedHeight(2 * window.list().rowHeight()); // as if it had many more rows
+        window.tools().selectTool(0);
+        QTRY_VERIFY(!window.list().isInView(7));
+        QItemSelectionModel &selection = *window.list().selectionModel();
+        selection.select(window.tools().index(7), QItemSelectionModel::ClearAndSelect);
+        QVERIFY(window.row(7).isSelected());
+        QCOMPARE(window.container().contentView(), window.tools().viewItem(0));
+
+        const auto expectPage = [&window](int row) {
+            QCOMPARE(window.container().contentView(), window.tools().viewItem(row));
+            QVERIFY(window.list().isInView(row) && window.row(row).isSelected());
+        };
+        window.tools().selectTool(6);
+        expectPage(6);
+        QTest::keyClick(&window.list(), Qt::Key_Home);
+        expectPage(0);
+        QTest::keyClick(&window.list(), Qt::Key_End);
+        expectPage(7);
+        const QString first = window.tools().index(0).data().toString();
+        QTest::keyClick(&window.list(), first.at(0).toLatin1());
+        expectPage(0);
+    }
+
+    // A selected row draws a shape that follows its size.
+    void drawsOnlyWhatAResizeChanges()
+    {
+        Window window;
+        window.tools().selectTool(2);
+        for (const auto &[row, isSelected] : {std::pair(1, false), {2, true}}) {
+            HoverTableRowView &view = window.row(row);
+            const QRect before = view.rect();
+            view.resize(before.width() - 20, before.height());
+            QTest::qWait(1);
+            const PaintedRegion painted(view);
+            view.resize(before.size());
+            QTRY_VERIFY(!painted.region.isEmpty());
+            const QRegion separator(view.separatorRect().toAlignedRect());
+            const QRegion appeared(before.adjusted(before.width() - 20, 0, 0, 0));
+            QCOMPARE(painted.region, isSelected ? QRegion(before) : separator + appeared);
+        }
     }
 
     void showsWhatRunsAndMovesNoPage()

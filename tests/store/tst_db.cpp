@@ -7,8 +7,11 @@
 #include "SampleRecords.h"
 #include "UserSchema.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopeGuard>
+#include <QStandardPaths>
 #include <QTest>
 
 #include <sqlite3.h>
@@ -51,6 +54,53 @@ private Q_SLOTS:
         QVERIFY(DB::dbFilePath().endsWith("/Documents/DB.sqlite3"_L1));
         const auto mode = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
         QCOMPARE(QFileInfo(DB::dbFilePath()).permissions(), mode);
+    }
+
+    // It was in the user's own Documents.
+    void anEarlierDatabaseIsTakenOverOnce()
+    {
+        const QString earlier =
+            QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation) + "/DB.sqlite3"_L1;
+        QVERIFY(QDir().mkpath(QFileInfo(earlier).path()));
+        const auto removeBoth = [&] {
+            DB::reset();
+            QFile::remove(DB::dbFilePath());
+            QFile::remove(earlier);
+        };
+        const auto cleanUp = qScopeGuard(removeBoth);
+        const auto groups = [] { return DB::getRecords(u"UserGroup"_s).size(); };
+        const QByteArray ours =
+            "PRAGMA journal_mode=WAL; CREATE TABLE UserGroup(ID INTEGER PRIMARY "
+            "KEY,ShopID,Name,Permission,Memo);"
+            "INSERT INTO UserGroup VALUES(1,0,'a','b','c')";
+        for (const auto &[sql, isTaken] :
+             {std::pair(ours, true), std::pair(QByteArray("CREATE TABLE UserGroup(Name)"), false),
+              std::pair(QByteArray(), false)}) {
+            removeBoth();
+            sqlite3 *other = nullptr;
+            QCOMPARE(sqlite3_open16(earlier.utf16(), &other), SQLITE_OK);
+            QCOMPARE(sqlite3_exec(other, sql.constData(), nullptr, nullptr, nullptr), SQLITE_OK);
+            if (isTaken) { // but not while it is held
+                QCOMPARE(sqlite3_exec(other, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE",
+                                      nullptr, nullptr, nullptr),
+                         SQLITE_OK);
+                QCOMPARE(DB::open(), SQLITE_BUSY);
+                QVERIFY(!QFile::exists(DB::dbFilePath()));
+            }
+            sqlite3_close(other);
+            QCOMPARE(DB::open(), SQLITE_OK);
+            QCOMPARE(DB::getTables().contains(u"UserGroup"_s), isTaken);
+            QCOMPARE(groups(), isTaken ? 1 : 0);
+            QVERIFY(QFile::exists(earlier));
+            fileIsTheOwnersAlone();
+        }
+        removeBoth();
+        QFile text(earlier); // no database at all
+        QVERIFY(text.open(QFile::ReadWrite) && text.write(QByteArray(5000, 'x')) && text.flush());
+        QCOMPARE(DB::open(), SQLITE_OK);
+        QCOMPARE(DB::exec(u"CREATE TABLE T(A)"_s), SQLITE_OK);
+        QVERIFY(text.seek(0));
+        QCOMPARE(text.readAll(), QByteArray(5000, 'x'));
     }
 
     void closedConnectionFailsWithoutACrash()

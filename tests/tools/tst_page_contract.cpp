@@ -1,14 +1,17 @@
 // Every page that runs a program checks its form first, is busy while the program runs, tells the
 // end once, offers what was made, and takes its run along when it goes.
 
+#include "BusyIndicator.h"
 #include "JobList.h"
 #include "MessageBoxes.h"
 #include "PageContracts.h"
 #include "PageControls.h"
 #include "RecordedProgram.h"
+#include "RunLine.h"
 #include "ShowInFolderButton.h"
 
 #include <QDir>
+#include <QLabel>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -124,9 +127,42 @@ private Q_SLOTS:
             QTRY_COMPARE(m_boxes->texts, QStringList{m_contract.failure});
             QTRY_VERIFY(isIdle());
         } else {
-            QVERIFY(m_boxes->texts.isEmpty() && isBusy());
+            QVERIFY(m_boxes->texts.isEmpty());
+            isStuck();
         }
         QVERIFY(!m_program->arguments());
+    }
+
+    // One of our own programs says so in place of the system's that is not there.
+    void programMissing()
+    {
+        m_program->endWith(69);
+        start();
+        QTRY_VERIFY(m_jobs.isEmpty());
+        if (!m_contract.survivesNoProgram) {
+            QVERIFY(m_boxes->texts.isEmpty()); // which would blame the archive
+            return isStuck();
+        }
+        QTRY_COMPARE(m_boxes->texts, QStringList{m_contract.failure});
+        QTRY_VERIFY(isIdle());
+    }
+
+    // Not as one that failed.
+    void tellsAStoppedRun()
+    {
+        m_program->hold();
+        start();
+        QTRY_VERIFY(m_program->arguments());
+        m_jobs.stopAll();
+        QTRY_VERIFY(isIdle() && m_jobs.isEmpty());
+        QVERIFY(m_boxes->texts.isEmpty());
+        QVERIFY(said().endsWith("Stopped]"_L1) && m_page->findChild<RunLine *>()->isVisible());
+        renewFolder();
+        m_program->release();
+        m_program->endWith(1);
+        start();
+        QVERIFY(!m_page->findChild<RunLine *>()->isVisible());
+        QTRY_VERIFY(isIdle());
     }
 
     void takesItsRunAlong()
@@ -201,6 +237,14 @@ private:
         });
         const QStringList enabled = enabledOf(*m_page, m_contract.buttons);
         return signs && locks && enabled == (idle ? m_contract.buttons : QStringList());
+    }
+    QString said() const { return control<QLabel>(*m_page, "runText").text(); }
+    /// Locked on purpose, without a sign of work, and with the reason.
+    void isStuck() const
+    {
+        QTRY_COMPARE(said(), u"[Run.CouldNotStart]"_s);
+        QVERIFY(enabledOf(*m_page, m_contract.buttons).isEmpty());
+        QVERIFY(!m_page->findChild<BusyIndicator *>()->isVisible());
     }
     bool isBusy() const { return isIn(false); }
     bool isIdle() const { return isIn(true); }

@@ -1,7 +1,9 @@
 #include "Stops.h"
 #include "Tour.h"
+#include "UnplacedArchives.h"
 
 #include <QFile>
+#include <QLabel>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -51,6 +53,21 @@ void visitZip(Tour &tour)
     tour.awaitMessage(qtTrId("ZipSuc"));
     tour.await(u"the page is idle again"_s,
                [page] { return page->findChild<QWidget *>(u"generateButton"_s)->isEnabled(); });
+
+    const QString nowhere = samples.filePath(u"missing/holiday.zip"_s);
+    tour.type(page, "outputField", nowhere);
+    tour.await(u"the page says before that the folder is missing"_s,
+               [page] { return !page->findChild<QLabel *>(u"outputHint"_s)->text().isEmpty(); });
+    tour.picture(u"zip-warned"_s);
+    tour.expectMessage(u"zip-done-again"_s);
+    tour.press(page, "generateButton");
+    tour.awaitMessage(qtTrId("ZipSuc"));
+    tour.await(u"the page offers another place"_s,
+               [page] { return page->findChild<QWidget *>(u"placeButton"_s)->isVisible(); });
+    tour.picture(u"zip-unplaced"_s);
+    const QString kept = UnplacedArchives::newest();
+    tour.check(tour.witness(u"unzip"_s, {u"-tqq"_s, kept}) == 0, u"the archive is kept"_s);
+    UnplacedArchives::remove(kept);
 
     tour.check(QFile::exists(archive), u"the archive stands at its place"_s);
     tour.check(tour.witness(u"unzip"_s, {u"-tqq"_s, archive}) == 0, u"unzip -t passes it"_s);

@@ -195,7 +195,8 @@ def window():
     for i in range(20):
         sample(f"packed/{i}", MEGABYTE // 2)
     return Subject([WORKER, "zip", SAMPLES / "packed", FOLDER / "out.zip"], "out.zip",
-                   replaces=False, prepare=lambda: shutil.rmtree(HOME, ignore_errors=True))
+                   replaces=False, prepare=lambda: shutil.rmtree(HOME, ignore_errors=True),
+                   variables={"XDG_DATA_HOME": str(HOME)})
 
 
 SUBJECTS = {

@@ -24,7 +24,7 @@ def run(subject):
 def hammer(name):
     """The rows that a writer of records says are stored, while it has as much room as there is."""
     end = subprocess.run([subjects.BUILD / "tests/hammer_child", name, "3", "each"],
-                         env=os.environ | subjects.OURS | {"HOME": str(FOLDER)},
+                         env=os.environ | subjects.OURS | {"XDG_DATA_HOME": str(FOLDER)},
                          capture_output=True, text=True, check=True)
     words = (end.stdout + end.stderr).splitlines()
     return ([row for row in words if row.startswith(f"{name}-")],
@@ -72,7 +72,7 @@ class FullDisk(unittest.TestCase):
         more, errors = hammer("second")
         self.assertEqual(errors, "")
         stored = subprocess.check_output(
-            ["sqlite3", FOLDER / "Documents/DB.sqlite3",
+            ["sqlite3", FOLDER / "Toolvane/Documents/DB.sqlite3",
              "PRAGMA integrity_check; SELECT Name FROM Price ORDER BY ID"], text=True)
         self.assertEqual(stored.splitlines(), ["ok", *rows, *more])
 

@@ -48,8 +48,13 @@ private Q_SLOTS:
         QCOMPARE(MiscTool::getUserHome(), QFile::decodeName(home));
         QCOMPARE(MiscTool::getDownloadFolder(), QFile::decodeName(home + "/Downloads"));
         qputenv("HOME", home);
+    }
+
+    // Nothing of the user's is in it, nor of other programs.
+    void documentsAreTheApplicationsOwn()
+    {
         const QByteArray documents = QFile::encodeName(MiscTool::getAppDocumentFolder());
-        QVERIFY(documents.startsWith(home + '/'));
+        QCOMPARE(documents, qgetenv("XDG_DATA_HOME") + "/Toolvane/Documents");
         struct stat status = {};
         QCOMPARE(stat(documents.constData(), &status), 0);
         QCOMPARE(status.st_mode, mode_t(S_IFDIR | 0700)); // for the owner alone

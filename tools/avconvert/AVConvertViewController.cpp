@@ -19,6 +19,7 @@ AVConvertViewController::AVConvertViewController(JobList &jobs, QWidget *parent,
       m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     PageStatus::keepSpaceWhenHidden(*ui->progressBox);
     connectButtons();
     awakeFromNib(presetList);
@@ -43,6 +44,9 @@ void AVConvertViewController::connectButtons()
     PageStatus::pressOnReturn(*this, *ui->convertButton);
     ui->sourceField->takeDropsOf(*this);
     ui->outputField->setSource(*ui->sourceField);
+    ui->sourceHint->watch(*ui->sourceField, PathUse::SourceFile);
+    ui->outputHint->watch(*ui->outputField, PathUse::ReplacedFile);
+    ui->outputHint->setSource(*ui->sourceField);
 }
 
 void AVConvertViewController::awakeFromNib(const QString &presetList)
@@ -110,11 +114,13 @@ Command AVConvertViewController::convert(const QString &output) const
 
 QCoro::Task<> AVConvertViewController::convertAction()
 {
+    PathField::expandHomeIn(*this);
     if (!verify())
         co_return;
     setStatus(false);
     showProgress(true);
     ui->showInFolderButton->withdraw();
+    ui->runLine->withdraw();
     const QPointer<AVConvertViewController> self(this);
     const QString output = ui->outputField->text();
     Job job = m_jobs.begin(
@@ -127,12 +133,16 @@ QCoro::Task<> AVConvertViewController::convertAction()
     if (result.succeeded())
         clear();
     ui->elapsedLabel->hold();
-    MiscTool::showAlert(qtTrId(result.succeeded() ? "Convert is completed." : "Convert is failed."),
-                        QString());
+    const bool isStopped = result.outcome() == JobOutcome::Stopped;
+    if (!isStopped)
+        MiscTool::showAlert(
+            qtTrId(result.succeeded() ? "Convert is completed." : "Convert is failed."), QString());
     if (!self)
         co_return;
     setStatus(true);
     showProgress(false);
+    if (isStopped)
+        ui->runLine->say(qtTrId("Run.Stopped"));
     if (result.succeeded())
         ui->showInFolderButton->offer(output); // where the progress was
 }

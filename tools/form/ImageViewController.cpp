@@ -23,6 +23,7 @@ ImageViewController::~ImageViewController() = default;
 void ImageViewController::awakeFromNib(QWidget &formPlace)
 {
     ui->setupUi(&formPlace);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     connectForm();
     ui->srcBox->setTitle(qtTrId("Source"));
     ui->srcSelectButton->setText(qtTrId("Select"));
@@ -51,6 +52,9 @@ void ImageViewController::connectForm()
     ui->srcFolderField->takeDropsOf(*this);
     ui->srcFolderField->takeDropsOf(*ui->volumnNameField); // would take an address as its text
     ui->outputField->setSource(*ui->srcFolderField);
+    ui->srcHint->watch(*ui->srcFolderField, PathUse::SourceFolder);
+    ui->outputHint->watch(*ui->outputField, PathUse::ReplacedFile);
+    ui->outputHint->setSource(*ui->srcFolderField);
 }
 
 void ImageViewController::setSourceFolder(const QString &path)
@@ -76,6 +80,7 @@ void ImageViewController::clearAction()
     ui->volumnNameField->clear();
     ui->outputField->clear();
     ui->showInFolderButton->withdraw();
+    ui->runLine->withdraw();
 }
 
 bool ImageViewController::verify()
@@ -102,10 +107,10 @@ Command ImageViewController::makeHybrid(const QString &output) const
 
 QCoro::Task<> ImageViewController::generateAction()
 {
+    PathField::expandHomeIn(*this);
     if (!verify())
         co_return;
     setStatus(false);
-    ui->showInFolderButton->withdraw();
     const QPointer<ImageViewController> self(this);
     const QString output = ui->outputField->text();
     Job job = m_jobs.begin({.page = objectName(),
@@ -117,6 +122,8 @@ QCoro::Task<> ImageViewController::generateAction()
         co_return;
     job.end(result.outcome());
     setStatus(true);
+    if (result.outcome() == JobOutcome::Stopped)
+        co_return ui->runLine->say(qtTrId("Run.Stopped"));
     if (result.succeeded())
         ui->showInFolderButton->offer(output);
     // On purpose these two are shown as they are, not looked up in the table of texts.
@@ -132,4 +139,8 @@ void ImageViewController::setStatus(bool idle)
     ui->clearButton->setEnabled(idle);
     ui->generateButton->setEnabled(idle);
     PageStatus::setIdle(*ui->progressIndicator, idle);
+    if (!idle) { // what was said about the last run
+        ui->showInFolderButton->withdraw();
+        ui->runLine->withdraw();
+    }
 }

@@ -1,6 +1,7 @@
 #include "PathField.h"
 
 #include "FileNames.h"
+#include "PathAdvice.h"
 #include "PlainToolTip.h"
 
 #include <QDir>
@@ -35,7 +36,21 @@ PathField::PathField(QWidget *parent) : QLineEdit(parent)
 {
     connect(this, &QLineEdit::textChanged, this,
             [this](const QString &path) { setToolTip(plainToolTip(path)); });
+    connect(this, &QLineEdit::editingFinished, this, &PathField::expandHome);
     takeDropsOf(*this);
+}
+
+void PathField::expandHome()
+{
+    if (const QString path = withHomeFolder(text()); path != text())
+        setText(path);
+}
+
+void PathField::expandHomeIn(const QWidget &page)
+{
+    const auto fields = page.findChildren<PathField *>();
+    for (PathField *field : fields)
+        field->expandHome();
 }
 
 bool PathField::takesPath(const QString &path) const

@@ -31,6 +31,10 @@ public:
     /// The field with the path that a new file is named after.
     void setSource(const QLineEdit &source) { m_source = &source; }
 
+    /// Puts the home folder in place of a leading "~/" in every path field of a page. A field does
+    /// it itself when it is left; a run may start before.
+    static void expandHomeIn(const QWidget &page);
+
     /// Items that are dragged over the widget are taken as if they were dragged over this field. A
     /// widget in it that takes drops itself, such as another path field, comes first.
     void takeDropsOf(QWidget &widget);
@@ -44,6 +48,7 @@ protected:
     void initStyleOption(QStyleOptionFrame *option) const override;
 
 private:
+    void expandHome();
     bool takesPath(const QString &path) const;
     void considerDrag(QDragMoveEvent *event);
     void takeDrop(QDropEvent *event);

@@ -23,7 +23,9 @@ struct Command {
 /// How a run of a command ended: exactly one of five ways.
 struct CommandResult {
     enum class End {
-        CouldNotStart, ///< No such program, not executable, or arguments that it cannot be given.
+        /// No such program, not executable, or arguments that it cannot be given; or one of our own
+        /// programs does not find the system's program that does its work.
+        CouldNotStart,
         Exited, ///< By itself, with an exit status.
         Killed, ///< By a signal that we did not send: a crash is never a success.
         Cancelled, ///< Stopped on request while it ran, whatever its status was then.

@@ -9,6 +9,8 @@
 #include <QPromise>
 #include <QTimer>
 
+#include <sysexits.h>
+
 #include <algorithm>
 #include <chrono>
 #include <csignal>
@@ -152,6 +154,9 @@ void CommandRun::onFinished(int exitCode, QProcess::ExitStatus exitStatus)
     const bool hasExited = exitStatus == QProcess::NormalExit;
     if (m_ending)
         watchEnding();
+    else if (hasExited && exitCode == EX_UNAVAILABLE && m_program != m_command.launchPath)
+        // One of ours, in whose place the system's program would not have started either.
+        conclude({CommandResult::End::CouldNotStart, 0, u"a program is not installed"_s});
     else // a killed process has the signal's number as its exit code
         conclude({hasExited ? CommandResult::End::Exited : CommandResult::End::Killed, exitCode});
 }

@@ -8,7 +8,9 @@
 #include "PageStatus.h"
 #include "ui_SynthesisViewController.h"
 
+#include <QFileInfo>
 #include <QPointer>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +19,19 @@ namespace
 
 constexpr int usualRate = 175;
 constexpr qsizetype maxSubjectLength = 60;
+constexpr qsizetype maxTextBytes = 131'071; // of one argument, its end not counted
+constexpr auto speechCommand = "/usr/bin/say"_L1;
+
+// Our own program of that name speaks through another one.
+bool canSpeak()
+{
+    const QString program = programPath(speechCommand);
+    const bool isOwn = program != speechCommand;
+    return QFileInfo(program).isExecutable()
+        && (!isOwn
+            || !QStandardPaths::findExecutable(u"espeak-ng"_s, {u"/usr/bin"_s, u"/bin"_s})
+                    .isEmpty());
+}
 
 } // namespace
 
@@ -25,6 +40,7 @@ SynthesisViewController::SynthesisViewController(JobList &jobs, QWidget *parent)
       m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     ui->testButton->setIcon(namedImage(u"play"_s));
     ui->resetButton->setIcon(namedImage(u"reset"_s));
     connectButtons();
@@ -41,7 +57,30 @@ void SynthesisViewController::connectButtons()
     connect(ui->saveButton, &QPushButton::clicked, this, &SynthesisViewController::saveAction);
     connect(ui->rateSlider, &QSlider::valueChanged, ui->rateValueLabel,
             qOverload<int>(&QLabel::setNum));
+    connect(ui->textField, &QPlainTextEdit::textChanged, this,
+            &SynthesisViewController::sayWhatWillFail);
     PageStatus::pressOnReturn(*this, *ui->readButton);
+}
+
+// Reading aloud says nothing when it fails, so what is known to fail is said before.
+void SynthesisViewController::sayWhatWillFail()
+{
+    const QTextDocument &text = *ui->textField->document();
+    const bool mayBeLong = text.characterCount() > maxTextBytes / 4; // no character has more bytes
+    const qsizetype bytes = mayBeLong ? ui->textField->toPlainText().toUtf8().size() : 0;
+    if (!m_canSpeak)
+        ui->textHint->say(qtTrId("Speech.NoProgram"), *ui->textField);
+    else if (bytes > maxTextBytes)
+        ui->textHint->say(qtTrId("Speech.TooLong"), *ui->textField);
+    else
+        ui->textHint->say({}, *ui->textField);
+}
+
+void SynthesisViewController::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_canSpeak = canSpeak(); // it may have been installed meanwhile
+    sayWhatWillFail();
 }
 
 void SynthesisViewController::awakeFromNib()
@@ -92,7 +131,7 @@ bool SynthesisViewController::verify()
 // The text always comes first, whatever it begins with.
 Command SynthesisViewController::speak(const QString &text) const
 {
-    return {.launchPath = u"/usr/bin/say"_s,
+    return {.launchPath = speechCommand,
             .arguments = {text, u"--voice="_s + ui->voicePopUp->currentText(),
                           u"--rate="_s + QString::number(ui->rateSlider->value())}};
 }
@@ -108,7 +147,6 @@ Job SynthesisViewController::beginJob(const QString &text)
 QCoro::Task<> SynthesisViewController::read(QString text)
 {
     setStatus(false);
-    ui->showInFolderButton->withdraw();
     const QPointer<SynthesisViewController> self(this);
     Job job = beginJob(text);
 
@@ -117,12 +155,13 @@ QCoro::Task<> SynthesisViewController::read(QString text)
         co_return;
     job.end(result.outcome());
     setStatus(true);
+    if (result.outcome() == JobOutcome::Stopped)
+        ui->runLine->say(qtTrId("Run.Stopped"));
 }
 
 QCoro::Task<> SynthesisViewController::save(QString file)
 {
     setStatus(false);
-    ui->showInFolderButton->withdraw();
     const QPointer<SynthesisViewController> self(this);
     const QString text = ui->textField->toPlainText();
     Command command = speak(text);
@@ -135,9 +174,14 @@ QCoro::Task<> SynthesisViewController::save(QString file)
     job.end(result.outcome());
     if (result.succeeded())
         ui->showInFolderButton->offer(file);
-    MiscTool::showAlert(qtTrId(result.succeeded() ? "SaveSuc" : "SaveFail"), QString());
-    if (self)
-        setStatus(true);
+    const bool isStopped = result.outcome() == JobOutcome::Stopped;
+    if (!isStopped)
+        MiscTool::showAlert(qtTrId(result.succeeded() ? "SaveSuc" : "SaveFail"), QString());
+    if (!self)
+        co_return;
+    setStatus(true);
+    if (isStopped)
+        ui->runLine->say(qtTrId("Run.Stopped"));
 }
 
 void SynthesisViewController::setStatus(bool idle)
@@ -149,4 +193,8 @@ void SynthesisViewController::setStatus(bool idle)
     ui->resetButton->setEnabled(idle);
     ui->readButton->setEnabled(idle);
     ui->saveButton->setEnabled(idle);
+    if (!idle) { // what was said about the last run
+        ui->showInFolderButton->withdraw();
+        ui->runLine->withdraw();
+    }
 }

@@ -35,9 +35,13 @@ public:
     /// Whether there is a text to read; says so in a message box when there is none.
     bool verify();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void awakeFromNib();
     void connectButtons();
+    void sayWhatWillFail();
 
     QCoro::Task<> save(QString file); ///< A file at the path is replaced.
     Command speak(const QString &text) const;
@@ -46,4 +50,5 @@ private:
     std::unique_ptr<Ui::SynthesisViewController> ui;
     JobList &m_jobs;
     CommandRunner m_runner;
+    bool m_canSpeak = true;
 };

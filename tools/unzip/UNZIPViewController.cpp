@@ -18,6 +18,7 @@ UNZIPViewController::UNZIPViewController(JobList &jobs, QWidget *parent)
     : QWidget(parent), ui(std::make_unique<Ui::UNZIPViewController>()), m_jobs(jobs), m_runner(jobs)
 {
     ui->setupUi(this);
+    PageStatus::keepSpaceWhenHidden(*ui->runLine);
     connectButtons();
     awakeFromNib();
 }
@@ -36,6 +37,12 @@ void UNZIPViewController::connectButtons()
             [this] { watchPageAction(this, generateAction()); });
     PageStatus::pressOnReturn(*this, *ui->generateButton);
     ui->srcFolderField->takeDropsOf(*this);
+    ui->srcHint->watch(*ui->srcFolderField, PathUse::SourceFile);
+    ui->outputHint->watch(*ui->outputField, PathUse::OutputFolder);
+    ui->outputHint->setSource(*ui->srcFolderField, [this] {
+        const bool hasSource = !ui->srcFolderField->text().isEmpty();
+        return hasSource ? destination().value_or(QString()) : QString();
+    });
 }
 
 void UNZIPViewController::awakeFromNib()
@@ -70,6 +77,7 @@ void UNZIPViewController::clearAction()
 {
     ui->srcFolderField->clear();
     ui->outputField->clear();
+    ui->runLine->withdraw();
 }
 
 std::optional<QString> UNZIPViewController::destination() const
@@ -91,6 +99,7 @@ bool UNZIPViewController::verify()
 
 QCoro::Task<> UNZIPViewController::generateAction()
 {
+    PathField::expandHomeIn(*this);
     if (!verify())
         co_return;
     setStatus(false);
@@ -102,13 +111,22 @@ QCoro::Task<> UNZIPViewController::generateAction()
     Job job = m_jobs.begin({.page = objectName(), .title = qtTrId("Unzip"), .subject = archive});
 
     const CommandResult result = co_await m_runner.run(command, job);
+    if (self && !result.couldStart()) { // the page stays as it is until the next start
+        ui->progressIndicator->hide();
+        ui->runLine->say(qtTrId("Run.CouldNotStart").arg(u"unzip"_s));
+    }
     if (!self || !result.couldStart())
         co_return;
     job.end(result.outcome());
     ui->elapsedLabel->hold();
-    MiscTool::showAlert(qtTrId(result.succeeded() ? "UnzipSuc" : "UnzipFail"), QString());
-    if (self)
-        setStatus(true);
+    const bool isStopped = result.outcome() == JobOutcome::Stopped;
+    if (!isStopped)
+        MiscTool::showAlert(qtTrId(result.succeeded() ? "UnzipSuc" : "UnzipFail"), QString());
+    if (!self)
+        co_return;
+    setStatus(true);
+    if (isStopped)
+        ui->runLine->say(qtTrId("Unzip.Stopped"));
 }
 
 void UNZIPViewController::setStatus(bool idle)
@@ -118,4 +136,6 @@ void UNZIPViewController::setStatus(bool idle)
     ui->clearButton->setEnabled(idle);
     ui->generateButton->setEnabled(idle);
     PageStatus::setIdle(*ui->progressIndicator, idle);
+    if (!idle)
+        ui->runLine->withdraw();
 }

@@ -29,8 +29,9 @@ public:
     /// Shows the output folder, not the new folder in it, in the file manager. Never disabled.
     void openAction();
     void clearAction(); ///< Empties both fields.
-    /// Unpacks and ends after the message. If unzip cannot be started there is no message, and the
-    /// page stays busy. After a failure the new folder stays, with what is in it.
+    /// Unpacks and ends after the message, of which there is none if the run was stopped. If unzip
+    /// cannot be started there is no message either, and the page stays busy. After a failure the
+    /// new folder stays, with what is in it.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false). The two fields stay as they are.

@@ -9,8 +9,7 @@
 /// failure, which also goes to the log; ECANCELED if it was stopped. Blocks; any thread.
 ///
 /// What exists at `to` stays byte for byte (EEXIST), and nothing half-written is ever left at `to`
-/// or beside it. Afterwards `from` is gone, even if the file could not be placed, with two
-/// exceptions: it was stopped, or both paths name the same file, which then is in its place.
+/// or beside it. Afterwards the file is at one of the two paths: at `from` after any failure.
 ///
 /// A stop counts until the file gets its name. What the system is flushing to a slow disk just then
 /// is waited for.

@@ -93,7 +93,7 @@ int place(const QString &from, const QString &to, const std::stop_token &stop)
         == 0)
         return 0;
     const int error = errno == EEXIST ? EEXIST : copyTo(from, to, stop);
-    if (error != ECANCELED) // who stops a run loses nothing
+    if (error == 0)
         QFile::remove(from);
     return error;
 }

@@ -27,8 +27,9 @@ public:
     void outputAction(); ///< Chooses the file to write.
     void clearAction(); ///< Back to empty fields and the level "Faster".
     /// Packs as the form says, in the application's own folder, and then moves the archive to its
-    /// place. Ends after the message. If zip cannot be started there is no message, and the page
-    /// stays busy. A file at the output path is never replaced.
+    /// place. Ends after the message, of which there is none if the run was stopped. If zip cannot
+    /// be started there is no message either, and the page stays busy. A file at the output path is
+    /// never replaced; an archive that cannot be placed is kept, and the page offers another place.
     QCoro::Task<> generateAction();
 
     /// Idle (true) or working (false).
@@ -38,10 +39,23 @@ public:
     /// Whether the form may run; says in one message box what is missing first.
     bool verify();
 
+protected:
+    /// Offers an archive that an earlier start of the program left without a place.
+    void showEvent(QShowEvent *event) override;
+
 private:
     void awakeFromNib();
+    QCoro::Task<> placeKept(QString archive, QString output);
+    void showEnd(JobOutcome outcome, int error, const QString &kept, const QString &output);
+    void sayCouldNotStart();
+    void offerPlace(const QString &archive, const QString &text);
+    void offerNewest();
+    void choosePlace();
+    void askToDiscard();
+    void discard();
 
     std::unique_ptr<Ui::ZIPViewController> ui;
     JobList &m_jobs;
     CommandRunner m_runner;
+    QString m_unplaced; ///< The archive that the page offers another place for.
 };

@@ -6,6 +6,8 @@
 #include "Files.h"
 #include "PageControls.h"
 #include "PathField.h"
+#include "PathHint.h"
+#include "WithoutPrivilege.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -187,6 +189,122 @@ private Q_SLOTS:
             QVERIFY(drop(field, urls));
             QCOMPARE(field.text(), path(name));
             Files::write(field.text(), {}); // the next one makes way
+        }
+    }
+
+    // Before a run would show it. "@" stands for the test's folder.
+    void advice_data()
+    {
+        QTest::addColumn<PathUse>("use");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("advice");
+        using enum PathUse;
+        const auto row = [](PathUse use, const char *typed, const char *advice) {
+            QTest::addRow("%d %s", int(use), typed)
+                << use << QString::fromUtf8(typed) << QString::fromUtf8(advice);
+        };
+        row(SourceFolder, "", "");
+        row(SourceFolder, "@/a folder", "");
+        row(SourceFolder, "@/b.txt", "Path.NoFolder");
+        row(SourceFolder, "@/none", "Path.NoSuchFolder");
+        row(SourceFolder, "@/closed", "Path.Unreadable");
+        row(SourceFolder, ".", "Path.Relative");
+        row(SourceFile, "@/A.ZIP", "");
+        row(SourceFile, "@/a folder", "Path.NoFile");
+        row(SourceFile, "@/A", "Path.NoSuchFile");
+        row(SourceFile, "~/none", "Path.NoSuchFile");
+        row(NewFile, "@/new.zip", "");
+        row(NewFile, "@/b.txt", "Path.Taken");
+        row(NewFile, "@/dangling", "Path.Taken");
+        row(NewFile, "@/none/new.zip", "Path.NoPlace");
+        row(NewFile, "@/none/", "Path.NoPlace");
+        row(NewFile, "@/closed/new.zip", "Path.Unwritable");
+        row(NewFile, "new.zip", "Path.Relative");
+        row(ReplacedFile, "@/b.txt", "Path.Replaced");
+        row(ReplacedFile, "@/a folder", "Path.NoFile");
+        row(OutputFolder, "", "Path.CurrentFolder");
+        row(OutputFolder, "@/a folder", "Path.FolderTaken");
+        row(OutputFolder, "@/none/below", "Path.WillBeMade");
+        row(OutputFolder, "@/b.txt", "Path.NoFolder");
+        row(OutputFolder, "@/closed", "Path.Unwritable");
+    }
+
+    void advice()
+    {
+        QFETCH(PathUse, use);
+        QFETCH(QString, typed);
+        QFETCH(QString, advice);
+        QVERIFY(QDir(m_folder->path()).mkpath(u"a folder/A"_s));
+        QVERIFY(QFile::link(u"/nowhere"_s, path(u"dangling"_s)));
+        QVERIFY(QDir(m_folder->path()).mkdir(u"closed"_s)
+                && QFile::setPermissions(path(u"closed"_s), {}));
+        const WithoutPrivilege asOthers;
+        PathQuestion question{.use = use, .path = typed.replace(u'@', m_folder->path())};
+        question.path = withHomeFolder(question.path);
+        if (use == PathUse::OutputFolder)
+            question.made = question.path + u"/A"_s;
+        QCOMPARE(pathAdvice(question, pathFacts(question)), advice);
+    }
+
+    void noRoom()
+    {
+        PathQuestion question{.use = PathUse::NewFile, .path = path(u"new"_s)};
+        PathFacts facts = pathFacts(question);
+        QVERIFY(facts.available);
+        for (const auto &[needed, advice] : {std::pair(*facts.available, QString()),
+                                             std::pair(*facts.available + 1, u"Path.NoRoom"_s)}) {
+            question.needed = needed;
+            QCOMPARE(pathAdvice(question, facts), advice);
+        }
+    }
+
+    // Never while it is typed, about the last text alone, and for a screen reader, too.
+    void hintFollowsTheField()
+    {
+        QLineEdit source(m_page);
+        auto *field = new PathField(m_page);
+        auto *hint = new PathHint(m_page);
+        hint->show();
+        hint->watch(*field, PathUse::NewFile);
+        hint->setSource(source);
+        const QSize room = hint->sizeHint();
+        source.setText(m_folder->path());
+        field->setText(path(u"b.txt"_s));
+        field->setText(path(u"none/b.txt"_s));
+        QVERIFY(hint->text().isEmpty()); // nothing was asked yet
+        QTRY_COMPARE(hint->text(), u"Path.NoPlace"_s);
+        QCOMPARE(field->accessibleDescription(), u"Path.NoPlace"_s);
+        QCOMPARE(hint->sizeHint(), room); // nothing moves
+        field->setText(path(u"c.txt"_s));
+        QVERIFY(hint->text().isEmpty() && field->accessibleDescription().isEmpty());
+        QTest::qWait(300); // it has nothing to say
+        QVERIFY(hint->text().isEmpty());
+        Files::write(path(u"c.txt"_s), {}); // by another program, while the user is there
+        QWidget other;
+        other.show();
+        other.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&other));
+        m_window->activateWindow();
+        QTRY_COMPARE(hint->text(), u"Path.Taken"_s);
+        field->setText(path(u"a"_s));
+        QTest::qWait(210);
+        delete hint; // in the middle of it
+        delete field;
+    }
+
+    void homeIsWrittenOut()
+    {
+        PathField field(m_page);
+        field.show();
+        for (const auto &[typed, whole] :
+             {std::pair(u"~/a"_s, QDir::homePath() + u"/a"_s), std::pair(u"~a/b"_s, u"~a/b"_s),
+              std::pair(u"/x/~/a"_s, u"/x/~/a"_s)}) {
+            field.setText(typed);
+            QTest::keyClick(&field, Qt::Key_Return);
+            QCOMPARE(field.text(), whole);
+            field.setText(typed);
+            PathField::expandHomeIn(*m_page);
+            QCOMPARE(field.text(), whole);
         }
     }
 

@@ -8,7 +8,10 @@
 #include "SynthesisViewController.h"
 
 #include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
 #include <QPlainTextEdit>
+#include <QScopeGuard>
 #include <QSlider>
 
 using namespace PageControls;
@@ -34,6 +37,29 @@ private Q_SLOTS:
         QCOMPARE(m_boxes->texts, QStringList{u"TextNullAlert"_s});
         QVERIFY(m_page->focusWidget() != &textField()); // not when the box has gone, either
         QVERIFY(m_jobs.isEmpty());
+    }
+
+    // One argument holds 131,071 bytes; reading would fail without a word.
+    void saysBeforeWhatWillFail()
+    {
+        const auto &hint = control<QLabel>(*m_page, "textHint");
+        for (const auto &[text, advice] :
+             {std::pair(QString(131'071, u'x'), QString()),
+              std::pair(QString(131'072, u'x'), u"Speech.TooLong"_s),
+              std::pair(QString(43'690, u'日'), QString()), // of three bytes each
+              std::pair(QString(43'691, u'日'), u"Speech.TooLong"_s)}) {
+            textField().setPlainText(text);
+            QCOMPARE(hint.text(), advice);
+            QCOMPARE(textField().accessibleDescription(), advice);
+        }
+        textField().setPlainText(u"short"_s);
+        const QString program = programPath(u"/usr/bin/say"_s);
+        const auto permissions = QFile::permissions(program);
+        const auto restored = qScopeGuard([&] { QFile::setPermissions(program, permissions); });
+        QVERIFY(QFile::setPermissions(program, QFile::ReadOwner)); // as good as missing
+        m_page->hide();
+        m_page->show();
+        QCOMPARE(hint.text().isEmpty(), QFileInfo(u"/usr/bin/say"_s).isExecutable());
     }
 
     void goesWhileItRefuses()

@@ -6,10 +6,15 @@
 #include "MessageBoxes.h"
 #include "MiscTool.h"
 #include "PageControls.h"
+#include "RunLine.h"
+#include "ShowInFolderButton.h"
+#include "UnplacedArchives.h"
 #include "ZIPViewController.h"
 
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
+#include <QMessageBox>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -73,7 +78,7 @@ private Q_SLOTS:
         QCOMPARE(namesInArchive(archive),
                  QStringList({u"-dash"_s, u"deep/"_s, u"deep/"_s + QString(255, u'n'),
                               u"it's \"quoted\" 🎈"_s, u"one.txt"_s}));
-        QVERIFY(documents().isEmpty(QDir::Files));
+        QVERIFY(documents().isEmpty());
     }
 
     void packsWithTheChosenLevelAndReplacesNothing()
@@ -115,12 +120,13 @@ private Q_SLOTS:
         press(*m_page, "generateButton");
         QTRY_VERIFY(!m_jobs.isEmpty()); // the archive has no name yet
         m_jobs.stopAll();
-        QTRY_COMPARE(m_boxes->texts, QStringList(u"ZipFail"_s));
-        QVERIFY(!QFile::exists(output()));
+        QTRY_VERIFY(m_page->findChild<RunLine *>()->isVisible());
+        QCOMPARE(said(), u"Run.Stopped"_s);
+        QVERIFY(m_boxes->texts.isEmpty() && !QFile::exists(output()));
     }
 
-    // What comes after zip is not judged.
-    void aFullDiskOrMissingFolderAtTheOutputStillReportsSuccess()
+    // What comes after zip is not judged, but the archive is not lost.
+    void whatItsPlaceRefusesIsKept()
     {
         const QString full = m_folder.filePath(u"full"_s);
         const QByteArray place = QFile::encodeName(full);
@@ -130,12 +136,41 @@ private Q_SLOTS:
         const auto unmount = qScopeGuard([&] { ::umount2(place.constData(), MNT_DETACH); });
         write(u"source/noise"_s, QByteArray(1 << 20, 'x'));
         control<QComboBox>(*m_page, "ratioPopUp").setCurrentIndex(0);
-        for (const QString &folder : {full, full + u"/nowhere"_s}) {
-            fill(*m_page, "outputField", folder + u"/out.zip"_s);
+        for (const auto &[target, reason] :
+             {std::pair(full + u"/out.zip"_s, u"Zip.NotSaved.NoRoom"_s),
+              std::pair(full + u"/nowhere/out.zip"_s, u"Zip.NotSaved.NoFolder"_s),
+              std::pair(m_folder.filePath(u"new/"_s), u"Zip.NotSaved.NoFolder"_s)}) {
+            fill(*m_page, "outputField", target);
             packAndExpect(u"ZipSuc"_s);
+            QTRY_COMPARE(said(), reason);
             QVERIFY(QDir(full).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden));
-            QVERIFY(documents().isEmpty());
+            QVERIFY(!documents().exists(u"out.zip"_s)); // no later run adds to it
         }
+        // At the next start the page offers what was left; and each is placed whole, once.
+        m_page = std::make_unique<ZIPViewController>(m_jobs);
+        m_page->show();
+        for (const QString &name : {u"c.zip"_s, u"b.zip"_s}) {
+            QCOMPARE(said(), u"Zip.NotSaved"_s);
+            press(*m_page, "placeButton");
+            answerChooser(*m_page, "saveChooser", m_folder.filePath(name));
+            QTRY_VERIFY(m_jobs.isEmpty());
+            QVERIFY(namesInArchive(m_folder.filePath(name)).contains(u"one.txt"_s));
+            m_page->hide();
+            m_page->findChild<ShowInFolderButton *>()->withdraw();
+            m_page->show();
+        }
+        for (const auto role : {QMessageBox::RejectRole, QMessageBox::DestructiveRole}) {
+            QVERIFY(!UnplacedArchives::newest().isEmpty());
+            press(*m_page, "discardButton");
+            const auto &question = control<QMessageBox>(*m_page, "discardQuestion");
+            for (QAbstractButton *button : question.buttons()) {
+                if (question.buttonRole(button) == role)
+                    button->click();
+            }
+            QTRY_VERIFY(!m_page->findChild<QMessageBox *>());
+        }
+        QVERIFY(UnplacedArchives::newest().isEmpty());
+        QVERIFY(!m_page->findChild<RunLine *>()->isVisible());
     }
 
     void aFileThatAppearedMeanwhileStays()
@@ -144,16 +179,17 @@ private Q_SLOTS:
         write(u"out.zip"_s, "somebody else's");
         QTRY_COMPARE(m_boxes->texts.size(), 1);
         QCOMPARE(Files::read(output()), "somebody else's");
+        QTRY_COMPARE(said(), u"Zip.NotSaved.Taken"_s);
     }
 
-    void aStoppedPlacementIsAFailure()
+    void aStoppedPlacementKeepsTheArchive()
     {
         QSignalSpy ended(&m_jobs, &JobList::jobEnded);
         onceZipHasEnded([this] { m_jobs.stopAll(); });
         QCOMPARE(ended.first().at(1).value<JobOutcome>(), JobOutcome::Stopped);
-        QCOMPARE(m_boxes->texts, QStringList{u"ZipFail"_s});
-        QVERIFY(!QFile::exists(output()));
-        QVERIFY(documents().exists(u"out.zip"_s)); // which may have been there before
+        QVERIFY(m_boxes->texts.isEmpty() && !QFile::exists(output()));
+        QCOMPARE(said(), u"Zip.NotSaved.Stopped"_s);
+        QVERIFY(namesInArchive(UnplacedArchives::newest()).contains(u"one.txt"_s));
     }
 
     void anAbandonedPageLeavesAFinishedArchiveItsWay()
@@ -168,6 +204,7 @@ private Q_SLOTS:
 
 private:
     static QDir documents() { return QDir(MiscTool::getAppDocumentFolder()); }
+    QString said() const { return control<QLabel>(*m_page, "runText").text(); }
     QString output() const { return m_folder.filePath(u"out.zip"_s); }
     void write(const QString &name, const QByteArray &content) const
     {
