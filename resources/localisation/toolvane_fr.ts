@@ -277,11 +277,11 @@
     </message>
     <message id="Jobs.Left.Hours">
         <source>about %1 h left</source>
-        <translation>reste environ %1 h</translation>
+        <translation>reste env. %1 h</translation>
     </message>
     <message id="Jobs.Left.Minutes">
         <source>about %1 min left</source>
-        <translation>reste environ %1 min</translation>
+        <translation>reste env. %1 min</translation>
     </message>
     <message id="Jobs.Name">
         <source>Running work</source>

@@ -273,15 +273,15 @@
     </message>
     <message id="Jobs.Left">
         <source>%1 left</source>
-        <translation>pozostało %1</translation>
+        <translation>zostało %1</translation>
     </message>
     <message id="Jobs.Left.Hours">
         <source>about %1 h left</source>
-        <translation>pozostało ok. %1 godz.</translation>
+        <translation>zostało ok. %1 godz.</translation>
     </message>
     <message id="Jobs.Left.Minutes">
         <source>about %1 min left</source>
-        <translation>pozostało ok. %1 min</translation>
+        <translation>zostało ok. %1 min</translation>
     </message>
     <message id="Jobs.Name">
         <source>Running work</source>

@@ -277,11 +277,11 @@
     </message>
     <message id="Jobs.Left.Hours">
         <source>about %1 h left</source>
-        <translation>faltam cerca de %1 h</translation>
+        <translation>faltam umas %1 h</translation>
     </message>
     <message id="Jobs.Left.Minutes">
         <source>about %1 min left</source>
-        <translation>faltam cerca de %1 min</translation>
+        <translation>faltam uns %1 min</translation>
     </message>
     <message id="Jobs.Name">
         <source>Running work</source>

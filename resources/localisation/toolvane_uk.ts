@@ -273,15 +273,15 @@
     </message>
     <message id="Jobs.Left">
         <source>%1 left</source>
-        <translation>лишилося %1</translation>
+        <translation>ще %1</translation>
     </message>
     <message id="Jobs.Left.Hours">
         <source>about %1 h left</source>
-        <translation>лишилося близько %1 год</translation>
+        <translation>ще близько %1 год</translation>
     </message>
     <message id="Jobs.Left.Minutes">
         <source>about %1 min left</source>
-        <translation>лишилося близько %1 хв</translation>
+        <translation>ще близько %1 хв</translation>
     </message>
     <message id="Jobs.Name">
         <source>Running work</source>

@@ -47,7 +47,7 @@ public:
 private:
     friend class JobList;
     struct Listed;
-    void change(const std::function<void(RunningJob &)> &change);
+    void update(const std::function<void(RunningJob &)> &change);
 
     std::shared_ptr<Listed> m_listed;
 };

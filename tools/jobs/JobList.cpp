@@ -33,7 +33,7 @@ std::stop_token Job::stopToken() const
     return m_listed ? m_listed->stop.get_token() : std::stop_token();
 }
 
-void Job::change(const std::function<void(RunningJob &)> &change)
+void Job::update(const std::function<void(RunningJob &)> &change)
 {
     JobList *list = m_listed ? m_listed->list.data() : nullptr;
     if (!list)
@@ -47,12 +47,12 @@ void Job::change(const std::function<void(RunningJob &)> &change)
 
 void Job::setProgress(quint64 done, quint64 total)
 {
-    change([=](RunningJob &job) { job.progress.set(done, total, job.started.elapsed()); });
+    update([=](RunningJob &job) { job.progress.set(done, total, job.started.elapsed()); });
 }
 
 void Job::setItems(quint64 items, quint64 bytes)
 {
-    change([=](RunningJob &job) { job.progress.setItems(items, bytes); });
+    update([=](RunningJob &job) { job.progress.setItems(items, bytes); });
 }
 
 void Job::end(JobOutcome outcome)
