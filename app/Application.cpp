@@ -5,6 +5,7 @@
 #include "NamedImage.h"
 #include "Notifier.h"
 #include "SingleInstance.h"
+#include "TaskBar.h"
 #include "Tool.h"
 
 #include <QApplication>
@@ -75,6 +76,7 @@ Application::Application()
                                                       m_window.tableView());
     m_window.connectTools(*m_tools);
     m_notifier = std::make_unique<Notifier>(m_jobs, m_window);
+    m_taskBar = std::make_unique<TaskBar>(m_jobs);
     QObject::connect(m_notifier.get(), &Notifier::pageWanted, &m_window,
                      [this](const QString &page, const QString &activationToken) {
                          if (isQuitting()) // a notification can stay longer than its page

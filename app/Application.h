@@ -9,6 +9,7 @@
 class HoverTableAppDelegate;
 class LoginDelegate;
 class Notifier;
+class TaskBar;
 struct StartRequest;
 
 /// All objects of the running program, made and connected in the right order: the windows, the
@@ -49,4 +50,5 @@ private:
     std::unique_ptr<LoginDelegate> m_loginWindow;
     std::unique_ptr<HoverTableAppDelegate> m_tools;
     std::unique_ptr<Notifier> m_notifier;
+    std::unique_ptr<TaskBar> m_taskBar;
 };

@@ -5,6 +5,7 @@
 
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -28,15 +29,54 @@ constexpr int stopIconSize = 18;
 constexpr int textMargin = 10;
 constexpr int topMargin = 5;
 constexpr int gap = 8;
+constexpr int barHeight = 6;
+
+// Assistive programs get a tenth at a time, the eye each percent.
+class JobBar : public QProgressBar
+{
+public:
+    JobBar(const QString &title, QWidget *parent) : QProgressBar(parent)
+    {
+        setAccessibleName(title);
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setTextVisible(false);
+        setFixedHeight(barHeight);
+        setRange(0, 100);
+        hide();
+    }
+
+    void setPercent(std::optional<int> percent)
+    {
+        setVisible(percent.has_value());
+        if (std::exchange(m_percent, percent.value_or(0)) != m_percent)
+            update();
+        setValue(m_percent / 10 * 10);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionProgressBar *option) const override
+    {
+        QProgressBar::initStyleOption(option);
+        option->progress = m_percent;
+    }
+
+private:
+    int m_percent = 0;
+};
 
 // Names the job: its title and how long it has run, and below them what it is done to, shortened in
-// the middle. What it says can change every second without any layout being done again.
+// the middle, or how far it is as soon as that is known, with a bar: a page has one run at a time,
+// so that the title is enough to tell jobs apart. What it says can change every second without any
+// layout being done again.
 class JobRowButton : public QPushButton
 {
 public:
     JobRowButton(const QString &title, const QString &subject, QWidget *parent)
-        : QPushButton(parent), m_title(title), m_subject(subject)
+        : QPushButton(parent), m_title(title), m_subject(subject), m_bar(new JobBar(title, this))
     {
+        auto *layout = new QVBoxLayout(this);
+        layout->setContentsMargins(textMargin, 0, textMargin, topMargin);
+        layout->addWidget(m_bar, 0, Qt::AlignBottom);
         setFlat(true);
         setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
         setAccessibleName(subject.isEmpty() ? title : title + u": "_s + subject);
@@ -50,7 +90,17 @@ public:
             update();
     }
 
-    QSize minimumSizeHint() const override { return {0, 2 * (fontMetrics().height() + topMargin)}; }
+    void setProgress(const JobProgress &progress)
+    {
+        m_bar->setPercent(progress.percent());
+        if (std::exchange(m_progress, progress.text()) != m_progress)
+            update();
+    }
+
+    QSize minimumSizeHint() const override
+    {
+        return {0, 2 * (fontMetrics().height() + topMargin) + barHeight};
+    }
     QSize sizeHint() const override;
 
 protected:
@@ -61,6 +111,8 @@ private:
     QString m_title;
     QString m_subject;
     QString m_elapsed;
+    QString m_progress;
+    JobBar *m_bar;
 };
 
 QSize JobRowButton::sizeHint() const
@@ -73,7 +125,9 @@ QSize JobRowButton::sizeHint() const
 // Set when the focus comes, not every second: a screen reader would read out the seconds.
 void JobRowButton::focusInEvent(QFocusEvent *event)
 {
-    setAccessibleDescription(m_elapsed + u". "_s + qtTrId("Jobs.Show.Tip"));
+    QStringList parts{m_elapsed, m_progress, qtTrId("Jobs.Show.Tip")};
+    parts.removeAll(QString());
+    setAccessibleDescription(parts.join(u". "_s));
     QPushButton::focusInEvent(event);
 }
 
@@ -83,7 +137,7 @@ void JobRowButton::paintEvent(QPaintEvent *)
     initStyleOption(&option);
     QStylePainter painter(this);
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
-    const QRect inner = rect().adjusted(textMargin, topMargin, -textMargin, -topMargin);
+    const QRect inner = rect().adjusted(textMargin, topMargin, -textMargin, -topMargin - barHeight);
     QRect line = inner;
     line.setHeight(inner.height() / 2);
     const auto draw = [&](const QString &text, Qt::Alignment side, QPalette::ColorRole role) {
@@ -100,20 +154,22 @@ void JobRowButton::paintEvent(QPaintEvent *)
          QPalette::WindowText);
 
     line.moveBottom(inner.bottom());
-    draw(fontMetrics().elidedText(m_subject, Qt::ElideMiddle, inner.width()), Qt::AlignLeft,
+    const QString &below = m_progress.isEmpty() ? m_subject : m_progress;
+    draw(fontMetrics().elidedText(below, Qt::ElideMiddle, inner.width()), Qt::AlignLeft,
          QPalette::PlaceholderText);
 }
 
 } // namespace
 
 // One running job: a button that names the job and leads to its page, and a button that stops it.
-// It shows the job as it was at first; the row does not follow the list.
+// It shows the job as it was at first, apart from how far it is.
 class JobRow : public QWidget
 {
 public:
     JobRow(const RunningJob &job, JobList &jobs, JobStrip &strip);
 
     JobId id() const { return m_id; }
+    void showProgress(const JobProgress &progress) { m_button->setProgress(progress); }
     void showElapsed() { m_button->setElapsed(elapsedText(m_started.elapsed())); }
 
 protected:
@@ -140,6 +196,7 @@ JobRow::JobRow(const RunningJob &job, JobList &jobs, JobStrip &strip)
     layout->addWidget(m_button, 1);
     layout->addWidget(makeStopButton(job.description.title, jobs));
     showElapsed();
+    showProgress(job.progress);
 }
 
 QPushButton *JobRow::makeStopButton(const QString &title, JobList &jobs)
@@ -195,6 +252,7 @@ void JobStrip::setJobs(JobList &jobs)
 {
     m_jobs = &jobs;
     connect(&jobs, &JobList::changed, this, &JobStrip::updateRows);
+    connect(&jobs, &JobList::progressed, this, &JobStrip::showProgress);
     updateRows();
 }
 
@@ -247,6 +305,13 @@ void JobStrip::addRow(const RunningJob &job)
     auto *row = new JobRow(job, *m_jobs, *this);
     widget()->layout()->addWidget(row);
     m_rows.push_back(row);
+}
+
+void JobStrip::showProgress(JobId id)
+{
+    const auto row = std::ranges::find(m_rows, id, &JobRow::id);
+    if (row != m_rows.end())
+        (*row)->showProgress(m_jobs->find(id)->progress);
 }
 
 void JobStrip::showElapsed()

@@ -36,6 +36,7 @@ private:
     void removeEnded();
     void addRows();
     void addRow(const RunningJob &job);
+    void showProgress(JobId id);
     void showElapsed();
 
     JobList *m_jobs = nullptr;

@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>ينشئ من مجلد صورة قرص مدمج (ISO) تستطيع كل أنظمة سطح المكتب قراءتها.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>العناصر: %1، %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>المتبقي %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>المتبقي نحو %1 ساعة</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>المتبقي نحو %1 دقيقة</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>الأعمال الجارية</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

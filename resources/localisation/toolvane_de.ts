@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Erstellt aus einem Ordner ein CD-Abbild (ISO), das jedes Desktop-System lesen kann.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1 Objekte, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>noch %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>noch etwa %1 Std.</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>noch etwa %1 Min.</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Laufende Vorgänge</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Crea a partir de una carpeta una imagen de CD (ISO) que cualquier sistema puede leer.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1 elementos, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>quedan %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>quedan unas %1 h</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>quedan unos %1 min</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Tareas en curso</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Crée à partir d’un dossier une image de CD (ISO) lisible par tous les systèmes.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1 éléments, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>reste %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>reste env. %1 h</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>reste env. %1 min</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Tâches en cours</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Crea da una cartella un’immagine CD (ISO) leggibile da qualsiasi sistema desktop.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1 elementi, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>ancora %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>ancora circa %1 h</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>ancora circa %1 min</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Attività in corso</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

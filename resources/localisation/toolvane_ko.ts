@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>모든 데스크톱 시스템에서 읽을 수 있는 CD 이미지(ISO)를 폴더로 만듭니다.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1개 항목, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>%1 남음</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>약 %1시간 남음</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>약 %1분 남음</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>진행 중인 작업</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

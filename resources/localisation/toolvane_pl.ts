@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Tworzy z katalogu obraz płyty CD (ISO), który odczyta każdy system.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>Elementy: %1, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>zostało %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>zostało ok. %1 godz.</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>zostało ok. %1 min</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Zadania w toku</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Bir klasörden her masaüstü sisteminin okuyabildiği bir CD kalıbı (ISO) oluşturur.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1 öge, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>%1 kaldı</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>yaklaşık %1 sa kaldı</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>yaklaşık %1 dk kaldı</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Süren işler</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%%1</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

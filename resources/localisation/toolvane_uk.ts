@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>Створює з теки образ компакт-диска (ISO), який читається в кожній настільній системі.</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>Об’єктів: %1, %2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>ще %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>ще близько %1 год</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>ще близько %1 хв</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>Поточні завдання</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1 %</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

@@ -267,9 +267,29 @@
         <source>Makes a CD image (ISO) of a folder that every desktop system can read.</source>
         <translation>将文件夹制作成各种桌面系统都能读取的光盘映像 (ISO)。</translation>
     </message>
+    <message id="Jobs.Items">
+        <source>%1 items, %2</source>
+        <translation>%1 项，%2</translation>
+    </message>
+    <message id="Jobs.Left">
+        <source>%1 left</source>
+        <translation>剩余 %1</translation>
+    </message>
+    <message id="Jobs.Left.Hours">
+        <source>about %1 h left</source>
+        <translation>剩余约 %1 小时</translation>
+    </message>
+    <message id="Jobs.Left.Minutes">
+        <source>about %1 min left</source>
+        <translation>剩余约 %1 分钟</translation>
+    </message>
     <message id="Jobs.Name">
         <source>Running work</source>
         <translation>正在进行的任务</translation>
+    </message>
+    <message id="Jobs.Percent">
+        <source>%1 %</source>
+        <translation>%1%</translation>
     </message>
     <message id="Jobs.Show.Tip">
         <source>Shows the page of this run</source>

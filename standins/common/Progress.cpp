@@ -1,14 +1,18 @@
 #include "Progress.h"
 
+#include "EndOnSignal.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <condition_variable>
 #include <cstdlib>
 #include <cstring>
 #include <string>
+#include <system_error>
 
 namespace standin
 {
@@ -20,6 +24,7 @@ constexpr char variable[] = "TOOLVANE_PROGRESS_FD";
 
 // Eight lines a second leave room for the last one, which comes whenever the work is done.
 constexpr auto lineInterval = std::chrono::milliseconds(125);
+constexpr auto countingDelay = std::chrono::milliseconds(500);
 
 // The number in the environment, which does not keep it; -1: none.
 int takeNumber()
@@ -56,6 +61,29 @@ Progress::Progress()
     const int number = takeNumber();
     if (isWritablePipe(number))
         m_pipe = openedAnew(FileDescriptor(number));
+}
+
+std::jthread Progress::countBeside(const Count &count)
+{
+    if (!isWanted())
+        return {};
+    const EndingHeldBack held;
+    const auto countLater = [this, count](const std::stop_token &stop) {
+        std::mutex unused;
+        std::unique_lock lock(unused);
+        if (std::condition_variable_any().wait_for(lock, stop, countingDelay,
+                                                   [&stop] { return stop.stop_requested(); }))
+            return;
+        try {
+            setTotal(count(stop));
+        } catch (const std::exception &) { // the work itself is done all the same
+        }
+    };
+    try {
+        return std::jthread(countLater);
+    } catch (const std::system_error &) { // no more threads
+        return {};
+    }
 }
 
 void Progress::add(std::uint64_t bytes)

@@ -5,7 +5,10 @@
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <mutex>
+#include <stop_token>
+#include <thread>
 
 namespace standin
 {
@@ -30,6 +33,12 @@ public:
     /// Before this no line is written. What is done beyond the total is not told.
     void setTotal(std::uint64_t bytes) { m_total = bytes; }
     std::uint64_t total() const { return m_total; } ///< 0: not known yet
+
+    /// Counts the total while the work is done, in a thread that no ending signal reaches, and only
+    /// if the work takes long enough for somebody to want to know: with many small files, counting
+    /// is a tenth of it. If counting fails, no line is written. The thread's end stops it.
+    using Count = std::function<std::uint64_t(const std::stop_token &)>;
+    [[nodiscard]] std::jthread countBeside(const Count &count);
 
     void add(std::uint64_t bytes);
     void setDone(std::uint64_t bytes);

@@ -1,6 +1,5 @@
 #include "HfsImage.h"
 
-#include "EndOnSignal.h"
 #include "Failure.h"
 #include "HfsNames.h"
 #include "HfsVolume.h"
@@ -10,12 +9,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
-#include <chrono>
-#include <condition_variable>
 #include <cstdio>
-#include <mutex>
-#include <system_error>
-#include <thread>
 
 using standin::FileDescriptor;
 
@@ -161,41 +155,14 @@ void FolderPacker::warnOfSkipped() const
                  m_firstSkipped.c_str(), m_skipped);
 }
 
-constexpr auto countingDelay = std::chrono::milliseconds(500);
-
-// Counts what there is to pack while it is packed, in a thread that no ending signal reaches, and
-// only if packing takes long enough for somebody to ask how far it is: with many small files,
-// counting is a tenth of the work. If it fails, the image is made all the same.
-std::jthread countBeside(const FileDescriptor &folder, const std::string &path,
-                         standin::Progress &progress)
-{
-    if (!progress.isWanted())
-        return {};
-    const standin::EndingHeldBack held;
-    const auto count = [&progress, path](const std::stop_token &stop, const FileDescriptor &root) {
-        std::mutex unused;
-        std::unique_lock lock(unused);
-        if (std::condition_variable_any().wait_for(lock, stop, countingDelay,
-                                                   [&stop] { return stop.stop_requested(); }))
-            return;
-        try {
-            progress.setTotal(source::contentSize(root, path, hfs::blockSize, stop));
-        } catch (const std::exception &) {
-        }
-    };
-    try {
-        return std::jthread(count, source::openFolder(folder, ".", path));
-    } catch (const std::system_error &) { // no more threads
-        return {};
-    }
-}
-
 } // namespace
 
 void writeHfsImage(FileDescriptor folder, const std::string &source, const std::string &volumeName,
                    const standin::OutputFile &output, standin::Progress &progress)
 {
-    const auto counting = countBeside(folder, source, progress);
+    const auto counting = progress.countBeside([&source](const std::stop_token &stop) {
+        return source::contentSize(source::openRoot(source), source, hfs::blockSize, stop);
+    });
     hfs::ImageFile image(output.descriptor(), output.target(), &progress);
     hfs::Volume volume(image, hfs::volumeName(volumeName), source::statusOf(folder, source));
     FolderPacker packer(volume, image, output);

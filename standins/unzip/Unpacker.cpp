@@ -125,7 +125,10 @@ void Unpacker::unpackFile(EntryData &data, const Entry &entry)
         return;
     }
     try {
-        const auto write = [&](std::string_view part) { writeFully(file, part, entry); };
+        const auto write = [&](std::string_view part) {
+            writeFully(file, part, entry);
+            m_progress.add(part.size());
+        };
         if (bytes)
             write(*bytes);
         else if (!data.readPieces(entry, write))

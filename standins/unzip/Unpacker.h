@@ -3,6 +3,7 @@
 #include "Contents.h"
 #include "Destination.h"
 #include "EntryData.h"
+#include "Progress.h"
 #include "Report.h"
 
 #include <atomic>
@@ -16,8 +17,9 @@ class Unpacker
 {
 public:
     Unpacker(const ArchiveFile &file, const Contents &contents, Destination &destination,
-             archive::Report &report)
-        : m_file(file), m_contents(contents), m_destination(destination), m_report(report)
+             archive::Report &report, standin::Progress &progress)
+        : m_file(file), m_contents(contents), m_destination(destination), m_report(report),
+          m_progress(progress)
     {
     }
 
@@ -39,6 +41,7 @@ private:
     const Contents &m_contents;
     Destination &m_destination;
     archive::Report &m_report;
+    standin::Progress &m_progress;
     std::vector<const Entry *> m_files;
     std::vector<const Entry *> m_links;
     std::vector<const Entry *> m_folders;

@@ -30,22 +30,26 @@ std::uint64_t sizeOf(const Contents &contents)
     return sum;
 }
 
-int unpack(const ArchiveFile &file, const std::string &folder, archive::Report &report)
+int unpack(const ArchiveFile &file, const std::string &folder, archive::Report &report,
+           Progress &progress)
 {
     const Contents contents = Contents::read(file, report);
     if (contents.entries.empty() && report.status() == 0)
         report.leftOut(SomethingLeftOut, file.path, "The archive is empty");
     Destination destination(folder);
+    progress.setTotal(sizeOf(contents));
     if (sizeOf(contents) > destination.room())
         failAs(NoRoom, folder, "No space left on device for what the archive holds");
     if (contents.isEncrypted || contents.hasUnknownMethod)
         return unpackWithOtherProgram(file, contents, destination, folder, report);
-    Unpacker(file, contents, destination, report).unpack();
+    Unpacker(file, contents, destination, report, progress).unpack();
+    progress.finish();
     return report.status();
 }
 
 int unpack(const std::string &archive, const std::string &folder, archive::Report &report)
 {
+    Progress progress;
     ::mallopt(M_MMAP_THRESHOLD, 128 * 1024); // fixed, so that larger buffers go back at once
     requireRegularFile(archive);
     const FileDescriptor file(::open(archive.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
@@ -54,7 +58,7 @@ int unpack(const std::string &archive, const std::string &folder, archive::Repor
         failWithError(archive, errno);
     try {
         return unpack({file.number(), static_cast<std::uint64_t>(status.st_size), archive}, folder,
-                      report);
+                      report, progress);
     } catch (const std::bad_alloc &) {
         failAs(NoMemory, archive, "Not enough memory");
     }

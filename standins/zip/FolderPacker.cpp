@@ -12,6 +12,8 @@
 
 #include <malloc.h>
 
+#include <utility>
+
 namespace
 {
 
@@ -26,9 +28,26 @@ std::size_t memoryForTurns(unsigned threads)
     return 64 * megabyte - own + threads * eachThread;
 }
 
+// What there is to pack. It must not take so many descriptors that the packing itself has too few.
+std::uint64_t contentSize(const std::stop_token &stop)
+{
+    constexpr std::size_t maxLevels = 100;
+    archive::Report report("zip", archive::Report::Lines::Hidden);
+    FolderWalk walk(report, maxLevels);
+    std::uint64_t size = 0;
+    while (const auto item = walk.next()) {
+        if (item->folder)
+            size += static_cast<std::uint64_t>(item->status.st_size);
+        if (stop.stop_requested())
+            break;
+    }
+    return stop.stop_requested() || report.status() != 0 ? 0 : size; // not all of it: no total
+}
+
 } // namespace
 
-void packCurrentFolder(const std::string &target, Level level, archive::Report &report)
+void packCurrentFolder(const std::string &target, Level level, archive::Report &report,
+                       standin::Progress &progress)
 {
     ::mallopt(M_MMAP_THRESHOLD, 128 * 1024); // fixed, so that larger buffers go back at once
     FolderWalk walk(report);
@@ -39,12 +58,15 @@ void packCurrentFolder(const std::string &target, Level level, archive::Report &
     ArchiveWriter writer(archive);
     TurnQueue queue(writer, budget);
 
+    const auto counting = progress.countBeside(contentSize);
     archive::onAllProcessors(
         [&] {
             Packer packer(level, report);
             while (auto turn = source.next(packer.input())) {
                 const auto [number, reserved] = std::pair(turn->number, turn->reserved);
-                queue.put(number, packer.pack(std::move(*turn)), reserved);
+                PackedTurn packed = packer.pack(std::move(*turn));
+                progress.add(packed.size);
+                queue.put(number, std::move(packed), reserved);
             }
         },
         [&budget] { budget.close(); });

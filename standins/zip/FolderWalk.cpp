@@ -14,7 +14,6 @@
 namespace
 {
 
-constexpr std::size_t maxLevels = 1000; // each keeps a descriptor and some 16 KiB
 constexpr std::size_t maxNameLength = 65535; // of the format
 
 OpenFolder openFolder(int parent, const char *leaf)
@@ -33,7 +32,8 @@ bool isDots(std::string_view name)
 
 } // namespace
 
-FolderWalk::FolderWalk(archive::Report &report) : m_report(report)
+FolderWalk::FolderWalk(archive::Report &report, std::size_t levels)
+    : m_report(report), m_maxLevels(levels)
 {
     archive::allowDeepFolders();
     open(AT_FDCWD, ".", std::nullopt);
@@ -112,7 +112,7 @@ void FolderWalk::open(int parent, const char *leaf, std::optional<Id> id)
     const std::string &name = m_path.empty() ? leaf : m_path;
     OpenFolder folder = openFolder(parent, leaf);
     struct stat status = {};
-    if (m_levels.size() == maxLevels)
+    if (m_levels.size() == m_maxLevels)
         m_report.leftOut(SomethingMissing, name, "Too deep");
     else if (!folder || ::fstat(::dirfd(folder.get()), &status) != 0)
         m_report.leftOut(SomethingMissing, name, errno);

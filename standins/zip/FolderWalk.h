@@ -30,8 +30,11 @@ struct FoundItem {
 class FolderWalk
 {
 public:
+    /// Each level keeps a descriptor and some 16 KiB.
+    static constexpr std::size_t maxLevels = 1000;
+
     /// Opens the current folder. The report must outlive the walk.
-    explicit FolderWalk(archive::Report &report);
+    explicit FolderWalk(archive::Report &report, std::size_t levels = maxLevels);
 
     /// This file is not found: the archive itself, if it has a name meanwhile.
     void passOver(const struct stat &file) { m_own.push_back(idOf(file)); }
@@ -55,6 +58,7 @@ private:
     int top() const { return ::dirfd(m_levels.back().folder.get()); }
 
     archive::Report &m_report;
+    const std::size_t m_maxLevels;
     std::string m_path; ///< of the item that is looked at
     std::vector<Level> m_levels;
     std::vector<Id> m_own;

@@ -57,6 +57,7 @@ bool exists(const std::string &path)
 
 void pack(const Arguments &arguments, archive::Report &report)
 {
+    Progress progress;
     if (arguments.size() != 5 || arguments[0] != "-r" || arguments[1].empty() || arguments[2] != "."
         || arguments[4] != "-q")
         throw WrongUsage();
@@ -67,7 +68,8 @@ void pack(const Arguments &arguments, archive::Report &report)
     if (exists(path))
         update(path, arguments[3]);
     try {
-        packCurrentFolder(path, *level, report);
+        packCurrentFolder(path, *level, report, progress);
+        progress.finish();
     } catch (const std::bad_alloc &) {
         failAs(NoMemory, path, "Not enough memory");
     }

@@ -1,10 +1,12 @@
 // Proves that a run which ends while its window is inactive is notified once, truthfully and as
-// plain text, and that only the answer of the server that showed it brings its page up.
+// plain text, and that only the answer of the server that showed it brings its page up. Task bars
+// hear how far the one run is, or how many there are.
 
 #include "Application.h"
 #include "ContainerBox.h"
 #include "Notifier.h"
 #include "SessionBus.h"
+#include "TaskBar.h"
 
 #include <QApplication>
 #include <QDBusMessage>
@@ -47,6 +49,26 @@ Q_SIGNALS:
     void ActivationToken(uint id, const QString &token);
     void ActionInvoked(uint id, const QString &action);
     void NotificationClosed(uint id, uint reason);
+};
+
+// What a task bar shows of the program.
+class Dock : public QObject
+{
+    Q_OBJECT
+
+public:
+    QStringList shown;
+
+public Q_SLOTS:
+    void onUpdate(const QString &program, const QVariantMap &properties)
+    {
+        QString text = program;
+        if (properties[u"progress-visible"_s].toBool())
+            text += u" at %1"_s.arg(properties[u"progress"_s].toDouble());
+        if (properties[u"count-visible"_s].toBool())
+            text += u" runs %1"_s.arg(properties[u"count"_s].toLongLong());
+        shown += text;
+    }
 };
 
 const JobDescription zipOfLetters{
@@ -177,6 +199,28 @@ private Q_SLOTS:
         Q_EMIT m_server.ActionInvoked(1, u"show"_s);
         settle();
         QVERIFY(!application.window().isVisible()); // what is closed stays closed
+    }
+
+    void aTaskBarShowsHowFarItIs()
+    {
+        Dock dock;
+        QVERIFY(bus().connect({}, {}, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s, &dock,
+                              SLOT(onUpdate(QString, QVariantMap))));
+        waitForBus(bus());
+        const TaskBar taskBar(*m_jobs);
+        run(*m_jobs, JobOutcome::Succeeded); // nothing to show
+        Job first = m_jobs->begin(zipOfLetters);
+        first.setItems(12, 34);
+        first.setProgress(431, 1000);
+        first.setProgress(432, 1000); // the same percentage
+        Job second = m_jobs->begin(zipOfLetters);
+        second.setProgress(1, 2);
+        first.end(JobOutcome::Succeeded);
+        second.end(JobOutcome::Failed);
+        const QString program = u"application://toolvane.desktop"_s;
+        QTRY_COMPARE(dock.shown,
+                     QStringList({program + u" at 0.43"_s, program + u" runs 2"_s,
+                                  program + u" at 0.5"_s, program}));
     }
 
     void silentWithoutAServer()

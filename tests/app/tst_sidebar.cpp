@@ -13,6 +13,8 @@
 #include <QApplication>
 #include <QEnterEvent>
 #include <QPaintEvent>
+#include <QProgressBar>
+#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
@@ -226,6 +228,34 @@ private Q_SLOTS:
         window.begin().end(JobOutcome::Succeeded); // too brief to be shown
         QVERIFY(!window.strip().isVisible() && !isMarked(zip));
         QCOMPARE(window.container().geometry(), page);
+    }
+
+    void showsHowFarARunIs()
+    {
+        Window window;
+        Job job = window.begin();
+        QTRY_COMPARE(window.buttons().size(), 2);
+        const auto *bar = window.strip().findChild<QProgressBar *>();
+        QVERIFY(!bar->isVisible());
+        const int height = window.strip().height();
+        QSignalSpy values(bar, &QProgressBar::valueChanged); // which assistive programs get
+        const QImage before = window.strip().grab().toImage();
+        for (quint64 done = 0; done <= 1000; ++done) {
+            job.setProgress(done, 1000);
+            if (done == 431)
+                QVERIFY(window.strip().grab().toImage() != before);
+        }
+        QVERIFY(bar->isVisible() && !bar->accessibleName().isEmpty());
+        QList<int> tenths;
+        for (const QVariantList &value : std::as_const(values))
+            tenths += value.constFirst().toInt();
+        QCOMPARE(tenths, QList({10, 20, 30, 40, 50, 60, 70, 80, 90, 100}));
+        QCOMPARE(window.strip().height(), height); // room was kept for the bar
+        window.buttons().constFirst()->setFocus();
+        QVERIFY(window.buttons().constFirst()->accessibleDescription().contains(
+            qtTrId("Jobs.Percent").arg(100)));
+        job.setItems(12'345, 1); // other work of the same job, without a known end
+        QVERIFY(!bar->isVisible());
     }
 
     void worksFromTheKeyboard()

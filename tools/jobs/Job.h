@@ -2,10 +2,12 @@
 
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <stop_token>
 
 class JobList;
+struct RunningJob;
 
 /// Names a job for as long as its list exists; never given out twice.
 using JobId = quint64;
@@ -34,6 +36,10 @@ public:
     /// Set when the job is to end early. The token may be used on any thread.
     std::stop_token stopToken() const;
 
+    /// How far the job is, see JobProgress. Nothing happens once it is off the list.
+    void setProgress(quint64 done, quint64 total);
+    void setItems(quint64 items, quint64 bytes);
+
     /// Takes the job off the list. Only the first call counts. A job whose last handle goes without
     /// this call ends as Stopped if a stop was requested, otherwise as Failed.
     void end(JobOutcome outcome);
@@ -41,6 +47,8 @@ public:
 private:
     friend class JobList;
     struct Listed;
+    void update(const std::function<void(RunningJob &)> &change);
+
     std::shared_ptr<Listed> m_listed;
 };
 

@@ -33,6 +33,28 @@ std::stop_token Job::stopToken() const
     return m_listed ? m_listed->stop.get_token() : std::stop_token();
 }
 
+void Job::update(const std::function<void(RunningJob &)> &change)
+{
+    JobList *list = m_listed ? m_listed->list.data() : nullptr;
+    if (!list)
+        return;
+    const auto job = std::ranges::find(list->m_running, m_listed->id, &RunningJob::id);
+    if (job == list->m_running.end())
+        return;
+    change(*job);
+    Q_EMIT list->progressed(m_listed->id);
+}
+
+void Job::setProgress(quint64 done, quint64 total)
+{
+    update([=](RunningJob &job) { job.progress.set(done, total, job.started.elapsed()); });
+}
+
+void Job::setItems(quint64 items, quint64 bytes)
+{
+    update([=](RunningJob &job) { job.progress.setItems(items, bytes); });
+}
+
 void Job::end(JobOutcome outcome)
 {
     if (m_listed)
@@ -52,7 +74,7 @@ QString elapsedText(qint64 milliseconds)
 Job JobList::begin(const JobDescription &description, const std::stop_source &stop)
 {
     const JobId id = ++m_lastId;
-    m_running.push_back({id, description, {}, stop});
+    m_running.push_back({id, description, {}, stop, {}});
     m_running.back().started.start();
     Job job;
     job.m_listed = std::make_shared<Job::Listed>(*this, id, stop);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Job.h"
+#include "JobProgress.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -13,6 +14,7 @@ struct RunningJob {
     JobDescription description;
     QElapsedTimer started; ///< Running since begin().
     std::stop_source stop; ///< Of all its handles' stop tokens.
+    JobProgress progress = {};
 };
 
 /// What runs now: child processes as well as work on threads. The application owns the one list
@@ -45,6 +47,7 @@ public:
 Q_SIGNALS:
     void jobEnded(const RunningJob &job, JobOutcome outcome); ///< It is off the list already.
     void changed(); ///< After a job began or ended.
+    void progressed(JobId id); ///< A job has said how far it is; it may do so many times a second.
     void allEnded(); ///< After the last job ended, and after changed().
 
 private:

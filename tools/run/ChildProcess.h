@@ -10,8 +10,10 @@
 /// What a child process does between fork and exec: default signal mask and dispositions, a session
 /// and process group of its own, death with the calling thread, then the working directory. If the
 /// directory cannot be entered, the child says so on standard error and exits with status 66
-/// (EX_NOINPUT of sysexits.h). Uses async-signal-safe calls only.
-std::function<void()> childSetup(const std::optional<QByteArray> &workingDirectory);
+/// (EX_NOINPUT of sysexits.h). A descriptor that is named stays open in the program, under its
+/// number; -1 is none. Uses async-signal-safe calls only.
+std::function<void()> childSetup(const std::optional<QByteArray> &workingDirectory,
+                                 int passedDescriptor);
 
 /// The processes that a command started and that stayed in its group. The kernel gives a group's
 /// number to nobody else as long as one member is left.

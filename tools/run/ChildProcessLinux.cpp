@@ -1,5 +1,6 @@
 #include "ChildProcess.h"
 
+#include <fcntl.h>
 #include <sys/prctl.h>
 #include <sysexits.h>
 #include <unistd.h>
@@ -55,16 +56,20 @@ QByteArray complaintAbout(QByteArray directory)
 
 } // namespace
 
-std::function<void()> childSetup(const std::optional<QByteArray> &workingDirectory)
+std::function<void()> childSetup(const std::optional<QByteArray> &workingDirectory,
+                                 int passedDescriptor)
 {
-    return [workingDirectory, complaint = complaintAbout(workingDirectory.value_or(QByteArray())),
-            parent = getpid()] {
-        resetSignals();
-        setsid();
-        dieWithParent(parent);
-        if (workingDirectory && chdir(workingDirectory->constData()) != 0)
-            refuse(complaint);
-    };
+    return
+        [workingDirectory, passedDescriptor,
+         complaint = complaintAbout(workingDirectory.value_or(QByteArray())), parent = getpid()] {
+            resetSignals();
+            setsid();
+            dieWithParent(parent);
+            if (passedDescriptor > STDERR_FILENO)
+                fcntl(passedDescriptor, F_SETFD, 0); // a flag of the child's copy alone
+            if (workingDirectory && chdir(workingDirectory->constData()) != 0)
+                refuse(complaint);
+        };
 }
 
 void ProcessGroup::signal(int number) const

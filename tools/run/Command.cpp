@@ -4,6 +4,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 JobOutcome CommandResult::outcome() const
@@ -43,4 +45,12 @@ QString programPath(const QString &launchPath, const QString &folder)
         return launchPath;
     const QFileInfo own(folder + u'/' + name);
     return own.isFile() && own.isExecutable() ? own.filePath() : launchPath;
+}
+
+bool reportsProgress(const QString &program, const QString &folder)
+{
+    static constexpr QLatin1StringView names[] = {"zip"_L1, "unzip"_L1, "hdiutil"_L1,
+                                                  "avconvert"_L1, "say"_L1};
+    return std::ranges::any_of(
+        names, [&](QLatin1StringView name) { return program == folder + u'/' + name; });
 }

@@ -51,3 +51,7 @@ QString ownProgramsFolder();
 /// The program that really runs for a launch path: the executable file of the same name in
 /// `folder` if there is one, otherwise the path as given.
 QString programPath(const QString &launchPath, const QString &folder = ownProgramsFolder());
+
+/// Whether the program, which programPath() gave, is one of ours that writes how far it is to the
+/// descriptor that TOOLVANE_PROGRESS_FD names. Nothing else is ever given that variable.
+bool reportsProgress(const QString &program, const QString &folder = ownProgramsFolder());

@@ -1,6 +1,7 @@
 #include "CommandRunner.h"
 
 #include "ChildProcess.h"
+#include "ProgressPipe.h"
 
 #include <QDeadlineTimer>
 #include <QDebug>
@@ -49,6 +50,7 @@ public:
     void disown(); ///< Gives the result `OwnerGone` at once and ends the run.
 
 private:
+    void offerProgress();
     void onStarted();
     void onError(QProcess::ProcessError error);
     void onFinished(int exitCode, QProcess::ExitStatus exitStatus);
@@ -62,6 +64,7 @@ private:
     const Command m_command;
     const QString m_program = programPath(m_command.launchPath);
     Job m_job;
+    std::optional<ProgressPipe> m_progress; ///< If the program reports it.
     QProcess m_process{this};
     QPromise<CommandResult> m_promise;
     ProcessGroup m_group; ///< None until the program runs.
@@ -76,9 +79,11 @@ CommandRun::CommandRun(const Command &command, const Job &job, QObject &keeper)
     : QObject(&keeper), m_command(command), m_job(job),
       m_onStop(job.stopToken(), [this] { stop(); })
 {
+    offerProgress();
     // A missing working directory must be a failed run, so QProcess does not set it: it would
     // report a program that could not start.
-    m_process.setChildProcessModifier(childSetup(encoded(command.workingDirectory)));
+    m_process.setChildProcessModifier(
+        childSetup(encoded(command.workingDirectory), m_progress ? m_progress->writeEnd() : -1));
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.setStandardInputFile(QProcess::nullDevice());
     m_process.setStandardOutputFile(QProcess::nullDevice());
@@ -98,6 +103,23 @@ CommandRun::~CommandRun()
     settle({CommandResult::End::OwnerGone});
 }
 
+// The variable goes to the programs that expect it, and to no other, even if we were started with
+// it ourselves.
+void CommandRun::offerProgress()
+{
+    constexpr auto variable = "TOOLVANE_PROGRESS_FD";
+    const bool isOffered = reportsProgress(m_program);
+    if (!isOffered && !qEnvironmentVariableIsSet(variable))
+        return;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QString::fromLatin1(variable));
+    if (isOffered) {
+        m_progress.emplace([this](quint64 done, quint64 total) { m_job.setProgress(done, total); });
+        environment.insert(QString::fromLatin1(variable), QString::number(m_progress->writeEnd()));
+    }
+    m_process.setProcessEnvironment(environment);
+}
+
 QFuture<CommandResult> CommandRun::start()
 {
     m_promise.start();
@@ -111,6 +133,8 @@ QFuture<CommandResult> CommandRun::start()
             Qt::QueuedConnection);
     else
         m_process.start(m_program, m_command.arguments);
+    if (m_progress)
+        m_progress->closeWriteEnd(); // the child has it
     return m_promise.future();
 }
 

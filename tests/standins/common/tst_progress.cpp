@@ -4,6 +4,7 @@
 #include "RunToEnd.h"
 #include "StandinRun.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -159,24 +160,35 @@ private Q_SLOTS:
     {
         QTest::addColumn<QString>("preparation"); // a script that gets the output's path
         QTest::addColumn<QStringList>("program");
+        QTest::addColumn<QString>("result"); // of what is made in the place of "out"
         const QString folder = u"mkdir in && head -c 30000000 /dev/urandom > in/a && mkdir in/sub"
                                " && seq 100000 > in/sub/b"_s;
         const QStringList image{u"-o"_s,     u"out"_s, u"-default-volume-name"_s, u"V"_s, u"-ov"_s,
                                 u"-quiet"_s, u"in"_s};
         QTest::newRow("HFS Plus image")
-            << folder << (QStringList{u"hdiutil"_s, u"makehybrid"_s, u"-hfs"_s} + image);
+            << folder << (QStringList{u"hdiutil"_s, u"makehybrid"_s, u"-hfs"_s} + image)
+            << u"out"_s;
         QTest::newRow("hybrid image")
-            << folder << (QStringList{u"hdiutil"_s, u"makehybrid"_s} + image);
+            << folder << (QStringList{u"hdiutil"_s, u"makehybrid"_s} + image) << u"out"_s;
         QTest::newRow("video")
             << u"ffmpeg -v error -f lavfi -i testsrc2=s=320x240:d=5 -f mpegts in.mpg"_s
             << QStringList{u"avconvert"_s, u"--preset"_s, u"PresetHighestQuality"_s,
                            u"--source"_s,  u"in.mpg"_s,   u"--output"_s,
-                           u"out"_s,       u"-q"_s};
+                           u"out"_s,       u"-q"_s}
+            << u"out"_s;
         QTest::newRow("speech") << u":"_s
                                 << QStringList{u"say"_s,
                                                u"Nine green bottles, all of them. "_s.repeated(200),
                                                u"--voice=English (America)"_s, u"--rate=175"_s,
-                                               u"--output-file=out"_s};
+                                               u"--output-file=out"_s}
+                                << u"out"_s;
+        QTest::newRow("packing") << u"seq 5600000 > numbers; mkfifo fifo; ln -s numbers link"_s
+                                 << QStringList{u"zip"_s, u"-r"_s, u"out/a.zip"_s,
+                                                u"."_s,   u"-9"_s, u"-q"_s}
+                                 << u"out/a.zip"_s;
+        QTest::newRow("unpacking")
+            << folder + u" && zip -qr in.zip in"_s
+            << QStringList{u"unzip"_s, u"-q"_s, u"in.zip"_s, u"-d"_s, u"out"_s} << u"out/in/a"_s;
     }
 
     // With a reader that takes all, with one whose pipe is full, and with none.
@@ -187,12 +199,16 @@ private Q_SLOTS:
         const QTemporaryDir folder;
         QCOMPARE(runIn(folder, {u"sh"_s, u"-c"_s, preparation}).errors, QByteArray());
         program[0] = standinPath(program[0]);
-        QCOMPARE(runIn(folder, program).status, 0);
-        const QByteArray result = contentOf(folder.filePath(u"out"_s));
+        QCOMPARE(make(folder, program), 0);
+        const QByteArray result = resultIn(folder);
+        QVERIFY(!result.isEmpty());
         {
             ProgressPipe reader;
-            QCOMPARE(runIn(folder, program).status, 0);
-            requirePlausible(linesIn(reader.rest()));
+            QCOMPARE(make(folder, program), 0);
+            const Lines lines = linesIn(reader.rest());
+            requirePlausible(lines);
+            if (QByteArray(QTest::currentDataTag()).endsWith("packing")) // long before the end, too
+                QVERIFY(lines.size() > 1);
         }
         sameResult(folder, result);
         {
@@ -200,14 +216,14 @@ private Q_SLOTS:
             QVERIFY(::fcntl(reader.inherited.number(), F_SETPIPE_SZ, 4096) > 0);
             const QByteArray filling(4096, 'x');
             QCOMPARE(::write(reader.inherited.number(), filling.constData(), 4096), 4096);
-            QCOMPARE(runIn(folder, program).status, 0);
+            QCOMPARE(make(folder, program), 0);
             QCOMPARE(::fcntl(reader.inherited.number(), F_GETFL) & O_NONBLOCK, 0);
             QCOMPARE(reader.rest(), filling);
         }
         {
             ProgressPipe reader;
             reader.pipe.readEnd.close();
-            QCOMPARE(runIn(folder, program).status, 0);
+            QCOMPARE(make(folder, program), 0);
         }
         sameResult(folder, result);
     }
@@ -218,12 +234,29 @@ private:
         return runProgram(u"env"_s, QStringList{u"-C"_s, folder.path()} + program);
     }
 
-    // xorriso writes the time of day into its image.
+    static int make(const QTemporaryDir &folder, const QStringList &program)
+    {
+        QFETCH(QString, result);
+        const QString out = folder.filePath(u"out"_s);
+        QFile::remove(out);
+        QDir(out).removeRecursively();
+        if (result.endsWith(u".zip"_s))
+            QDir().mkdir(out);
+        return runIn(folder, program).status;
+    }
+    static QByteArray resultIn(const QTemporaryDir &folder)
+    {
+        QFETCH(QString, result);
+        return contentOf(folder.filePath(result));
+    }
+
+    // Some write the time of day, or that of the last access.
     static void sameResult(const QTemporaryDir &folder, const QByteArray &expected)
     {
-        const QByteArray result = contentOf(folder.filePath(u"out"_s));
+        const QByteArray result = resultIn(folder);
         QCOMPARE(result.size(), expected.size());
-        if (QByteArray(QTest::currentDataTag()) != "hybrid image")
+        const QByteArray row = QTest::currentDataTag();
+        if (row != "hybrid image" && row != "packing")
             QVERIFY(result == expected);
     }
 

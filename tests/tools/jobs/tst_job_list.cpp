@@ -2,18 +2,39 @@
 
 #include "JobList.h"
 
+#include <QLocale>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTranslator>
 
+#include <limits>
 #include <optional>
 
 using namespace Qt::StringLiterals;
+
+namespace
+{
+
+struct Report {
+    qint64 elapsed;
+    quint64 done;
+    quint64 total;
+};
+
+} // namespace
 
 class JobListTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase()
+    {
+        QVERIFY(m_texts.load(u":/localisation/toolvane_en.qm"_s));
+        QCoreApplication::installTranslator(&m_texts);
+        QLocale::setDefault(QLocale(u"en_GB"_s));
+    }
+
     void init()
     {
         m_jobs = std::make_unique<JobList>();
@@ -91,7 +112,62 @@ private Q_SLOTS:
             QCOMPARE(elapsedText(milliseconds), text);
     }
 
+    void saysHowFarItIs_data()
+    {
+        constexpr auto most = std::numeric_limits<quint64>::max();
+        QTest::addColumn<QList<Report>>("reports");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("nothing yet") << QList<Report>{} << QString();
+        QTest::newRow("no time before five seconds") << QList<Report>{{4999, 43, 100}} << u"43 %"_s;
+        QTest::newRow("then the time") << QList<Report>{{5000, 43, 100}} << u"43 % · 0:06 left"_s;
+        QTest::newRow("not renewed before five more")
+            << QList<Report>{{5000, 10, 100}, {9999, 50, 100}} << u"50 % · 0:45 left"_s;
+        QTest::newRow("renewed") << QList<Report>{{5000, 10, 100}, {10'000, 50, 100}}
+                                 << u"50 % · 0:10 left"_s;
+        QTest::newRow("never 0:00")
+            << QList<Report>{{5000, 999'999, 1'000'000}} << u"99 % · 0:01 left"_s;
+        QTest::newRow("from one minute on")
+            << QList<Report>{{60'000, 39, 100}} << u"39 % · about 2 min left"_s;
+        QTest::newRow("hours") << QList<Report>{{3'600'000, 20, 100}} << u"20 % · about 4 h left"_s;
+        QTest::newRow("longer than can be said") << QList<Report>{{6000, 1, most}} << u"0 %"_s;
+        QTest::newRow("nothing done") << QList<Report>{{6000, 0, most}} << u"0 %"_s;
+        QTest::newRow("almost") << QList<Report>{{1, most - 1, most}} << u"99 %"_s;
+        QTest::newRow("the end") << QList<Report>{{60'000, most, most}} << u"100 %"_s;
+        QTest::newRow("no total, or less than is done")
+            << QList<Report>{{1, 5, 10}, {2, 1, 0}, {3, 11, 10}} << u"50 %"_s;
+    }
+
+    void saysHowFarItIs()
+    {
+        QFETCH(QList<Report>, reports);
+        JobProgress progress;
+        for (const Report &report : reports)
+            progress.set(report.done, report.total, report.elapsed);
+        QTEST(progress.text(), "text");
+    }
+
+    void listsHowFarItIs()
+    {
+        QSignalSpy progressed(m_jobs.get(), &JobList::progressed);
+        Job first = m_jobs->begin(description);
+        Job second = m_jobs->begin(description);
+        second.setProgress(1, 2);
+        first.setItems(12'345, 3'435'973'837);
+        QCOMPARE(progressed.size(), 2);
+        QCOMPARE(progressed.first().first().toULongLong(), m_jobs->running().back().id);
+        QCOMPARE(m_jobs->running().back().progress.percent(), std::optional(50));
+        QCOMPARE(m_jobs->running().front().progress.text(), u"12,345 items, 3.20 GB"_s);
+        QVERIFY(!m_jobs->running().front().progress.percent());
+        second.end(JobOutcome::Succeeded);
+        second.setProgress(2, 2);
+        Job().setProgress(1, 2);
+        m_jobs.reset();
+        first.setItems(1, 1);
+        QCOMPARE(progressed.size(), 2);
+    }
+
 private:
+    QTranslator m_texts;
     const JobDescription description{.page = u"Page"_s, .title = u"Test"_s};
     std::unique_ptr<JobList> m_jobs;
     QList<JobOutcome> m_outcomes;

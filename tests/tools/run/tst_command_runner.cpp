@@ -4,7 +4,9 @@
 #include "CommandRunner.h"
 #include "Files.h"
 #include "JobList.h"
+#include "ProgressPipe.h"
 
+#include <QAbstractEventDispatcher>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QProcess>
@@ -122,6 +124,78 @@ private Q_SLOTS:
         for (const QString &given : {u"/usr/bin/zip"_s, u"/usr/bin/data"_s, u"/usr/bin/folder"_s,
                                      u"/usr/bin/"_s, QString()})
             QCOMPARE(programPath(given, own), given);
+    }
+
+    void ownProgramsReportHowFarTheyAre()
+    {
+        const QString own = ownProgramsFolder();
+        QVERIFY(reportsProgress(own + u"/say"_s));
+        for (const QString &other : {u"/usr/bin/zip"_s, own + u"/open"_s, own + u"2/zip"_s})
+            QVERIFY2(!reportsProgress(other), qPrintable(other));
+
+        QFile source(path(u"zeros"_s)); // takes no room and some seconds
+        QVERIFY(source.open(QIODevice::WriteOnly) && source.resize(qint64(1) << 33));
+        const auto descriptors = [] { return QDir(u"/proc/self/fd"_s).entryList().size(); };
+        const auto openBefore = descriptors();
+        Command zip{u"/usr/bin/zip"_s,
+                    {u"-r"_s, path(u"a.zip"_s), u"."_s, u"-9"_s, u"-q"_s},
+                    m_folder->path()};
+        const auto future = m_runner->run(zip, m_jobs.begin(description));
+        QTRY_VERIFY(!m_jobs.isEmpty() && m_jobs.running().front().progress.percent());
+        QVERIFY(!future.isFinished());
+        m_jobs.stopAll();
+        QTRY_VERIFY(m_jobs.isEmpty());
+        QTRY_COMPARE(descriptors(), openBefore);
+    }
+
+    void otherProgramsGetNoPipe()
+    {
+        qputenv("TOOLVANE_PROGRESS_FD", "1"); // as the application itself may have been given it
+        const auto result =
+            runToEnd({u"/bin/sh"_s, {u"-c"_s, u"exit ${TOOLVANE_PROGRESS_FD+1}"_s}});
+        qunsetenv("TOOLVANE_PROGRESS_FD");
+        QCOMPARE(result.description(), u"exited with status 0"_s);
+    }
+
+    void readsHostileProgress_data()
+    {
+        using Reports = QList<std::pair<quint64, quint64>>;
+        QTest::addColumn<QByteArray>("written");
+        QTest::addColumn<Reports>("reports"); // of which a turn of the event loop makes one
+        QTest::newRow("a line") << "3 18446744073709551615\n"_ba
+                                << Reports{{3, 18446744073709551615U}};
+        QTest::newRow("the last of several") << "3 10\n4 10\n5 1"_ba << Reports{{4, 10}};
+        QTest::newRow("no end") << "3 10"_ba << Reports{};
+        for (const QByteArray &line :
+             {""_ba, "3"_ba, "3 "_ba, " 3 10"_ba, "3  10"_ba, "3 10 "_ba, "-3 10"_ba, "3 +10"_ba,
+              "3\t10"_ba, "3 10\r"_ba, "x"_ba, "3 18446744073709551616"_ba, "3 10\0"_ba})
+            QTest::addRow("nonsense '%s'", line.toPercentEncoding(" ").constData()) << line + '\n'
+                                                                                    << Reports{};
+        QTest::newRow("a flood without an end, and a line") << QByteArray(60'000, '1') + "\n5 10\n"
+                                                            << Reports{{5, 10}};
+    }
+
+    void readsHostileProgress()
+    {
+        QFETCH(QByteArray, written);
+        QList<std::pair<quint64, quint64>> reports;
+        ProgressPipe pipe([&](quint64 done, quint64 total) { reports.append({done, total}); });
+        QCOMPARE(::write(pipe.writeEnd(), written.constData(), written.size()), written.size());
+        pipe.closeWriteEnd();
+        QSignalSpy turns(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::awake);
+        QTest::qWait(50);
+        QTEST(reports, "reports");
+        QVERIFY(turns.size() < 200); // the closed pipe is watched no more
+    }
+
+    void aFloodHoldsNothingUp()
+    {
+        int reports = 0;
+        ProgressPipe pipe([&](quint64, quint64) { ++reports; });
+        const QByteArray flood = "1 2\n"_ba.repeated(16'000);
+        QCOMPARE(::write(pipe.writeEnd(), flood.constData(), flood.size()), flood.size());
+        QCoreApplication::processEvents();
+        QVERIFY(reports >= 1 && reports < 3);
     }
 
     void stop()
