@@ -33,6 +33,14 @@ void end(QProcess &process)
     process.waitForFinished();
 }
 
+QByteArray outputOf(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+}
+
 /// An X server with a window manager, for this process and those that it starts.
 class Desktop
 {
@@ -45,13 +53,19 @@ public:
         }
         if (!missing.isEmpty())
             return;
-        m_server.start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
-                                   u"0"_s, u"1280x900x24"_s});
+        m_server.start(u"Xvfb"_s,
+                       {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s,
+                        u"1280x900x24"_s});
         m_server.waitForReadyRead(timeout);
         qputenv("DISPLAY", ":" + m_server.readLine().trimmed());
         qputenv("QT_QPA_PLATFORM", "xcb");
         manager.start(u"openbox"_s, {u"--sm-disable"_s});
-        manager.waitForStarted();
+        const auto check = [] {
+            return outputOf(u"xprop"_s, {u"-root"_s, u"_NET_SUPPORTING_WM_CHECK"_s});
+        };
+        QDeadlineTimer deadline(timeout);
+        while (manager.waitForStarted() && !check().contains("window id") && !deadline.hasExpired())
+            continue;
     }
     ~Desktop()
     {
@@ -80,14 +94,6 @@ int typewriter()
     return QApplication::exec();
 }
 
-QByteArray outputOf(const QString &program, const QStringList &arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return process.readAllStandardOutput();
-}
-
 void type(const QString &key)
 {
     outputOf(u"xdotool"_s, {u"key"_s, key});
@@ -111,7 +117,7 @@ class TestWindowManager : public QObject
     Q_OBJECT
 
 public:
-    explicit TestWindowManager(Desktop &desktop) : m_desktop(desktop) {}
+    explicit TestWindowManager(Desktop &desktop) : m_desktop(desktop) { }
 
 private Q_SLOTS:
     void initTestCase()
@@ -144,7 +150,9 @@ private Q_SLOTS:
             QTRY_COMPARE_WITH_TIMEOUT(m_other.peek(9), "a\n", timeout);
             QVERIFY(shownBoxes().isEmpty());
             const QString id = QString::number(m_application->window().winId());
-            const auto state = [&] { return outputOf(u"xprop"_s, {u"-id"_s, id, u"_NET_WM_STATE"_s}); };
+            const auto state = [&] {
+                return outputOf(u"xprop"_s, {u"-id"_s, id, u"_NET_WM_STATE"_s});
+            };
             QTRY_VERIFY_WITH_TIMEOUT(state().contains("DEMANDS_ATTENTION"), timeout);
             end(m_other); // and the window manager turns to our window
             QTRY_COMPARE_WITH_TIMEOUT(shownBoxes().size(), 1, timeout);
@@ -219,8 +227,6 @@ private Q_SLOTS:
                 QTRY_COMPARE_WITH_TIMEOUT(shownBoxes().size(), 2, timeout);
                 const auto boxes = shownBoxes();
                 QTest::qWait(300); // the window manager has put its frames around them
-                for (auto b : boxes) qDebug() << b->frameGeometry() << b->geometry();
-                outputOf(u"import"_s, {u"-window"_s, u"root"_s, u"/tmp/two.png"_s});
                 QVERIFY(!boxes[0]->frameGeometry().intersects(boxes[1]->frameGeometry()));
             });
         });
@@ -242,8 +248,9 @@ private:
     {
         m_other.start(QCoreApplication::applicationFilePath(), {u"typewriter"_s});
         QTRY_VERIFY_WITH_TIMEOUT(
-            outputOf(u"xdotool"_s, {u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"typewriter"_s,
-                                    u"windowactivate"_s, u"--sync"_s, u"getwindowname"_s})
+            outputOf(u"xdotool"_s,
+                     {u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"typewriter"_s,
+                      u"windowactivate"_s, u"--sync"_s, u"getwindowname"_s})
                     .contains("typewriter")
                 && !QApplication::activeWindow(),
             timeout);

@@ -7,7 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
-#include <QWindow>
+#include <QWindow> // a complete type for the connection
 
 #include <algorithm>
 #include <chrono>
@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr auto quietInterval = 500ms;
-constexpr int gap = 8; // between two boxes
+constexpr int gap = 48; // leaves room for a title bar: its height is reported some time later
 
 QString &currentSubject()
 {
@@ -59,9 +59,8 @@ QWidget *windowForBoxes()
 
 bool isFree(const QRect &place, const QList<QRect> &taken, const QRect &screen)
 {
-    return screen.contains(place) && std::ranges::none_of(taken, [&](const QRect &other) {
-               return other.intersects(place);
-           });
+    return screen.contains(place)
+        && std::ranges::none_of(taken, [&](const QRect &other) { return other.intersects(place); });
 }
 
 /// A place below, above or beside one that is taken; the box's own if there is no room.
@@ -95,7 +94,8 @@ AlertBox::AlertBox(const QString &messageText, const QString &informativeText)
 void AlertBox::setSubject(const QString &subject)
 {
     currentSubject() = QString(subject).replace("[*]"_L1, "[*][*]"_L1); // Qt's mark of changes
-    QMetaObject::invokeMethod(qApp, [] { currentSubject().clear(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        qApp, [] { currentSubject().clear(); }, Qt::QueuedConnection);
 }
 
 void AlertBox::setVisible(bool visible)
@@ -154,17 +154,13 @@ void AlertBox::showEvent(QShowEvent *event)
 void AlertBox::moveClearOfOthers()
 {
     QList<QRect> taken;
-    QSize frame;
     const auto windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
-        if (window == this || !window->isVisible() || !qobject_cast<const AlertBox *>(window))
-            continue;
-        taken += window->frameGeometry();
-        frame = frame.expandedTo(window->frameGeometry().size() - window->size());
+        if (window != this && window->isVisible() && qobject_cast<const AlertBox *>(window))
+            taken += window->frameGeometry();
     }
-    const QRect box(pos(), size() + frame);
     if (!taken.isEmpty())
-        move(freePlace(box, taken, screen()->availableGeometry()));
+        move(freePlace(geometry(), taken, screen()->availableGeometry()));
 }
 
 void AlertBox::closeEvent(QCloseEvent *event)

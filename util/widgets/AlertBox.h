@@ -5,8 +5,8 @@
 
 /// The box of MiscTool::showAlert(). While the user works in another program's window it is not
 /// shown, because it would take the keyboard: the desktop is asked for attention, and the box comes
-/// up as soon as one of our windows is active. `exec()` lasts until it is dismissed, or closed while
-/// it waits. Interface thread only.
+/// up as soon as one of our windows is active. `exec()` lasts until it is dismissed, or closed
+/// while it waits. Interface thread only.
 class AlertBox : public QMessageBox
 {
     Q_OBJECT

@@ -16,7 +16,8 @@ using namespace Qt::StringLiterals;
 namespace
 {
 
-template <typename T> using Reply = std::unique_ptr<T, decltype(&std::free)>;
+template <typename T>
+using Reply = std::unique_ptr<T, decltype(&std::free)>;
 
 bool wasEverActive = false;
 
@@ -50,7 +51,8 @@ xcb_window_t windowNamedBy(xcb_connection_t *x, xcb_window_t window, xcb_atom_t 
     const auto asked = xcb_get_property(x, 0, window, property, XCB_ATOM_WINDOW, 0, 1);
     const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(x, asked, nullptr),
                                                 &std::free);
-    const bool isThere = reply && xcb_get_property_value_length(reply.get()) == sizeof(xcb_window_t);
+    const bool isThere =
+        reply && xcb_get_property_value_length(reply.get()) == sizeof(xcb_window_t);
     return isThere ? *static_cast<xcb_window_t *>(xcb_get_property_value(reply.get()))
                    : xcb_window_t(XCB_WINDOW_NONE);
 }
