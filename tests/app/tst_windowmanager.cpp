@@ -247,13 +247,14 @@ private:
     void startOther()
     {
         m_other.start(QCoreApplication::applicationFilePath(), {u"typewriter"_s});
-        QTRY_VERIFY_WITH_TIMEOUT(
+        const auto hasKeyboard = [] { // tried again until the window is managed
             outputOf(u"xdotool"_s,
                      {u"search"_s, u"--onlyvisible"_s, u"--name"_s, u"typewriter"_s,
-                      u"windowactivate"_s, u"--sync"_s, u"getwindowname"_s})
-                    .contains("typewriter")
-                && !QApplication::activeWindow(),
-            timeout);
+                      u"windowactivate"_s});
+            return outputOf(u"xdotool"_s, {u"getactivewindow"_s, u"getwindowname"_s})
+                .contains("typewriter");
+        };
+        QTRY_VERIFY_WITH_TIMEOUT(hasKeyboard() && !QApplication::activeWindow(), timeout);
     }
     void endRun()
     {
