@@ -1,5 +1,6 @@
 #include "Application.h"
 
+#include "AlertBox.h"
 #include "HoverTableAppDelegate.h"
 #include "LoginDelegate.h"
 #include "NamedImage.h"
@@ -7,8 +8,10 @@
 #include "SingleInstance.h"
 #include "TaskBar.h"
 #include "Tool.h"
+#include "WindowActivation.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -53,6 +56,14 @@ void installTexts()
     QCoreApplication::installTranslator(own); // the last is used first; English has what it lacks
 }
 
+// "Zip: holiday.zip". The message of a run comes up in the same step in which the run ends.
+void nameMessagesOf(const JobDescription &job)
+{
+    const QString path = job.output.isEmpty() ? job.subject : job.output;
+    const QString file = QDir::isAbsolutePath(path) ? QFileInfo(path).fileName() : QString();
+    AlertBox::setSubject(file.isEmpty() ? job.title : job.title + u": "_s + file);
+}
+
 } // namespace
 
 void Application::prepare()
@@ -68,6 +79,7 @@ void Application::prepare()
 Application::Application()
     : m_window(m_jobs), m_loginWindow(std::make_unique<LoginDelegate>(&m_window))
 {
+    WindowActivation::watch();
     m_window.connectOutlets(m_delegate);
     m_delegate.loginWindow = m_loginWindow.get();
     m_loginWindow->mainWindow = &m_window;
@@ -75,6 +87,8 @@ Application::Application()
     m_tools = std::make_unique<HoverTableAppDelegate>(allTools(), m_jobs, m_delegate,
                                                       m_window.tableView());
     m_window.connectTools(*m_tools);
+    QObject::connect(&m_jobs, &JobList::jobEnded, &m_window,
+                     [](const RunningJob &job) { nameMessagesOf(job.description); });
     m_notifier = std::make_unique<Notifier>(m_jobs, m_window);
     m_taskBar = std::make_unique<TaskBar>(m_jobs);
     QObject::connect(m_notifier.get(), &Notifier::pageWanted, &m_window,

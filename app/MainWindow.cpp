@@ -13,6 +13,7 @@
 #include "RecordWindow.h"
 #include "ThemedLabels.h"
 #include "UnplacedArchives.h"
+#include "WindowActivation.h"
 #include "ui_MainWindow.h"
 
 #include <QApplication>
@@ -138,11 +139,7 @@ HoverTableView &MainWindow::tableView() const
 
 void MainWindow::comeToFront(const QString &activationToken)
 {
-    // Qt reads the token from the environment with the request that follows.
-    if (!activationToken.isEmpty() && QGuiApplication::platformName().startsWith("wayland"_L1))
-        qputenv("XDG_ACTIVATION_TOKEN", activationToken.toUtf8());
-    setWindowState(windowState() & ~Qt::WindowMinimized);
-    MiscTool::showWindow(this);
+    WindowActivation::bringToFront(*this, activationToken);
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)

@@ -93,8 +93,9 @@ public:
     // The window half: interface thread only.
 
     /// Shows an information box with one OK button and returns when it is dismissed, with the
-    /// response code; 0 if its window was destroyed meanwhile. Both texts are shown as plain text,
-    /// exactly as given.
+    /// response code; 0 if its window was destroyed or the program was quit meanwhile. While none
+    /// of our windows is active, the box comes up as soon as one is. Both texts are shown as plain
+    /// text, exactly as given.
     static int showAlert(const QString &messageText, const QString &informativeText);
     static void showWindow(QWidget *window); ///< To the front, and activates the program.
     static void hideWindow(QWidget *window); ///< Neither closes nor destroys it.

@@ -14,8 +14,8 @@ root = Path(sys.argv[1])
 QT_ROOTS = [Path("/usr/include/x86_64-linux-gnu/qt6"), *Path("/usr/include").glob("*/qt6")]
 QT_MODULES = ("QtCore", "QtGui", "QtWidgets", "QtConcurrent", "QtDBus")
 LIBRARIES = {"SQLite": "sqlite3.h", "libcurl": "curl/", "libsodium": "sodium.h", "ICU": "unicode/",
-             "libcanberra": "canberra.h", "simdjson": "simdjson.h", "libdeflate": "libdeflate.h",
-             "libzip": "zip.h", "zlib": "zlib.h", "Boost": "boost/", "libmariadb": "mysql.h",
+             "libcanberra": "canberra.h", "libxcb": "xcb/", "simdjson": "simdjson.h",
+             "libdeflate": "libdeflate.h", "libzip": "zip.h", "zlib": "zlib.h", "Boost": "boost/", "libmariadb": "mysql.h",
              "OpenSSL": "openssl/"}
 SYSTEM = re.compile(r"(arpa|sys|linux)/\w+\.h|[a-z_]+"
                     r"|(dirent|fcntl|limits|malloc|poll|pwd|sched|signal|sysexits|termios|unistd)\.h")

@@ -123,8 +123,10 @@ QCoro::Task<> AVConvertViewController::convertAction()
     ui->runLine->withdraw();
     const QPointer<AVConvertViewController> self(this);
     const QString output = ui->outputField->text();
-    Job job = m_jobs.begin(
-        {.page = objectName(), .title = qtTrId("AV Convert"), .subject = ui->sourceField->text()});
+    Job job = m_jobs.begin({.page = objectName(),
+                            .title = qtTrId("AV Convert"),
+                            .subject = ui->sourceField->text(),
+                            .output = output});
 
     const CommandResult result = co_await m_runner.run(convert(output), job);
     if (!self)

@@ -115,7 +115,8 @@ QCoro::Task<> ImageViewController::generateAction()
     const QString output = ui->outputField->text();
     Job job = m_jobs.begin({.page = objectName(),
                             .title = qtTrId(m_kind.nameKey),
-                            .subject = ui->srcFolderField->text()});
+                            .subject = ui->srcFolderField->text(),
+                            .output = output});
 
     const CommandResult result = co_await m_runner.run(makeHybrid(output), job);
     if (!self)

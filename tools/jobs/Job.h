@@ -17,6 +17,7 @@ struct JobDescription {
     QString page; ///< The `objectName` of the page, which is its class name.
     QString title; ///< What is being done, localised: mostly the page's title.
     QString subject = {}; ///< What it is done to, mostly a path. Always shown as plain text.
+    QString output = {}; ///< Path of what is being made; empty if that has the subject's name.
 };
 
 enum class JobOutcome {

@@ -137,11 +137,12 @@ Command SynthesisViewController::speak(const QString &text) const
 }
 
 // The first words name the text well enough, which may be a whole book.
-Job SynthesisViewController::beginJob(const QString &text)
+Job SynthesisViewController::beginJob(const QString &text, const QString &output)
 {
     return m_jobs.begin({.page = objectName(),
                          .title = qtTrId("Speech Synthesis"),
-                         .subject = text.left(maxSubjectLength).simplified()});
+                         .subject = text.left(maxSubjectLength).simplified(),
+                         .output = output});
 }
 
 QCoro::Task<> SynthesisViewController::read(QString text)
@@ -166,7 +167,7 @@ QCoro::Task<> SynthesisViewController::save(QString file)
     const QString text = ui->textField->toPlainText();
     Command command = speak(text);
     command.arguments << u"--output-file="_s + file;
-    Job job = beginJob(text);
+    Job job = beginJob(text, file);
 
     const CommandResult result = co_await m_runner.run(command, job);
     if (!self)

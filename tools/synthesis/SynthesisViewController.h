@@ -45,7 +45,7 @@ private:
 
     QCoro::Task<> save(QString file); ///< A file at the path is replaced.
     Command speak(const QString &text) const;
-    Job beginJob(const QString &text);
+    Job beginJob(const QString &text, const QString &output = {});
 
     std::unique_ptr<Ui::SynthesisViewController> ui;
     JobList &m_jobs;

@@ -108,7 +108,8 @@ QCoro::Task<> ZIPViewController::generateAction()
     const QString output = ui->outputField->text(); // the field may say something else later
     const QString archive = ZipCommand::temporaryArchive(MiscTool::getAppDocumentFolder(), output);
     const Command command = ZipCommand::pack(source, archive, getCompressRatio());
-    Job job = m_jobs.begin({.page = objectName(), .title = qtTrId("Zip"), .subject = source});
+    Job job = m_jobs.begin(
+        {.page = objectName(), .title = qtTrId("Zip"), .subject = source, .output = output});
 
     const CommandResult packed = co_await m_runner.run(command, job);
     if (self && !packed.couldStart())

@@ -1,17 +1,15 @@
+#include "AlertBox.h"
 #include "LibrarySymbol.h"
 #include "MiscTool.h"
 #include "Mnemonics.h"
 
 #include <QApplication>
 #include <QGraphicsOpacityEffect>
-#include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
 #include <QPropertyAnimation>
 
 #include <canberra.h>
 
-#include <algorithm>
 #include <memory>
 
 using namespace Qt::StringLiterals;
@@ -89,42 +87,12 @@ void flash(QWidget &window)
     veil->raise();
 }
 
-// QMessageBox guesses the format of its second text; file names must never be read as markup.
-void showAsPlainText(QMessageBox &box)
-{
-    box.setTextFormat(Qt::PlainText);
-    const auto labels = box.findChildren<QLabel *>();
-    for (QLabel *label : labels)
-        label->setTextFormat(Qt::PlainText);
-}
-
-// A box belongs to the window that the user is in, or, while another program is in front, to the
-// one that is shown. Never to a dialog: that may close, and take its children along, while the box
-// is still shown.
-QWidget *windowForBoxes()
-{
-    for (QWidget *active = QApplication::activeWindow(); active; active = active->parentWidget()) {
-        if (active->windowType() == Qt::Window)
-            return active;
-    }
-    const auto windows = QApplication::topLevelWidgets();
-    const auto shown = std::ranges::find_if(windows, [](const QWidget *window) {
-        return window->isVisible() && window->windowType() == Qt::Window;
-    });
-    return shown == windows.end() ? nullptr : *shown;
-}
-
 } // namespace
 
 int MiscTool::showAlert(const QString &messageText, const QString &informativeText)
 {
     // Not on the stack: its window may go while the box is shown, and takes it along.
-    const QPointer<QMessageBox> box =
-        new QMessageBox(QMessageBox::Information, QApplication::applicationDisplayName(),
-                        messageText, QMessageBox::Ok, windowForBoxes());
-    box->setObjectName(u"messageBox"_s);
-    box->setInformativeText(informativeText);
-    showAsPlainText(*box);
+    const QPointer<AlertBox> box = new AlertBox(messageText, informativeText);
     Mnemonics::keepUnique(box);
     const int answer = box->exec();
     delete box;
