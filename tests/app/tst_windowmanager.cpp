@@ -53,6 +53,7 @@ public:
         }
         if (!missing.isEmpty())
             return;
+        qunsetenv("LD_PRELOAD"); // the sanitizer's runtime is not for other programs
         m_server.start(u"Xvfb"_s,
                        {u"-displayfd"_s, u"1"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s, u"0"_s,
                         u"1280x900x24"_s});

@@ -13,6 +13,7 @@ from pathlib import Path
 
 from traps import Entry, FOLDER, GOOD, TRAPS, archive, link
 
+os.environ.pop("LD_PRELOAD", None)  # the sanitizer's runtime would have to come first
 UNZIP = Path(sys.argv.pop(1)) / "libexec/toolvane/unzip"
 
 
@@ -94,7 +95,10 @@ class Traps(unittest.TestCase):
 
     def test_limits(self):
         many = archive(*(Entry(b"d%d/f" % i) for i in range(200)))
+        sanitized = b"__asan_init" in UNZIP.read_bytes()  # needs terabytes of addresses
         for limit, statuses in (("-n 16", {0}), ("-v 200000", {0, 4}), ("-u 1", {0})):
+            if sanitized and limit.startswith("-v"):
+                continue
             with self.subTest(limit):
                 self.setUp()
                 self.assertIn(self.unpack_within(limit, many), statuses)

@@ -16,6 +16,8 @@ from pathlib import Path
 
 import zoo
 
+os.environ.pop("LD_PRELOAD", None)  # the sanitizer's runtime would have to come first
+
 PROGRAMS = Path(sys.argv.pop(1)) / "libexec/toolvane"
 IS_LONG = "--long" in sys.argv and sys.argv.remove("--long") is None
 MEGABYTE = 1 << 20
@@ -237,7 +239,10 @@ class Zip(Trial):
         for i in range(300):
             (self.folder / f"{i % 7}").mkdir(exist_ok=True)
             (self.folder / f"{i % 7}/{i}").write_bytes(zoo.contents(10000, i))
+        sanitized = b"__asan_init" in (PROGRAMS / "zip").read_bytes()  # needs terabytes of addresses
         for limit, statuses in (("-n 24", {0}), ("-v 150000", {0, 4}), ("-f 100", {14})):
+            if sanitized and limit.startswith("-v"):
+                continue
             with self.subTest(limit):
                 end = run("sh", "-c", f'ulimit {limit}; exec "$@"', "sh", PROGRAMS / "zip", "-r",
                           self.archive, ".", "-0", "-q", cwd=self.folder)
